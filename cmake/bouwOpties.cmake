@@ -1,0 +1,38 @@
+# What every target of the tree is built with: the language, the warnings (each one an error) and,
+# where asked for, the sanitizers. Targets take it by linking `bouwOpties`.
+
+set(CMAKE_CXX_STANDARD 17)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+
+option(KESTROLIN_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+
+add_library(bouwOpties INTERFACE)
+target_include_directories(bouwOpties INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_options(
+  bouwOpties
+  INTERFACE -Wall
+            -Wextra
+            -Wpedantic
+            -Wshadow
+            -Wconversion
+            -Wsign-conversion
+            -Wold-style-cast
+            -Wcast-qual
+            -Wformat=2
+            -Wnon-virtual-dtor
+            -Woverloaded-virtual
+            -Werror)
+
+if(KESTROLIN_SANITIZE)
+  set(_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
+  # Optimised a little, so that the sanitizer run keeps within CI's time.
+  target_compile_options(bouwOpties INTERFACE ${_sanitizers} -fno-omit-frame-pointer -O1)
+  target_link_options(bouwOpties INTERFACE ${_sanitizers})
+endif()
+
+# voeg_kamer_toe(naam bron...): one folder's static library, built with the shared options.
+function(voeg_kamer_toe naam)
+  add_library(${naam} STATIC ${ARGN})
+  target_link_libraries(${naam} PUBLIC bouwOpties)
+endfunction()

@@ -1,0 +1,18 @@
+# The outside libraries as targets. `wxBasis` is the toolkit without windows, `wxVenster` the whole;
+# a room that links only wxBasis cannot grow a window by accident. Headers count as system headers,
+# so that our warnings stay ours.
+
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(sndfile REQUIRED IMPORTED_TARGET sndfile)
+
+function(_maak_wx_doel doel)
+  find_package(wxWidgets 3.0 REQUIRED COMPONENTS ${ARGN})
+  add_library(${doel} INTERFACE)
+  target_include_directories(${doel} SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
+  target_compile_definitions(${doel} INTERFACE ${wxWidgets_DEFINITIONS})
+  target_compile_options(${doel} INTERFACE ${wxWidgets_CXX_FLAGS})
+  target_link_libraries(${doel} INTERFACE ${wxWidgets_LIBRARIES})
+endfunction()
+
+_maak_wx_doel(wxBasis base)
+_maak_wx_doel(wxVenster core base)
