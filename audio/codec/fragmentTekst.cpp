@@ -1,0 +1,135 @@
+#include "audio/codec/fragmentTekst.h"
+
+#include <wx/datetime.h>
+#include <wx/filename.h>
+#include <wx/intl.h>
+#include <wx/platinfo.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <string_view>
+
+namespace {
+
+constexpr std::size_t bytesPerRij = 8;
+
+// The text of one byte in a data row, at most "0xff,".
+struct ByteTekst {
+  std::array<wchar_t, 5> tekens;
+  std::size_t lengte;
+
+  constexpr std::wstring_view zicht() const { return {tekens.data(), lengte}; }
+};
+
+constexpr ByteTekst maakByteTekst(std::size_t waarde) {
+  constexpr std::wstring_view cijfers = L"0123456789abcdef";
+  constexpr std::size_t basis = 16;
+  if (waarde < basis) {
+    return {{L'0', L'x', cijfers[waarde], L',', L'\0'}, 4};
+  }
+  return {{L'0', L'x', cijfers[waarde / basis], cijfers[waarde % basis], L','}, 5};
+}
+
+constexpr std::array<ByteTekst, 256> maakByteTeksten() {
+  std::array<ByteTekst, 256> teksten{};
+  for (std::size_t waarde = 0; waarde < teksten.size(); ++waarde) {
+    teksten[waarde] = maakByteTekst(waarde);
+  }
+  return teksten;
+}
+
+// Every byte's text is worked out by the compiler: a call to a formatter for each byte would take
+// ten times as long as all the rest of an encoding.
+constexpr std::array<ByteTekst, 256> byteTeksten = maakByteTeksten();
+
+// The %d of a count in the text shows its low 32 bits.
+int laagsteBits(unsigned long long aantal) {
+  return static_cast<int>(aantal);
+}
+
+}  // namespace
+
+wxString fragmentDuur(sf_count_t frames, int samplerate) {
+  if (samplerate == 0) {
+    return frames == 0 ? "nan" : "inf";
+  }
+  constexpr int decimalen = 2;
+  return wxString::FromCDouble(static_cast<double>(frames) / samplerate, decimalen);
+}
+
+FragmentTekst::FragmentTekst(wxOutputStream& uit) : tekstStroom(uit) {}
+
+void FragmentTekst::schrijf(wxString const& tekst) {
+  tekstStroom.WriteString(tekst);
+}
+
+void FragmentTekst::schrijfKop(wxFileName const& wav, SF_INFO const& info) {
+  wxPlatformInfo const platform;
+  wxDateTime const nu = wxDateTime::Now();
+  schrijf("\n/* Encoded on " + platform.GetOperatingSystemIdName() + " (" +
+          platform.GetBitnessName() + ")" + "\t\t*/\n");
+  schrijf("/* Date : " + nu.Format("%Y-%m-%d") + " : " + nu.Format("%H:%M:%S") + "\t\t*/\n");
+  schrijf("/* WAV file : " + wav.GetFullName() + "\t\t*/\n");
+  schrijf("/* WAV information :   \t\t*/\n");
+  schrijf(wxString::Format("/* Sampling frequency         : %d Hz\t\t*/\n", info.samplerate));
+  schrijf(wxString::Format("/* Original size              : %d frames\t\t*/\n",
+                           laagsteBits(static_cast<unsigned long long>(info.frames))));
+  schrijf("/* Original duration          : " + fragmentDuur(info.frames, info.samplerate) +
+          " s\t\t*/\n");
+}
+
+void FragmentTekst::schrijfTelling(FragmentDoel const& doel, wxString const& achtervoegsel,
+                                   unsigned long long aantal) {
+  wxString const getal = wxString::Format("%d", laagsteBits(aantal));
+  if (doel.taal == FragmentTaalC) {
+    schrijf("/* const unsigned int " + doel.naam + achtervoegsel + "=" + getal + "; */\n");
+  } else if (doel.taal == FragmentTaalCPP) {
+    schrijf("//const unsigned int " + doel.klasse + "::" + doel.naam + achtervoegsel + "=" + getal +
+            ";\n");
+  }
+}
+
+void FragmentTekst::schrijfHeaderUitleg(FragmentDoel const& doel) {
+  if (doel.taal == FragmentTaalC || doel.taal == FragmentTaalCPP) {
+    schrijf(
+        _("\n/* Bytes 0..3: Number of samples (Little Endian)\n    Bytes 4..5: Sampling "
+          "frequency\n    Bytes 6..End:Data  */\n\n"));
+  }
+}
+
+void FragmentTekst::schrijfArrayKop(FragmentDoel const& doel, wxString const& elementType) {
+  if (doel.taal == FragmentTaalC) {
+    schrijf("const " + elementType + " " + doel.naam + "[] = \n{\n");
+  } else if (doel.taal == FragmentTaalCPP) {
+    schrijf("const " + elementType + " " + doel.klasse + "::" + doel.naam + "[] = \n{\n");
+  }
+}
+
+void FragmentTekst::schrijfRijen(VelmoraArray<unsigned char> const& array) {
+  // Rows go out a block at a time: large enough that the stream's own cost is lost in it, small
+  // enough that a long fragment takes no second copy of its text.
+  constexpr std::size_t rijenPerBlok = 512;
+  constexpr std::size_t rijTekens = 1 + bytesPerRij * 5 + 1;
+  std::wstring blok;
+  blok.reserve(rijenPerBlok * rijTekens);
+
+  unsigned char const* byte = array.begin();
+  while (byte != array.end()) {
+    blok.clear();
+    for (std::size_t rij = 0; rij < rijenPerBlok && byte != array.end(); ++rij) {
+      auto const over = static_cast<std::size_t>(array.end() - byte);
+      unsigned char const* const einde = byte + std::min(bytesPerRij, over);
+      blok += L'\t';
+      std::for_each(byte, einde, [&blok](unsigned char b) { blok += byteTeksten[b].zicht(); });
+      blok += L'\n';
+      byte = einde;
+    }
+    schrijf(blok);
+  }
+}
+
+void FragmentTekst::schrijfEinde(wxFileName const& wav) {
+  schrijf("\n};\n\n");
+  schrijf("/* end of encoded WAV file         : " + wav.GetFullName() + "         */\n");
+}

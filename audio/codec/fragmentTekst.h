@@ -1,0 +1,61 @@
+// The writer of the text of one audio fragment: the comment lines, the head of the array, its data
+// rows and its end, as far as the encoders have them in common. What it writes is compiled into
+// firmware, so that every blank and tab of it counts.
+#pragma once
+
+#include <sndfile.h>
+#include <wx/string.h>
+#include <wx/txtstrm.h>
+
+#include "audio/codec/array.h"
+
+class wxFileName;
+class wxOutputStream;
+
+// The output languages by their index in the language choice. Every other value writes no array
+// head at all.
+enum FragmentTaal : int { FragmentTaalC = 0, FragmentTaalCPP = 1 };
+
+// Where a fragment's array belongs. The names go into the text as they stand: whether they are
+// legal identifiers is the user's affair.
+struct FragmentDoel {
+  int taal;         // a FragmentTaal, or any other value
+  wxString klasse;  // the class that owns the arrays in C++
+  wxString naam;    // the array: the file's name without path and extension
+};
+
+class FragmentTekst {
+ public:
+  // Appends to `uit`, which must outlive this object, as UTF-8 with "\n" line ends.
+  explicit FragmentTekst(wxOutputStream& uit);
+
+  void schrijf(wxString const& tekst);
+
+  // The comment lines about the machine, the moment and the file: `info` is what libsndfile tells
+  // of it, and all zeros for a file that is not there.
+  void schrijfKop(wxFileName const& wav, SF_INFO const& info);
+
+  // The line that tells a count under the name of the array with `achtervoegsel` behind it.
+  void schrijfTelling(FragmentDoel const& doel, wxString const& achtervoegsel,
+                      unsigned long long aantal);
+
+  // The comment on the header bytes, translated. It tells the PCM layout, and stands before ADPCM
+  // arrays too.
+  void schrijfHeaderUitleg(FragmentDoel const& doel);
+
+  // The line that opens the array, with elements of `elementType`.
+  void schrijfArrayKop(FragmentDoel const& doel, wxString const& elementType);
+
+  // All bytes of the array, eight to the row, in lower-case hexadecimal.
+  void schrijfRijen(VelmoraArray<unsigned char> const& array);
+
+  // Closes the array and names the file once more.
+  void schrijfEinde(wxFileName const& wav);
+
+ private:
+  wxTextOutputStream tekstStroom;
+};
+
+// The duration in seconds with two decimals. The decimal point stays a point in every locale: the
+// text must not change with the user's language. No samples at no frequency last "nan".
+wxString fragmentDuur(sf_count_t frames, int samplerate);

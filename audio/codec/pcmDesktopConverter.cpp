@@ -1,0 +1,87 @@
+#include "audio/codec/pcmDesktopConverter.h"
+
+#include <wx/datstrm.h>
+#include <wx/filename.h>
+#include <wx/mstream.h>
+#include <wx/wfstream.h>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+#include "audio/codec/fragmentTekst.h"
+#include "audio/codec/pcmPakket.h"
+#include "audio/codec/sndBestand.h"
+#include "numeriek/byteGereedschap.h"
+
+PCMDesktopConverter::PCMDesktopConverter(PCMEncoderOpties const& opties)
+    : taal(opties.taal), klasseNaam(opties.klasseNaam), bitShift(opties.bitShift) {}
+
+void PCMDesktopConverter::zetOpties(PCMEncoderOpties const& opties) {
+  taal = opties.taal;
+  klasseNaam = opties.klasseNaam;
+  bitShift = opties.bitShift;
+}
+
+VelmoraPCMPakket* PCMDesktopConverter::codeerBestand(wxFileName const& wav) {
+  SndBestand bestand = SndBestand::lees(wav);
+  SF_INFO const& info = bestand.info();
+  auto pakket = std::make_unique<VelmoraPCMPakket>(static_cast<unsigned long long>(info.frames),
+                                                   Breuk(info.samplerate, 1));
+  bestand.leesItems(pakket->geefData(), info.frames);
+  pakket->vlakAf(bitShift);
+  return pakket.release();
+}
+
+void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
+                                        wxMemoryOutputStream& uit) {
+  std::unique_ptr<VelmoraPCMPakket> const pakket(codeerBestand(wav));
+  // The lines about the file tell what it is now, the array what was read from it.
+  SndBestand const bestand = SndBestand::lees(wav);
+  VelmoraArray<unsigned char> array(pakket->serieelGeefAantalBytes());
+  pakket->maakSerieel(array, metHeader);
+
+  FragmentDoel const doel{taal, klasseNaam, wav.GetName()};
+  FragmentTekst tekst(uit);
+  tekst.schrijfKop(wav, bestand.info());
+  tekst.schrijfTelling(doel, "_pcmNumberOfEncSamples", pakket->geefAantalSamples());
+  if (metHeader) {
+    tekst.schrijfHeaderUitleg(doel);
+  }
+  tekst.schrijfArrayKop(doel, "unsigned char");
+  tekst.schrijfRijen(array);
+  tekst.schrijfEinde(wav);
+  // A memory stream takes more text after this.
+  uit.Close();
+}
+
+void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
+                                        wxFileName const& uitvoer) {
+  wxMemoryOutputStream tekst;
+  codeerBestand(wav, metHeader, tekst);
+  wxFileOutputStream bestand(uitvoer.GetFullPath());
+  if (!bestand.IsOk()) {
+    return;
+  }
+  std::vector<char> blok(tekst.GetSize());
+  tekst.CopyTo(blok.data(), blok.size());
+  bestand.Write(blok.data(), blok.size());
+}
+
+void PCMDesktopConverter::decodeerBestand(wxFileName const& bron, wxFileName const& doel) {
+  wxFileInputStream stroom(bron.GetFullPath());
+  if (!stroom.IsOk()) {
+    return;
+  }
+  // What a file too short for its header lacks counts as zero.
+  std::array<unsigned char, VelmoraPCMPakket::SerieeleOverhead> kop{};
+  stroom.Read(kop.data(), kop.size());
+  std::size_t const aantal = MaakWoord(kop[3], kop[2], kop[1], kop[0]);
+  int const freq = MaakShort(kop[5], kop[4]);
+  std::vector<wxUint16> waarden(aantal);
+  wxDataInputStream(stroom).Read16(waarden.data(), waarden.size());
+
+  SndBestand wav = SndBestand::schrijf(doel, freq, 1, SF_FORMAT_WAV | SF_FORMAT_PCM_16);
+  wav.schrijfItems(reinterpret_cast<short const*>(waarden.data()),
+                   static_cast<sf_count_t>(waarden.size()));
+}

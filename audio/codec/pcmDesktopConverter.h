@@ -1,0 +1,56 @@
+// The PCM encoder of the desktop tool: turns a WAV file into the text of a source array with its
+// samples, scaled to the width of the target's DAC, and a binary image back into a WAV file.
+#pragma once
+
+#include <wx/string.h>
+
+class VelmoraPCMPakket;
+class wxFileName;
+class wxMemoryOutputStream;
+
+// The output language: the index of the language choice in the main window. Every value other than
+// C and C++ leaves the head of the array out.
+enum PCMEncoderTaal : int { PCMTaalC = 0, PCMTaalCPP = 1, PCMTaalPython = 2 };
+
+struct PCMEncoderOpties {
+  PCMEncoderOpties(PCMEncoderTaal uitvoerTaal, unsigned long long schuif)
+      : taal(uitvoerTaal), bitShift(schuif) {}
+  PCMEncoderOpties(PCMEncoderTaal uitvoerTaal, wxString const& klasse, unsigned long long schuif)
+      : taal(uitvoerTaal), klasseNaam(klasse), bitShift(schuif) {}
+
+  PCMEncoderTaal taal;
+  wxString klasseNaam;          // the class that owns the arrays in C++, empty otherwise
+  unsigned long long bitShift;  // bits to scale away: 16 minus the width of the DAC
+};
+
+// None of the operations reports an error: a file that cannot be read counts as one of 0 samples at
+// 0 Hz. std::bad_alloc passes through.
+class PCMDesktopConverter {
+ public:
+  explicit PCMDesktopConverter(PCMEncoderOpties const& opties);
+
+  // Replaces the language, the class name and the shift.
+  void zetOpties(PCMEncoderOpties const& opties);
+
+  // Reads one file and scales its samples. The caller owns the packet. Of a file with more than one
+  // channel it takes as many interleaved values as the file has frames.
+  VelmoraPCMPakket* codeerBestand(wxFileName const& wav);
+
+  // Appends the text of one file to `uit`, with the serial header in the array or without. Either
+  // way the array has room for the header; without it, six zero bytes stand at its end.
+  void codeerBestand(wxFileName const& wav, bool metHeader, wxMemoryOutputStream& uit);
+
+  // Writes the text of one file to a file of its own, replacing what it held.
+  void codeerBestand(wxFileName const& wav, bool metHeader, wxFileName const& uitvoer);
+
+  // Turns the binary serial image with header in `bron` into a mono 16-bit WAV file. The count in
+  // the image is believed: where the file holds less, zeros make up the rest. The samples are not
+  // scaled back, so an image for an 8-bit DAC plays at 1/256 of its source's level. A `bron` that
+  // cannot be read leaves `doel` alone.
+  void decodeerBestand(wxFileName const& bron, wxFileName const& doel);
+
+ private:
+  PCMEncoderTaal taal;
+  wxString klasseNaam;
+  unsigned long long bitShift;
+};

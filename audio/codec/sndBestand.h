@@ -1,0 +1,37 @@
+// A sound file opened through libsndfile: the shared holder of its handle, and the one place that
+// turns a file name into the path bytes that the library gets.
+#pragma once
+
+#include <sndfile.h>
+
+#include <memory>
+
+class wxFileName;
+
+// Copies share one handle; the last one closes it, and for a written file that completes the
+// header. Nothing here reports an error: a file that could not be opened has an info() of zeros and
+// no samples.
+class SndBestand {
+ public:
+  // Opens for reading. info() tells what the header says.
+  static SndBestand lees(wxFileName const& bestand);
+  // Opens for writing, with any old content gone: `samplerate` in Hz, `formaat` a libsndfile format
+  // word.
+  static SndBestand schrijf(wxFileName const& bestand, int samplerate, int kanalen, int formaat);
+
+  bool isOpen() const { return handvat != nullptr; }
+  SF_INFO const& info() const { return gegevens; }
+
+  // Reads up to `aantal` interleaved 16-bit values and returns how many it got. The library turns
+  // away a count that is no whole number of frames; here the values of a broken last frame are
+  // taken from that frame and the rest of it is dropped.
+  sf_count_t leesItems(short* doel, sf_count_t aantal);
+  // Writes `aantal` 16-bit values, whole frames, and returns how many were written.
+  sf_count_t schrijfItems(short const* bron, sf_count_t aantal);
+
+ private:
+  SndBestand(wxFileName const& bestand, int modus, SF_INFO const& gevraagd);
+
+  SF_INFO gegevens;
+  std::shared_ptr<SNDFILE> handvat;
+};
