@@ -1,0 +1,57 @@
+#include "externals/desktop/desktopApp.h"
+
+#include <wx/msgdlg.h>
+#include <wx/window.h>
+
+namespace {
+
+constexpr char const* vensterPad = "/Gebruikersinstellingen/Venster";
+constexpr char const* breedteSleutel = "GrootteX";
+constexpr char const* hoogteSleutel = "GrootteY";
+
+}  // namespace
+
+DesktopApp::DesktopApp(wxString const& naam) : DesktopAppBasis(naam) {
+  SetAppName(naam);
+  SetAppDisplayName(naam);
+  SetVendorName("Velmora");
+  SetVendorDisplayName("Velmora");
+}
+
+void DesktopApp::zetHoofdVenster(wxWindow* venster) {
+  hoofdVenster = venster;
+  zetHoofdVensterGrootte();
+  SetTopWindow(venster);
+}
+
+void DesktopApp::zetHoofdVensterGrootte() {
+  constexpr long standaardBreedte = 800;
+  constexpr long standaardHoogte = 600;
+  wxFileConfig* const config = geefAppConfig();
+  config->SetPath(vensterPad);
+  auto const breedte = static_cast<int>(config->ReadLong(breedteSleutel, standaardBreedte));
+  auto const hoogte = static_cast<int>(config->ReadLong(hoogteSleutel, standaardHoogte));
+  hoofdVenster->SetClientSize(breedte, hoogte);
+  hoofdVenster->Centre(wxBOTH);
+}
+
+void DesktopApp::bewaarHoofdVensterGrootte() const {
+  wxSize const grootte = hoofdVenster->GetClientSize();
+  wxFileConfig* const config = geefAppConfig();
+  config->SetPath(vensterPad);
+  config->Write(breedteSleutel, grootte.GetWidth());
+  config->Write(hoogteSleutel, grootte.GetHeight());
+}
+
+void DesktopApp::zetTaal(wxLanguage nieuweTaal) {
+  int const antwoord = wxMessageBox(
+      _("A new application language was selected.\nDo you want to proceed?\nPlease select YES to "
+        "put the changes into effect and exit the application.\n You will need to restart the "
+        "application for the changes to take effect."),
+      _("Restart the application"), wxYES_NO, hoofdVenster);
+  if (antwoord != wxYES) {
+    return;
+  }
+  bewaarTaal(nieuweTaal);
+  ExitMainLoop();
+}

@@ -1,0 +1,33 @@
+// A windowed application on top of DesktopAppBasis: knows its main window, remembers that window's
+// size, and changes the language.
+#pragma once
+
+#include <wx/app.h>
+
+#include "externals/desktop/desktopAppBasis.h"
+
+class wxWindow;
+
+class DesktopApp : public wxApp, public DesktopAppBasis {
+ public:
+  explicit DesktopApp(wxString const& naam);
+
+  // Makes `venster`, which is not owned, the main window: gives it the remembered size and makes it
+  // the application's top window.
+  void zetHoofdVenster(wxWindow* venster);
+
+  // Gives the main window the client size of the configuration, in pixels (800x600 where there is
+  // none), and centres it.
+  void zetHoofdVensterGrootte();
+  // Stores the main window's client size in the configuration. This tool does not call it: its
+  // window opens at 800x600 each time, unless the file was edited by hand.
+  void bewaarHoofdVensterGrootte() const;
+
+  // Asks whether to end the application so that `nieuweTaal` takes effect at the next start. On any
+  // answer but yes the new language is forgotten. On yes it is stored and the main loop ends,
+  // without a question about unsaved work.
+  void zetTaal(wxLanguage nieuweTaal) override;
+
+ private:
+  wxWindow* hoofdVenster = nullptr;
+};

@@ -1,0 +1,138 @@
+#include "externals/desktop/desktopAppBasis.h"
+
+#include <langinfo.h>
+#include <wx/datetime.h>
+#include <wx/gdicmn.h>
+#include <wx/log.h>
+#include <wx/stdpaths.h>
+#include <wx/translation.h>
+#include <wx/utils.h>
+
+#include <clocale>
+#include <cstring>
+
+namespace {
+
+constexpr char const* gebruikersPad = "/Gebruikersinstellingen";
+constexpr char const* statistiekPad = "/Statistiek";
+constexpr char const* taalSleutel = "Taal";
+
+struct Moment {
+  wxString datum;
+  wxString tijd;
+};
+
+// The local date and time of now.
+Moment geefMoment() {
+  wxDateTime const nu = wxDateTime::Now();
+  return {nu.Format("%Y-%m-%d"), nu.Format("%H:%M:%S")};
+}
+
+bool isWindows(wxOperatingSystemId systeem) {
+  return systeem == wxOS_WINDOWS_9X || systeem == wxOS_WINDOWS_NT ||
+         systeem == wxOS_WINDOWS_MICRO || systeem == wxOS_WINDOWS_CE;
+}
+
+// Reads a whole number. Anything else in the file, or nothing, gives the default.
+int leesGetal(wxConfigBase const& config, wxString const& sleutel, int standaard) {
+  return static_cast<int>(config.ReadLong(sleutel, standaard));
+}
+
+// Without a locale the process is in "C", in which no name with an accent can be turned into the
+// bytes of a path. The character type of the user's environment, or that of C.UTF-8 where the
+// environment offers ASCII alone, brings such names back and changes nothing else.
+void zetTekensoort() {
+  std::setlocale(LC_CTYPE, "");
+  if (std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0) {
+    std::setlocale(LC_CTYPE, "C.UTF-8");
+  }
+}
+
+}  // namespace
+
+DesktopAppBasis::DesktopAppBasis(wxString const& naam)
+    : appConfig(std::make_unique<wxFileConfig>(naam, "Velmora", wxEmptyString, wxEmptyString,
+                                               wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE,
+                                               wxConvAuto())) {
+  // A path that holds a dollar sign is to come back as it was written.
+  appConfig->SetExpandEnvVars(false);
+  instantieControle.Create(naam + "-" + wxGetUserId(), "/tmp");
+
+  Moment const start = geefMoment();
+  wxConfigBase::DontCreateOnDemand();
+  appConfig->SetPath(gebruikersPad);
+  taal = leesGetal(*appConfig, taalSleutel, wxLANGUAGE_ENGLISH);
+  appConfig->SetPath(statistiekPad);
+  appConfig->Write("StartDatum", start.datum);
+  appConfig->Write("StartTijd", start.tijd);
+
+  startTaal(naam);
+}
+
+DesktopAppBasis::~DesktopAppBasis() {
+  Moment const stop = geefMoment();
+  appConfig->SetPath(gebruikersPad);
+  appConfig->Write(taalSleutel, taal);
+  appConfig->SetPath(statistiekPad);
+  appConfig->Write("StopDatum", stop.datum);
+  appConfig->Write("StopTijd", stop.tijd);
+  appConfig->Write("OS", static_cast<int>(platform.GetOperatingSystemId()));
+  wxConfigBase::Set(nullptr);
+  appConfig.reset();
+}
+
+void DesktopAppBasis::startTaal(wxString const& naam) {
+  wxString const taalNaam = wxLocale::GetLanguageName(taal);
+  if (isWindows(platform.GetOperatingSystemId())) {
+    wxFileTranslationsLoader::AddCatalogLookupPathPrefix(wxStandardPaths::Get().GetResourcesDir() +
+                                                         "\\..\\share\\locale");
+  }
+  if (!locale.Init(taal, wxLOCALE_LOAD_DEFAULT)) {
+    wxLogError("Could not initialise the Locale for %s", taalNaam);
+    zetTekensoort();
+  } else if (taal != wxLANGUAGE_ENGLISH) {
+    // The source texts are English, so that English needs no catalog.
+    voegCatalogiToe(naam, taalNaam);
+  }
+}
+
+void DesktopAppBasis::voegCatalogiToe(wxString const& naam, wxString const& taalNaam) {
+  if (!locale.AddCatalog("Velmoradesktop")) {
+    wxLogError("Could not add Velmora catalog for language : %s", taalNaam);
+  }
+  if (!locale.AddCatalog(naam)) {
+    wxLogError("Could not add application language catalog for language : %s", taalNaam);
+  }
+}
+
+wxString DesktopAppBasis::geefOSNaam() const {
+  return platform.GetOperatingSystemDescription();
+}
+
+int DesktopAppBasis::onInitRoutines() {
+  constexpr int magStarten = 0;
+  constexpr int afgebroken = 2;
+  constexpr int minimumBreedte = 1024;
+  constexpr int minimumHoogte = 768;
+
+  if (instantieControle.IsAnotherRunning()) {
+    wxLogError("%s",
+               _("A running instance of this application was detected.\n Launch is cancelled."));
+    return afgebroken;
+  }
+  wxSize const scherm = wxGetDisplaySize();
+  if (scherm.GetWidth() < minimumBreedte || scherm.GetHeight() < minimumHoogte) {
+    wxLogError(
+        "%s",
+        _("This application requires a minimum screen resolution of 1024x768 pixels.\nThe launch "
+          "will be cancelled."));
+    return afgebroken;
+  }
+  return magStarten;
+}
+
+void DesktopAppBasis::bewaarTaal(wxLanguage nieuweTaal) {
+  taal = nieuweTaal;
+  appConfig->SetPath(gebruikersPad);
+  appConfig->Write(taalSleutel, taal);
+}
