@@ -1,0 +1,174 @@
+// The main window: the one window of the tool, with all its controls, and the owner of its working
+// state: the loaded files, the text of the last encoding, and what the enable rules follow from.
+//
+// Its work is split over files by concern: HoofdVenster.cpp (construction, event table, end),
+// HoofdVensterIndeling.cpp (sizers), and one file each for the settings, loading, encoding, saving
+// and playing.
+#pragma once
+
+#include <wx/filehistory.h>
+#include <wx/filename.h>
+#include <wx/frame.h>
+#include <wx/mstream.h>
+
+#include <array>
+
+#include "audio/codec/pcmDesktopConverter.h"
+#include "audio/speex/encoder/toepassing/kestrolinConfig.h"
+
+class wxButton;
+class wxCheckBox;
+class wxChoice;
+class wxConfigBase;
+class wxPanel;
+class wxRadioBox;
+class wxSizer;
+class wxSpinCtrl;
+class wxSpinEvent;
+class wxStaticBox;
+class wxStaticText;
+class wxTextCtrl;
+class wxTreeCtrl;
+class wxTreeItemId;
+class wxUpdateUIEvent;
+struct CoderingsRun;
+struct SF_INFO;
+
+class HoofdVenster : public wxFrame {
+ public:
+  // The widths of the DACs in bits, by the index of the DAC choice.
+  static constexpr std::array<long long, 4> DacAantalBits{8, 10, 12, 16};
+
+  // Builds the window from the settings and the configuration of the running application. It sets a
+  // title of its own in the place of `title`.
+  HoofdVenster(wxWindow* parent, int id, wxString const& title, wxPoint const& pos,
+               wxSize const& size, long style);
+  // Writes the directories, the class name, the encoder kind and the file history into the
+  // configuration.
+  ~HoofdVenster() override;
+
+  HoofdVenster(HoofdVenster const&) = delete;
+  HoofdVenster& operator=(HoofdVenster const&) = delete;
+  HoofdVenster(HoofdVenster&&) = delete;
+  HoofdVenster& operator=(HoofdVenster&&) = delete;
+
+  // The event handlers. They ignore their argument, but for the id of a history entry, and read the
+  // controls.
+  virtual void playMusicHandler(wxCommandEvent& event);
+  virtual void encodeHandler(wxCommandEvent& event);
+  virtual void onQuit(wxCommandEvent& event);
+  virtual void speexSaveHandler(wxCommandEvent& event);
+  virtual void bestandGeladenHandler(wxUpdateUIEvent& event);
+  virtual void wavSaveHandler(wxCommandEvent& event);
+  virtual void dacTypeHandler(wxCommandEvent& event);
+  virtual void headerInfoHandler(wxUpdateUIEvent& event);
+  virtual void qualityHandler(wxSpinEvent& event);
+  virtual void complexityHandler(wxSpinEvent& event);
+  virtual void vadHandler(wxCommandEvent& event);
+  virtual void agcHandler(wxCommandEvent& event);
+  virtual void denoiseHandler(wxCommandEvent& event);
+  virtual void perpenhHandler(wxCommandEvent& event);
+  virtual void maxRateHandler(wxCommandEvent& event);
+  virtual void langImplHandler(wxCommandEvent& event);
+  virtual void inclHeaderHandler(wxCommandEvent& event);
+  virtual void onAbout(wxCommandEvent& event);
+  virtual void formaatHandler(wxCommandEvent& event);
+  virtual void bitRateTypeHandler(wxCommandEvent& event);
+  virtual void playEncodedHandler(wxCommandEvent& event);
+  virtual void wavOpenHandler(wxCommandEvent& event);
+  virtual void klasseIngaveHandler(wxCommandEvent& event);
+  virtual void taalHandler(wxCommandEvent& event);
+  virtual void encoderTypeHandler(wxCommandEvent& event);
+  void oudBestandLadenHandler(wxCommandEvent& event);
+  void encoderKeuzeHandler(wxUpdateUIEvent& event);
+
+  // Replaces all that was loaded by the usable files among `paden`, in their order; the others are
+  // logged and taken out of `paden`. Files of different sampling frequencies end the load.
+  void openWavFiles(wxArrayString& paden);
+
+  // The runs of the three encoders over all loaded files.
+  void encodeSpeex(wxCommandEvent& event);
+  void encodeADPCM(wxCommandEvent& event);
+  void encodePCM(wxCommandEvent& event);
+
+  // Shows the text of `stroom`, UTF-8, in the text field. It goes there through a temporary file,
+  // which stays behind.
+  void kopieerNaarTekstVeld(wxMemoryOutputStream const& stroom) const;
+
+ private:
+  void maakMenus();
+  void maakBronControls();
+  void maakSpeexControls();
+  void maakCodeControls();
+  void set_properties();
+  void do_layout();
+  wxSizer* maakBestandenKolom();
+  wxSizer* maakSpeexVak();
+  wxSizer* maakCodeVak();
+  wxSizer* maakUitvoerKolom();
+  void leesConfiguratie();
+  void toonInstellingen();
+
+  void meldAfgewezen(wxFileName const& bestand) const;
+  wxTreeItemId toonInBoom(wxFileName const& bestand, SF_INFO const& info) const;
+  void toonFormaat(wxTreeItemId const& knoop, SF_INFO const& info) const;
+  bool pastBijBand(std::size_t index, int samplerate);
+
+  unsigned long long geefBitShift() const;
+  void voerRunUit(CoderingsRun const& run);
+  wxFile::OpenMode vraagOpenModus(wxFileName const& bestand);
+
+  wxStaticBox* codeGeneratieBox = nullptr;
+  wxStaticBox* klasseOptiesBox = nullptr;
+  wxStaticBox* speexOptiesBox = nullptr;
+  wxMenuBar* menuBalk = nullptr;
+  wxStatusBar* statusBalk = nullptr;
+  wxButton* wavOpenKnop = nullptr;
+  wxTreeCtrl* audioBoom = nullptr;
+  wxButton* playMusicKnop = nullptr;
+  wxButton* wavSaveKnop = nullptr;
+  wxChoice* formaatKeuze = nullptr;
+  wxChoice* bitRateTypeKeuze = nullptr;
+  wxStaticText* qualityLabel = nullptr;
+  wxSpinCtrl* qualitySpin = nullptr;
+  wxStaticText* complexityLabel = nullptr;
+  wxSpinCtrl* complexitySpin = nullptr;
+  wxCheckBox* vadVakje = nullptr;
+  wxCheckBox* agcVakje = nullptr;
+  wxCheckBox* denoiseVakje = nullptr;
+  wxCheckBox* perpenhVakje = nullptr;
+  wxStaticText* maxRateLabel = nullptr;
+  wxTextCtrl* maxRateVeld = nullptr;
+  wxRadioBox* encoderTypeKeuze = nullptr;
+  wxRadioBox* langImplKeuze = nullptr;
+  wxStaticText* klasseLabel = nullptr;
+  wxTextCtrl* klasseVeld = nullptr;
+  wxCheckBox* inclHeaderVakje = nullptr;
+  wxChoice* dacTypeKeuze = nullptr;
+  wxButton* encodeKnop = nullptr;
+  wxButton* speexSaveKnop = nullptr;
+  wxButton* playEncodedKnop = nullptr;
+  wxTextCtrl* tekstVeld = nullptr;
+  wxButton* quitKnop = nullptr;
+  wxPanel* paneel = nullptr;
+  wxMenu* geschiedenisMenu = nullptr;
+
+  KestrolinConfig* instellingen;
+  wxConfigBase* config;
+  wxFileHistory bestandGeschiedenis;
+  wxFileName embedBestand;  // the last path saved as embedded WAV images
+  wxFileName speexBestand;  // the last path saved as generated text
+  PCMDesktopConverter pcmConverter;
+  wxMemoryOutputStream uitvoerStroom;  // the text of the last encoding
+  bool bestandGeladen = false;
+  bool gecodeerd = false;   // uitvoerStroom fits the settings
+  bool opgeslagen = false;  // that result has been saved
+  wxString wavDirectory;
+  wxString speexDirectory;
+  wxString wavFile;    // kept for the configuration, unchanged
+  wxString speexFile;  // likewise
+  wxString klasseNaam;
+  wxSortedArrayString wavBestanden;  // the full paths, in the order of their text
+
+  wxDECLARE_EVENT_TABLE();
+};

@@ -1,0 +1,136 @@
+// Loading of audio files: only their headers are read here. Whoever needs samples opens the files
+// again by path.
+#include <wx/choice.h>
+#include <wx/filedlg.h>
+#include <wx/intl.h>
+#include <wx/log.h>
+#include <wx/msgdlg.h>
+#include <wx/statusbr.h>
+#include <wx/treectrl.h>
+
+#include "audio/codec/sndBestand.h"
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/wavKeuring.h"
+#include "externals/desktop/logTekst.h"
+
+namespace {
+
+// The place of the format among the lines below a file.
+constexpr int formaatRij = 4;
+
+}  // namespace
+
+void HoofdVenster::wavOpenHandler(wxCommandEvent& /*event*/) {
+  // The dialog offers MP3 files, which are turned away afterwards.
+  wxFileDialog dialoog(this, _("Open an Audio file"), wavDirectory, wxEmptyString,
+                       "WAV Files (*.wav)|*.wav|MP3 Files (*mp3)|*.mp3",
+                       wxFD_OPEN | wxFD_FILE_MUST_EXIST | wxFD_MULTIPLE | wxFD_CHANGE_DIR);
+  if (dialoog.ShowModal() != wxID_OK) {
+    return;
+  }
+  wxArrayString paden;
+  dialoog.GetPaths(paden);
+  wavDirectory = dialoog.GetDirectory();
+  openWavFiles(paden);
+}
+
+void HoofdVenster::oudBestandLadenHandler(wxCommandEvent& event) {
+  auto const index = static_cast<std::size_t>(event.GetId() - wxID_FILE1);
+  if (index >= bestandGeschiedenis.GetCount()) {
+    return;
+  }
+  wxArrayString paden;
+  paden.Add(bestandGeschiedenis.GetHistoryFile(index));
+  openWavFiles(paden);
+}
+
+void HoofdVenster::openWavFiles(wxArrayString& paden) {
+  // bestandGeladen stays as it is: after a load without one usable file the window still counts as
+  // loaded if it was, with an empty list.
+  audioBoom->DeleteAllItems();
+  wavBestanden.Clear();
+  audioBoom->AddRoot(_("Audio Files"));
+  std::size_t i = 0;
+  while (i < paden.size()) {
+    wxString const pad = paden[i];
+    wxFileName const bestand(pad);
+    SF_INFO const info = SndBestand::lees(bestand).info();
+    if (!isBruikbaar(info)) {
+      meldAfgewezen(bestand);
+      paden.Remove(pad);
+      continue;
+    }
+    wxTreeItemId const knoop = toonInBoom(bestand, info);
+    if (!pastBijBand(i, info.samplerate)) {
+      bestandGeladen = false;
+      return;
+    }
+    toonFormaat(knoop, info);
+    wavBestanden.Add(pad);
+    bestandGeschiedenis.AddFileToHistory(pad);
+    bestandGeladen = true;
+    ++i;
+  }
+  if (bestandGeladen) {
+    gecodeerd = false;
+    statusBalk->SetStatusText(_("Audio files loaded"), 0);
+  }
+}
+
+void HoofdVenster::meldAfgewezen(wxFileName const& bestand) const {
+  wxLogError(
+      veiligFormaat(bestand.GetFullName() +
+                    _(" cannot be loaded because it isn't a WAV PCM/IMA ADPCM S16 8,16,32 kHz "
+                      "format audio file")));
+}
+
+wxTreeItemId HoofdVenster::toonInBoom(wxFileName const& bestand, SF_INFO const& info) const {
+  wxTreeItemId const knoop = audioBoom->AppendItem(audioBoom->GetRootItem(), bestand.GetFullName());
+  wxTreeItemId const frames = audioBoom->AppendItem(knoop, _("frames:"));
+  wxTreeItemId const samplerate = audioBoom->AppendItem(knoop, _("samplerate"));
+  wxTreeItemId const kanalen = audioBoom->AppendItem(knoop, _("channels:"));
+  audioBoom->AppendItem(knoop, _("format:"));
+  // This node never gets a value.
+  audioBoom->AppendItem(knoop, _("sections:"));
+  audioBoom->AppendItem(knoop, _("seekable:"));
+  // The low 32 bits of the count, as an unsigned number.
+  auto const aantal = static_cast<long>(static_cast<unsigned int>(info.frames));
+  audioBoom->SetItemText(frames, wxString::Format(_("frames     : %ld"), aantal));
+  audioBoom->SetItemText(samplerate, wxString::Format(_("samplerate : %d"), info.samplerate));
+  audioBoom->SetItemText(kanalen, wxString::Format(_("channels   : %d"), info.channels));
+  return knoop;
+}
+
+bool HoofdVenster::pastBijBand(std::size_t index, int samplerate) {
+  int const band = bandVoorFrequentie(samplerate);
+  if (index == 0) {
+    instellingen->speexFormat = band;
+    formaatKeuze->SetSelection(band);
+    return true;
+  }
+  if (band == instellingen->speexFormat) {
+    return true;
+  }
+  // A file at 8000 Hz ends the load without a word; users of the tool know the two cases apart by
+  // it.
+  if (band != 0) {
+    wxMessageBox(
+        _("Cannot convert multiple files with different sampling frequencies.\nPlease convert your "
+          "audio files to identical sampling frequencies."),
+        _("Multiple sampling frequencies not supported"), wxCLOSE | wxICON_ERROR, this);
+  }
+  return false;
+}
+
+void HoofdVenster::toonFormaat(wxTreeItemId const& knoop, SF_INFO const& info) const {
+  wxTreeItemIdValue plaats = nullptr;
+  wxTreeItemId kind = audioBoom->GetFirstChild(knoop, plaats);
+  for (int rij = 1; rij < formaatRij; ++rij) {
+    kind = audioBoom->GetNextChild(knoop, plaats);
+  }
+  audioBoom->SetItemText(
+      kind, isAdpcm(info) ? _("format     : WAV 4 Bit IMA ADPCM") : _("format     : WAV S16 PCM"));
+  // The last line is called seekable and shows the channels.
+  audioBoom->SetItemText(audioBoom->GetLastChild(knoop),
+                         wxString::Format(_("seekable   : %d"), info.channels));
+}

@@ -1,0 +1,27 @@
+// Which controls of the main window are usable when: the rules, without the window.
+#pragma once
+
+// The output languages that put the arrays into a class.
+constexpr bool taalHeeftKlasse(int taal) {
+  constexpr int taalCPP = 1;
+  constexpr int taalPython = 2;
+  return taal == taalCPP || taal == taalPython;
+}
+
+struct VensterToestand {
+  bool geladen;          // audio files are loaded
+  bool gecodeerd;        // there is a result that fits the settings
+  bool klasseOntbreekt;  // the language needs a class name, and there is none
+};
+
+struct Bediening {
+  bool bron;       // playing the source files, their tree
+  bool inbedden;   // saving the WAV files as they are
+  bool coderen;    // starting an encoder
+  bool resultaat;  // saving and playing the result
+};
+
+constexpr Bediening bepaalBediening(VensterToestand toestand) {
+  bool const klaar = toestand.geladen && !toestand.klasseOntbreekt;
+  return {toestand.geladen, klaar, klaar && !toestand.gecodeerd, toestand.gecodeerd};
+}

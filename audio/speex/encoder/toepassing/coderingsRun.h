@@ -1,0 +1,21 @@
+// The pieces in which the encoding runs of the three encoders differ.
+#pragma once
+
+#include <wx/string.h>
+
+#include <functional>
+
+#include "audio/speex/encoder/toepassing/runTekst.h"
+
+class wxFileName;
+
+struct CoderingsRun {
+  wxString kopRegel;  // the first line of the text, with the number of files in it
+  ArrayTypen typen;
+  // Appends the text of one file to the output, with the header in its array or without.
+  std::function<void(wxFileName const& wav, bool metHeader)> codeer;
+  // The end of the message after the run, translated; asked when all files are done.
+  std::function<wxString()> berichtStaart;
+  wxString titel;   // of the message box, not translated
+  wxString status;  // for the status bar, translated
+};
