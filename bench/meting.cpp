@@ -1,0 +1,41 @@
+#include "bench/meting.h"
+
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <algorithm>
+
+namespace {
+
+double alsSeconden(timeval const& tijd) {
+  constexpr double microsPerSeconde = 1e6;
+  return static_cast<double>(tijd.tv_sec) + static_cast<double>(tijd.tv_usec) / microsPerSeconde;
+}
+
+}  // namespace
+
+Verbruik meetInKind(std::function<int()> const& werk) {
+  pid_t const kind = fork();
+  if (kind == 0) {
+    _exit(werk());
+  }
+  int status = 0;
+  rusage gebruik{};
+  bool const gewacht = kind > 0 && wait4(kind, &status, 0, &gebruik) == kind;
+  constexpr double kibPerMib = 1024;
+  return {alsSeconden(gebruik.ru_utime) + alsSeconden(gebruik.ru_stime),
+          static_cast<double>(gebruik.ru_maxrss) / kibPerMib,
+          gewacht && WIFEXITED(status) && WEXITSTATUS(status) == 0};
+}
+
+Verbruik meetBeste(int keer, std::function<int()> const& werk) {
+  Verbruik beste = meetInKind(werk);
+  for (int i = 1; i < keer; ++i) {
+    Verbruik const nu = meetInKind(werk);
+    beste.seconden = std::min(beste.seconden, nu.seconden);
+    beste.megabytes = std::min(beste.megabytes, nu.megabytes);
+    beste.geslaagd = beste.geslaagd && nu.geslaagd;
+  }
+  return beste;
+}
