@@ -1,0 +1,69 @@
+#include "tests/steun/antwoorden.h"
+
+#include <gtest/gtest.h>
+#include <wx/filedlg.h>
+#include <wx/filename.h>
+#include <wx/msgdlg.h>
+#include <wx/utils.h>
+
+void Antwoorden::opBericht(int antwoord, std::function<void()> tijdens) {
+  wachtrij.push_back({false, antwoord, wxEmptyString, std::move(tijdens)});
+}
+
+void Antwoorden::opBestandsVraag(wxString const& pad) {
+  wachtrij.push_back({true, wxID_OK, pad, nullptr});
+}
+
+void Antwoorden::opBestandsVraagAnnuleren() {
+  wachtrij.push_back({true, wxID_CANCEL, wxEmptyString, nullptr});
+}
+
+int Antwoorden::Enter(wxDialog* dialoog) {
+  auto* const bericht = dynamic_cast<wxMessageDialog*>(dialoog);
+  auto* const bestand = dynamic_cast<wxFileDialog*>(dialoog);
+  if (wachtrij.empty() || (bericht == nullptr && bestand == nullptr) ||
+      wachtrij.front().bestand != (bestand != nullptr)) {
+    wxString const tekst = bericht != nullptr ? bericht->GetMessage() : dialoog->GetTitle();
+    ADD_FAILURE() << "unexpected dialog: " << tekst.utf8_str();
+    return wxID_CANCEL;
+  }
+  Antwoord const antwoord = wachtrij.front();
+  wachtrij.pop_front();
+  if (bestand != nullptr) {
+    return beantwoordBestand(*bestand, antwoord);
+  }
+  berichten.push_back({bericht->GetCaption(), bericht->GetMessage(),
+                       bericht->GetMessageDialogStyle(), bericht->GetParent()});
+  if (antwoord.tijdens) {
+    antwoord.tijdens();
+  }
+  return antwoord.id;
+}
+
+int Antwoorden::beantwoordBestand(wxFileDialog& dialoog, Antwoord const& antwoord) {
+  // The directory and the name as the program asked for them: GTK tells them only once it has read
+  // the folder, so they come from the toolkit's own fields where it keeps them.
+  bestandsVragen.push_back({dialoog.GetMessage(), dialoog.GetDirectory(),
+                            dialoog.HasFlag(wxFD_MULTIPLE) ? wxString() : dialoog.GetFilename(),
+                            dialoog.GetWildcard(), dialoog.GetWindowStyle(),
+                            dialoog.GetParent()});
+  if (antwoord.id != wxID_OK) {
+    return antwoord.id;
+  }
+  dialoog.SetPath(antwoord.pad);
+  // GTK works its folder off in idle time.
+  constexpr int pogingen = 500;
+  constexpr unsigned long pauze = 10;
+  wxArrayString paden;
+  for (int poging = 0; poging < pogingen; ++poging) {
+    wxYield();
+    dialoog.GetPaths(paden);
+    if (!paden.empty() && paden[0] == antwoord.pad) {
+      return wxID_OK;
+    }
+    wxMilliSleep(pauze);
+  }
+  ADD_FAILURE() << "the file dialog did not take " << antwoord.pad.utf8_str() << " but has "
+                << (paden.empty() ? "nothing" : paden[0].utf8_str().data());
+  return wxID_CANCEL;
+}

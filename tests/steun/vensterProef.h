@@ -1,0 +1,99 @@
+// The fixture of the window tests: the real application with its real main window, in a home
+// directory of its own, driven through its controls and menus.
+//
+// A test runs in a process of its own (ctest starts one each): the toolkit is started once in it.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <wx/arrstr.h>
+#include <wx/evtloop.h>
+#include <wx/string.h>
+
+#include <memory>
+#include <vector>
+
+#include "audio/speex/encoder/toepassing/vensterIds.h"
+#include "tests/steun/antwoorden.h"
+#include "tests/steun/tijdelijkeMap.h"
+
+class HoofdVenster;
+class wxButton;
+class wxCheckBox;
+class wxChoice;
+class wxMenuItem;
+class wxRadioBox;
+class wxSpinCtrl;
+class wxTextCtrl;
+class wxTreeCtrl;
+
+struct LogRegel {
+  unsigned long niveau;  // a wxLogLevel
+  wxString tekst;
+};
+
+class VensterProef : public ::testing::Test {
+ protected:
+  VensterProef();
+  ~VensterProef() override;
+
+  // Starts the application, with `configuratie` as the text of its configuration file where it is
+  // not empty.
+  void start(wxString const& configuratie = wxEmptyString);
+  // Ends the application as the user would by closing the window, and returns the configuration
+  // file's text.
+  wxString stop();
+  // True until the window has closed.
+  bool leeft() const { return venster != nullptr; }
+
+  // Lets the toolkit work off its events and one idle cycle, in which the enable rules run.
+  void rust();
+
+  // The controls, by kind and id: the ids 1 to 3 are shared between kinds.
+  wxButton* knop(int id) const;
+  wxChoice* keuze(int id) const;
+  wxRadioBox* radio(int id) const;
+  wxCheckBox* vakje(int id) const;
+  wxSpinCtrl* spin(int id) const;
+  wxTextCtrl* veld(int id) const;
+  wxTreeCtrl* boom() const;
+  wxMenuItem* menuItem(int id) const;
+  // The window of that label, whatever its kind.
+  wxWindow* metLabel(wxString const& label) const;
+  wxString status() const;
+  wxString tekst() const;
+
+  // What a user does: the control changes first, then its event goes out. A control that is
+  // disabled fails the test. Each lets the application rest afterwards.
+  void klik(int id);
+  void kies(wxChoice* keuze, int rij);
+  void kies(wxRadioBox* radio, int rij);
+  void zet(wxCheckBox* vakje, bool aan);
+  void zet(wxSpinCtrl* spin, int waarde);
+  void typ(wxTextCtrl* veld, wxString const& tekst);
+  void kiesMenu(int id);
+
+  // Loads these paths through the window, in this order, and returns what is left of the list.
+  wxArrayString laad(std::vector<wxString> const& paden);
+  // The lines below the root of the tree, each with its depth as leading blanks.
+  std::vector<wxString> boomRegels() const;
+
+  // A path in the test's own directory.
+  wxString pad(wxString const& naam) const;
+  wxString thuis() const;
+  // The whole content of a file, as UTF-8.
+  static wxString inhoud(wxString const& bestand);
+
+  TijdelijkeMap map;
+  Antwoorden antwoorden;
+  HoofdVenster* venster = nullptr;
+
+  // What was logged since the start, without debug levels.
+  static std::vector<LogRegel>& log();
+
+ private:
+  template <typename Soort>
+  Soort* zoek(int id) const;
+  void verstuur(wxWindow* bron, wxEventType soort, int waarde);
+
+  std::unique_ptr<wxGUIEventLoop> lus;
+};
