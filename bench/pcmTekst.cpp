@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
+#include <iostream>
 #include <memory>
 #include <random>
 #include <string>
@@ -91,11 +92,12 @@ bool meet(std::string const& map) {
   Verbruik const kortEigen = meetBeste(herhalingen, [&] { return codeer(kortWav); });
   Verbruik const xxd = meetBeste(herhalingen, [&] { return draaiXxd(bytes); });
   if (!eigen.geslaagd || !kortEigen.geslaagd || !xxd.geslaagd) {
-    std::fputs("bench: a measured program failed (is xxd installed?)\n", stderr);
+    std::cerr << "bench: a measured program failed (is xxd installed?)\n";
     return false;
   }
-  std::printf("PCM text of %d s at %d Hz: %.1f MB/s of array bytes; xxd -i: %.1f MB/s\n", lang,
-              samplerate, aantal / eigen.seconden / 1e6, aantal / xxd.seconden / 1e6);
+  static_cast<void>(
+      std::printf("PCM text of %d s at %d Hz: %.1f MB/s of array bytes; xxd -i: %.1f MB/s\n", lang,
+                  samplerate, aantal / eigen.seconden / 1e6, aantal / xxd.seconden / 1e6));
 
   constexpr double doelSnelheid = 0.8;
   constexpr double doelGeheugen = 3;

@@ -23,7 +23,7 @@ void PCMDesktopConverter::zetOpties(PCMEncoderOpties const& opties) {
   bitShift = opties.bitShift;
 }
 
-VelmoraPCMPakket* PCMDesktopConverter::codeerBestand(wxFileName const& wav) {
+VelmoraPCMPakket* PCMDesktopConverter::codeerBestand(wxFileName const& wav) const {
   SndBestand bestand = SndBestand::lees(wav);
   SF_INFO const& info = bestand.info();
   auto pakket = std::make_unique<VelmoraPCMPakket>(static_cast<unsigned long long>(info.frames),
@@ -34,7 +34,7 @@ VelmoraPCMPakket* PCMDesktopConverter::codeerBestand(wxFileName const& wav) {
 }
 
 void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
-                                        wxMemoryOutputStream& uit) {
+                                        wxMemoryOutputStream& uit) const {
   std::unique_ptr<VelmoraPCMPakket> const pakket(codeerBestand(wav));
   // The lines about the file tell what it is now, the array what was read from it.
   SndBestand const bestand = SndBestand::lees(wav);
@@ -56,7 +56,7 @@ void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
 }
 
 void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
-                                        wxFileName const& uitvoer) {
+                                        wxFileName const& uitvoer) const {
   wxMemoryOutputStream tekst;
   codeerBestand(wav, metHeader, tekst);
   wxFileOutputStream bestand(uitvoer.GetFullPath());

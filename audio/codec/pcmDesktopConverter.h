@@ -34,14 +34,14 @@ class PCMDesktopConverter {
 
   // Reads one file and scales its samples. The caller owns the packet. Of a file with more than one
   // channel it takes as many interleaved values as the file has frames.
-  VelmoraPCMPakket* codeerBestand(wxFileName const& wav);
+  VelmoraPCMPakket* codeerBestand(wxFileName const& wav) const;
 
   // Appends the text of one file to `uit`, with the serial header in the array or without. Either
   // way the array has room for the header; without it, six zero bytes stand at its end.
-  void codeerBestand(wxFileName const& wav, bool metHeader, wxMemoryOutputStream& uit);
+  void codeerBestand(wxFileName const& wav, bool metHeader, wxMemoryOutputStream& uit) const;
 
   // Writes the text of one file to a file of its own, replacing what it held.
-  void codeerBestand(wxFileName const& wav, bool metHeader, wxFileName const& uitvoer);
+  void codeerBestand(wxFileName const& wav, bool metHeader, wxFileName const& uitvoer) const;
 
   // Turns the binary serial image with header in `bron` into a mono 16-bit WAV file. The count in
   // the image is believed: where the file holds less, zeros make up the rest. The samples are not

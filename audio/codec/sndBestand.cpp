@@ -4,14 +4,15 @@
 #include <wx/strconv.h>
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 namespace {
 
 // The bytes of the full path in the C library's encoding; empty where the name has no such form.
 std::shared_ptr<SNDFILE> open(wxFileName const& bestand, int modus, SF_INFO& info) {
-  wxCharBuffer const pad(bestand.GetFullPath().mb_str(wxConvLibc));
-  SNDFILE* const handvat = sf_open(pad.data() != nullptr ? pad.data() : "", modus, &info);
+  std::string const pad = bestand.GetFullPath().ToStdString(wxConvLibc);
+  SNDFILE* const handvat = sf_open(pad.c_str(), modus, &info);
   if (handvat == nullptr) {
     // What the library found out before it gave up says nothing about a file that cannot be used.
     info = SF_INFO{};

@@ -42,9 +42,9 @@ int leesGetal(wxConfigBase const& config, wxString const& sleutel, int standaard
 // bytes of a path. The character type of the user's environment, or that of C.UTF-8 where the
 // environment offers ASCII alone, brings such names back and changes nothing else.
 void zetTekensoort() {
-  std::setlocale(LC_CTYPE, "");
-  if (std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0) {
-    std::setlocale(LC_CTYPE, "C.UTF-8");
+  bool const gezet = std::setlocale(LC_CTYPE, "") != nullptr;
+  if (!gezet || std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0) {
+    static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8"));
   }
 }
 
@@ -85,7 +85,7 @@ void DesktopAppBasis::startTaal(wxString const& naam) {
   wxString const taalNaam = wxLocale::GetLanguageName(taal);
   if (isWindows(platform.GetOperatingSystemId())) {
     wxFileTranslationsLoader::AddCatalogLookupPathPrefix(wxStandardPaths::Get().GetResourcesDir() +
-                                                         "\\..\\share\\locale");
+                                                         R"(\..\share\locale)");
   }
   if (!locale.Init(taal, wxLOCALE_LOAD_DEFAULT)) {
     wxLogError("Could not initialise the Locale for %s", taalNaam);

@@ -1,6 +1,7 @@
 #include "externals/desktop/microcontroller.h"
 
-VelmoraMicrocontroller::VelmoraMicrocontroller(VelmoraRTOS* besturing) : os(besturing) {}
+VelmoraMicrocontroller::VelmoraMicrocontroller(VelmoraRTOS* besturingssysteem)
+    : os(besturingssysteem) {}
 
 IntelProcessor::IntelProcessor() : VelmoraMicrocontroller(nullptr) {}
 

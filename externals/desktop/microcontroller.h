@@ -6,8 +6,9 @@ class VelmoraRTOS;
 
 class VelmoraMicrocontroller {
  public:
-  // Runs `os`, which may be null and is not owned. The clock frequency is 0 until it is set.
-  explicit VelmoraMicrocontroller(VelmoraRTOS* os);
+  // Runs this operating system, which may be null and is not owned. The clock frequency is 0 until
+  // it is set.
+  explicit VelmoraMicrocontroller(VelmoraRTOS* besturingssysteem);
   virtual ~VelmoraMicrocontroller() = default;
 
   VelmoraMicrocontroller(VelmoraMicrocontroller const&) = delete;

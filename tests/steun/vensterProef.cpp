@@ -98,6 +98,7 @@ VensterProef::~VensterProef() {
     stop();
   }
   EXPECT_TRUE(antwoorden.isOp()) << "a prepared answer was never asked for";
+  unsetenv("TMPDIR");
 }
 
 std::vector<LogRegel>& VensterProef::log() {

@@ -15,10 +15,18 @@
 
 namespace {
 
+// The toolkit spreads its layout flags over several enumerations; as plain numbers they join.
+constexpr int rek = wxEXPAND;
+constexpr int middenV = wxALIGN_CENTER_VERTICAL;
+constexpr int middenH = wxALIGN_CENTER_HORIZONTAL;
+constexpr int rondom = wxALL;
+constexpr int boven = wxTOP;
+constexpr int onder = wxBOTTOM;
+constexpr int links = wxLEFT;
+constexpr int rechts = wxRIGHT;
+
 constexpr int marge = 5;
 constexpr int quitMarge = 20;
-constexpr int binnenMarge = wxLEFT | wxRIGHT | wxBOTTOM;
-constexpr int midden = wxALIGN_CENTER_VERTICAL | wxALIGN_CENTER_HORIZONTAL;
 
 }  // namespace
 
@@ -31,16 +39,16 @@ void HoofdVenster::do_layout() {
   auto* hoofdKolom = new wxBoxSizer(wxVERTICAL);
   auto* bovenRij = new wxBoxSizer(wxHORIZONTAL);
 
-  bovenRij->Add(maakBestandenKolom(), 1, wxEXPAND, 0);
-  bovenRij->Add(maakSpeexVak(), 0, wxEXPAND, 0);
-  bovenRij->Add(maakCodeVak(), 1, wxEXPAND, 0);
-  hoofdKolom->Add(bovenRij, 2, wxEXPAND, 0);
-  hoofdKolom->Add(tekstVeld, 1, wxEXPAND, 0);
-  hoofdRij->Add(hoofdKolom, 2, wxEXPAND, 0);
-  paneelKolom->Add(hoofdRij, 1, wxEXPAND, 0);
-  paneelKolom->Add(quitKnop, 0, wxEXPAND | wxALIGN_CENTER_HORIZONTAL | wxALL, quitMarge);
+  bovenRij->Add(maakBestandenKolom(), 1, rek, 0);
+  bovenRij->Add(maakSpeexVak(), 0, rek, 0);
+  bovenRij->Add(maakCodeVak(), 1, rek, 0);
+  hoofdKolom->Add(bovenRij, 2, rek, 0);
+  hoofdKolom->Add(tekstVeld, 1, rek, 0);
+  hoofdRij->Add(hoofdKolom, 2, rek, 0);
+  paneelKolom->Add(hoofdRij, 1, rek, 0);
+  paneelKolom->Add(quitKnop, 0, rek | middenH | rondom, quitMarge);
   paneel->SetSizer(paneelKolom);
-  vensterKolom->Add(paneel, 1, wxEXPAND, 0);
+  vensterKolom->Add(paneel, 1, rek, 0);
   SetSizer(vensterKolom);
   vensterKolom->Fit(this);
   Layout();
@@ -49,11 +57,11 @@ void HoofdVenster::do_layout() {
 wxSizer* HoofdVenster::maakBestandenKolom() {
   auto* kolom = new wxBoxSizer(wxVERTICAL);
   auto* knoppen = new wxBoxSizer(wxVERTICAL);
-  kolom->Add(wavOpenKnop, 0, wxEXPAND | wxALL, marge);
-  kolom->Add(audioBoom, 3, wxEXPAND, 0);
-  knoppen->Add(playMusicKnop, 0, wxEXPAND | midden | wxALL, marge);
-  knoppen->Add(wavSaveKnop, 0, wxEXPAND | binnenMarge, marge);
-  kolom->Add(knoppen, 1, wxEXPAND, 0);
+  kolom->Add(wavOpenKnop, 0, rek | rondom, marge);
+  kolom->Add(audioBoom, 3, rek, 0);
+  knoppen->Add(playMusicKnop, 0, rek | middenV | middenH | rondom, marge);
+  knoppen->Add(wavSaveKnop, 0, rek | links | rechts | onder, marge);
+  kolom->Add(knoppen, 1, rek, 0);
   return kolom;
 }
 
@@ -70,22 +78,22 @@ wxSizer* HoofdVenster::maakSpeexVak() {
   rooster->Add(complexitySpin, 0, 0, 0);
   rooster->Add(vadVakje, 0, 0, 0);
   rooster->Add(agcVakje, 0, 0, 0);
-  rooster->Add(denoiseVakje, 0, wxALIGN_CENTER_VERTICAL, 0);
-  rooster->Add(perpenhVakje, 0, wxALIGN_CENTER_VERTICAL, 0);
-  rooster->Add(maxRateLabel, 0, wxALIGN_CENTER_VERTICAL, 0);
-  rooster->Add(maxRateVeld, 0, wxALIGN_CENTER_VERTICAL, 0);
-  vak->Add(rooster, 0, wxEXPAND | wxTOP, marge);
+  rooster->Add(denoiseVakje, 0, middenV, 0);
+  rooster->Add(perpenhVakje, 0, middenV, 0);
+  rooster->Add(maxRateLabel, 0, middenV, 0);
+  rooster->Add(maxRateVeld, 0, middenV, 0);
+  vak->Add(rooster, 0, rek | boven, marge);
   return vak;
 }
 
 wxSizer* HoofdVenster::maakCodeVak() {
   auto* vak = new wxStaticBoxSizer(codeGeneratieBox, wxHORIZONTAL);
-  vak->Add(maakUitvoerKolom(), 1, wxEXPAND, 0);
+  vak->Add(maakUitvoerKolom(), 1, rek, 0);
   return vak;
 }
 
 wxSizer* HoofdVenster::maakUitvoerKolom() {
-  constexpr int keuzeVlaggen = wxEXPAND | wxALIGN_CENTER_VERTICAL | wxTOP | wxBOTTOM;
+  constexpr int keuzeVlaggen = rek | middenV | boven | onder;
   auto* kolom = new wxBoxSizer(wxVERTICAL);
   auto* keuzes = new wxBoxSizer(wxHORIZONTAL);
   auto* klasseVak = new wxStaticBoxSizer(klasseOptiesBox, wxVERTICAL);
@@ -94,19 +102,19 @@ wxSizer* HoofdVenster::maakUitvoerKolom() {
 
   keuzes->Add(encoderTypeKeuze, 1, keuzeVlaggen, marge);
   keuzes->Add(langImplKeuze, 1, keuzeVlaggen, marge);
-  kolom->Add(keuzes, 1, wxEXPAND, 0);
+  kolom->Add(keuzes, 1, rek, 0);
 
-  klasseRij->Add(klasseLabel, 1, wxALIGN_CENTER_VERTICAL | wxRIGHT, marge);
-  klasseRij->Add(klasseVeld, 2, wxALIGN_CENTER_VERTICAL, 0);
-  klasseVak->Add(klasseRij, 0, wxEXPAND, 0);
-  kolom->Add(klasseVak, 0, wxEXPAND, 0);
+  klasseRij->Add(klasseLabel, 1, middenV | rechts, marge);
+  klasseRij->Add(klasseVeld, 2, middenV, 0);
+  klasseVak->Add(klasseRij, 0, rek, 0);
+  kolom->Add(klasseVak, 0, rek, 0);
 
-  kolom->Add(inclHeaderVakje, 0, wxALIGN_CENTER_VERTICAL, 0);
-  kolom->Add(dacTypeKeuze, 0, wxEXPAND | wxALIGN_CENTER_VERTICAL | wxALL, marge);
+  kolom->Add(inclHeaderVakje, 0, middenV, 0);
+  kolom->Add(dacTypeKeuze, 0, rek | middenV | rondom, marge);
 
-  knoppen->Add(encodeKnop, 0, wxEXPAND | wxALIGN_CENTER_HORIZONTAL | wxALL, marge);
-  knoppen->Add(speexSaveKnop, 0, wxEXPAND | binnenMarge, marge);
-  knoppen->Add(playEncodedKnop, 0, wxEXPAND | midden | wxALL, marge);
-  kolom->Add(knoppen, 1, wxEXPAND, 0);
+  knoppen->Add(encodeKnop, 0, rek | middenH | rondom, marge);
+  knoppen->Add(speexSaveKnop, 0, rek | links | rechts | onder, marge);
+  knoppen->Add(playEncodedKnop, 0, rek | middenV | middenH | rondom, marge);
+  kolom->Add(knoppen, 1, rek, 0);
   return kolom;
 }
