@@ -42,7 +42,6 @@ class DesktopAppBasis {
   int onInitRoutines();
 
  protected:
-  wxPlatformInfo const& geefPlatform() const { return platform; }
   // Stores the language of the next start in memory and in the configuration.
   void bewaarTaal(wxLanguage nieuweTaal);
 
