@@ -87,7 +87,9 @@ void DesktopAppBasis::startTaal(wxString const& naam) {
     wxFileTranslationsLoader::AddCatalogLookupPathPrefix(wxStandardPaths::Get().GetResourcesDir() +
                                                          R"(\..\share\locale)");
   }
-  if (!locale.Init(taal, wxLOCALE_LOAD_DEFAULT)) {
+  // A file edited by hand may hold the one number that the toolkit meets with an assertion.
+  bool const gezet = taal != wxLANGUAGE_UNKNOWN && locale.Init(taal, wxLOCALE_LOAD_DEFAULT);
+  if (!gezet) {
     wxLogError("Could not initialise the Locale for %s", taalNaam);
     zetTekensoort();
   } else if (taal != wxLANGUAGE_ENGLISH) {
