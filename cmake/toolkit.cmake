@@ -1,12 +1,12 @@
-# The outside libraries as targets. `wxBasis` is the toolkit without windows, `wxVenster` the whole;
-# a room that links only wxBasis cannot grow a window by accident. Headers count as system headers,
-# so that our warnings stay ours.
+# The outside libraries as targets. `wxBasis` is the toolkit without windows, `wxVenster` the whole: a
+# program of rooms that take only wxBasis does not link once one of them grows a window. Headers count
+# as system headers, so that our warnings stay ours.
 
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(sndfile REQUIRED IMPORTED_TARGET sndfile)
 
 function(_maak_wx_doel doel)
-  find_package(wxWidgets 3.0 REQUIRED COMPONENTS ${ARGN})
+  find_package(wxWidgets 3.2 REQUIRED COMPONENTS ${ARGN})
   add_library(${doel} INTERFACE)
   target_include_directories(${doel} SYSTEM INTERFACE ${wxWidgets_INCLUDE_DIRS})
   target_compile_definitions(${doel} INTERFACE ${wxWidgets_DEFINITIONS})

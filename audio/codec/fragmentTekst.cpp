@@ -10,6 +10,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "audio/codec/uitvoerTaal.h"
+
 namespace {
 
 constexpr std::size_t bytesPerRij = 8;
@@ -82,16 +84,16 @@ void FragmentTekst::schrijfKop(wxFileName const& wav, SF_INFO const& info) {
 void FragmentTekst::schrijfTelling(FragmentDoel const& doel, wxString const& achtervoegsel,
                                    unsigned long long aantal) {
   wxString const getal = wxString::Format("%d", laagsteBits(aantal));
-  if (doel.taal == FragmentTaalC) {
+  if (doel.taal == UitvoerTaalC) {
     schrijf("/* const unsigned int " + doel.naam + achtervoegsel + "=" + getal + "; */\n");
-  } else if (doel.taal == FragmentTaalCPP) {
+  } else if (doel.taal == UitvoerTaalCPP) {
     schrijf("//const unsigned int " + doel.klasse + "::" + doel.naam + achtervoegsel + "=" + getal +
             ";\n");
   }
 }
 
 void FragmentTekst::schrijfHeaderUitleg(FragmentDoel const& doel) {
-  if (doel.taal == FragmentTaalC || doel.taal == FragmentTaalCPP) {
+  if (doel.taal == UitvoerTaalC || doel.taal == UitvoerTaalCPP) {
     schrijf(
         _("\n/* Bytes 0..3: Number of samples (Little Endian)\n    Bytes 4..5: Sampling "
           "frequency\n    Bytes 6..End:Data  */\n\n"));
@@ -99,9 +101,9 @@ void FragmentTekst::schrijfHeaderUitleg(FragmentDoel const& doel) {
 }
 
 void FragmentTekst::schrijfArrayKop(FragmentDoel const& doel, wxString const& elementType) {
-  if (doel.taal == FragmentTaalC) {
+  if (doel.taal == UitvoerTaalC) {
     schrijf("const " + elementType + " " + doel.naam + "[] = \n{\n");
-  } else if (doel.taal == FragmentTaalCPP) {
+  } else if (doel.taal == UitvoerTaalCPP) {
     schrijf("const " + elementType + " " + doel.klasse + "::" + doel.naam + "[] = \n{\n");
   }
 }

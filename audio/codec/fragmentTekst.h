@@ -12,14 +12,10 @@
 class wxFileName;
 class wxOutputStream;
 
-// The output languages by their index in the language choice. Every other value writes no array
-// head at all.
-enum FragmentTaal : int { FragmentTaalC = 0, FragmentTaalCPP = 1 };
-
 // Where a fragment's array belongs. The names go into the text as they stand: whether they are
 // legal identifiers is the user's affair.
 struct FragmentDoel {
-  int taal;         // a FragmentTaal, or any other value
+  int taal;         // an UitvoerTaal, or any other value
   wxString klasse;  // the class that owns the arrays in C++
   wxString naam;    // the array: the file's name without path and extension
 };

@@ -4,13 +4,18 @@
 
 #include <wx/string.h>
 
+#include "audio/codec/uitvoerTaal.h"
+
 class VelmoraPCMPakket;
 class wxFileName;
 class wxMemoryOutputStream;
 
-// The output language: the index of the language choice in the main window. Every value other than
-// C and C++ leaves the head of the array out.
-enum PCMEncoderTaal : int { PCMTaalC = 0, PCMTaalCPP = 1, PCMTaalPython = 2 };
+// Every value other than C and C++ leaves the head of the array out.
+enum PCMEncoderTaal : int {
+  PCMTaalC = UitvoerTaalC,
+  PCMTaalCPP = UitvoerTaalCPP,
+  PCMTaalPython = UitvoerTaalPython
+};
 
 struct PCMEncoderOpties {
   PCMEncoderOpties(PCMEncoderTaal uitvoerTaal, unsigned long long schuif)

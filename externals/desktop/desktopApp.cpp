@@ -3,6 +3,8 @@
 #include <wx/msgdlg.h>
 #include <wx/window.h>
 
+#include "externals/desktop/configGetal.h"
+
 namespace {
 
 constexpr char const* vensterPad = "/Gebruikersinstellingen/Venster";
@@ -14,8 +16,8 @@ constexpr char const* hoogteSleutel = "GrootteY";
 DesktopApp::DesktopApp(wxString const& naam) : DesktopAppBasis(naam) {
   SetAppName(naam);
   SetAppDisplayName(naam);
-  SetVendorName("Velmora");
-  SetVendorDisplayName("Velmora");
+  SetVendorName(leverancier);
+  SetVendorDisplayName(leverancier);
 }
 
 void DesktopApp::zetHoofdVenster(wxWindow* venster) {
@@ -25,12 +27,12 @@ void DesktopApp::zetHoofdVenster(wxWindow* venster) {
 }
 
 void DesktopApp::zetHoofdVensterGrootte() {
-  constexpr long standaardBreedte = 800;
-  constexpr long standaardHoogte = 600;
+  constexpr int standaardBreedte = 800;
+  constexpr int standaardHoogte = 600;
   wxFileConfig* const config = geefAppConfig();
   config->SetPath(vensterPad);
-  auto const breedte = static_cast<int>(config->ReadLong(breedteSleutel, standaardBreedte));
-  auto const hoogte = static_cast<int>(config->ReadLong(hoogteSleutel, standaardHoogte));
+  int const breedte = leesGetal(*config, breedteSleutel, standaardBreedte);
+  int const hoogte = leesGetal(*config, hoogteSleutel, standaardHoogte);
   hoofdVenster->SetClientSize(breedte, hoogte);
   hoofdVenster->Centre(wxBOTH);
 }

@@ -19,8 +19,8 @@ class DesktopApp : public wxApp, public DesktopAppBasis {
   // Gives the main window the client size of the configuration, in pixels (800x600 where there is
   // none), and centres it.
   void zetHoofdVensterGrootte();
-  // Stores the main window's client size in the configuration. This tool does not call it: its
-  // window opens at 800x600 each time, unless the file was edited by hand.
+  // Stores the main window's client size in the configuration. Applications call it where they
+  // want the size to outlive a run.
   void bewaarHoofdVensterGrootte() const;
 
   // Asks whether to end the application so that `nieuweTaal` takes effect at the next start. On any

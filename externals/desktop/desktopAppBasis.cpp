@@ -11,6 +11,8 @@
 #include <clocale>
 #include <cstring>
 
+#include "externals/desktop/configGetal.h"
+
 namespace {
 
 constexpr char const* gebruikersPad = "/Gebruikersinstellingen";
@@ -33,14 +35,10 @@ bool isWindows(wxOperatingSystemId systeem) {
          systeem == wxOS_WINDOWS_MICRO || systeem == wxOS_WINDOWS_CE;
 }
 
-// Reads a whole number. Anything else in the file, or nothing, gives the default.
-int leesGetal(wxConfigBase const& config, wxString const& sleutel, int standaard) {
-  return static_cast<int>(config.ReadLong(sleutel, standaard));
-}
-
 // Without a locale the process is in "C", in which no name with an accent can be turned into the
 // bytes of a path. The character type of the user's environment, or that of C.UTF-8 where the
-// environment offers ASCII alone, brings such names back and changes nothing else.
+// environment offers ASCII alone (glibc's name for it), brings such names back and changes nothing
+// else.
 void zetTekensoort() {
   bool const gezet = std::setlocale(LC_CTYPE, "") != nullptr;
   if (!gezet || std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0) {
@@ -51,7 +49,7 @@ void zetTekensoort() {
 }  // namespace
 
 DesktopAppBasis::DesktopAppBasis(wxString const& naam)
-    : appConfig(std::make_unique<wxFileConfig>(naam, "Velmora", wxEmptyString, wxEmptyString,
+    : appConfig(std::make_unique<wxFileConfig>(naam, leverancier, wxEmptyString, wxEmptyString,
                                                wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE,
                                                wxConvAuto())) {
   // A path that holds a dollar sign is to come back as it was written.

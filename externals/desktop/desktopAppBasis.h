@@ -13,6 +13,9 @@
 
 #include "externals/desktop/microcontroller.h"
 
+// The maker that the toolkit is told of.
+constexpr char const* leverancier = "Velmora";
+
 class DesktopAppBasis {
  public:
   // Opens the configuration of the application `naam`, stores the moment of the start and sets up
@@ -51,7 +54,7 @@ class DesktopAppBasis {
 
   std::unique_ptr<wxFileConfig> appConfig;
   wxLocale locale;
-  int taal = wxLANGUAGE_ENGLISH;  // a wxLanguage
+  int taal;  // a wxLanguage
   wxPlatformInfo platform;
   IntelProcessor processor;
   wxSingleInstanceChecker instantieControle;

@@ -11,5 +11,5 @@ void IntelProcessor::mac(double a, double b, double& som) const {
 
 void IntelProcessor::mac(short a, short b, short& som) const {
   // At most 2^30 + 2^15 in 32 bits; the low half is the wrapped result.
-  som = static_cast<short>(som + a * b);
+  som = static_cast<short>(static_cast<unsigned short>(som + a * b));
 }

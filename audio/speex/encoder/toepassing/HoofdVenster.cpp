@@ -20,6 +20,7 @@
 #include "audio/speex/encoder/toepassing/kestrolin.h"
 #include "audio/speex/encoder/toepassing/keuze.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
+#include "externals/desktop/configGetal.h"
 
 wxBEGIN_EVENT_TABLE(HoofdVenster, wxFrame)
   EVT_MENU(wxID_OPEN, HoofdVenster::wavOpenHandler)
@@ -59,8 +60,23 @@ wxEND_EVENT_TABLE()
 
 namespace {
 
-constexpr std::size_t historieLengte = 9;
+constexpr std::size_t geschiedenisLengte = 9;
 constexpr char const* configuratiePad = "/Configuratie";
+constexpr char const* wavDirectorySleutel = "wavDirectory";
+constexpr char const* speexDirectorySleutel = "speexDirectory";
+constexpr char const* wavFileSleutel = "wavFile";
+constexpr char const* speexFileSleutel = "speexFile";
+constexpr char const* klasseNaamSleutel = "klasseNaam";
+constexpr char const* encoderSoortSleutel = "Convertertype";
+
+// The home directory without a separator at its end, so that its last part can name a file.
+wxString geefThuis() {
+  wxString thuis = wxFileName(wxGetHomeDir()).GetFullPath();
+  while (thuis.length() > 1 && wxFileName::IsPathSeparator(thuis.Last())) {
+    thuis.RemoveLast();
+  }
+  return thuis;
+}
 
 wxChoice* maakKeuze(wxWindow* ouder, int id, std::vector<wxString> const& rijen) {
   return new wxChoice(ouder, id, wxDefaultPosition, wxDefaultSize, static_cast<int>(rijen.size()),
@@ -74,7 +90,7 @@ HoofdVenster::HoofdVenster(wxWindow* parent, int id, wxString const& title, wxPo
     : wxFrame(parent, id, title, pos, size, style),
       instellingen(&wxGetApp().geefInstellingen()),
       config(wxGetApp().geefAppConfig()),
-      bestandGeschiedenis(historieLengte, wxID_FILE1),
+      bestandGeschiedenis(geschiedenisLengte, wxID_FILE1),
       pcmConverter(PCMEncoderOpties(PCMTaalC, 0)) {
   paneel =
       new wxPanel(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxNO_BORDER);
@@ -95,12 +111,12 @@ HoofdVenster::HoofdVenster(wxWindow* parent, int id, wxString const& title, wxPo
 
 HoofdVenster::~HoofdVenster() {
   config->SetPath(configuratiePad);
-  config->Write("wavDirectory", wavDirectory);
-  config->Write("speexDirectory", speexDirectory);
-  config->Write("wavFile", wavFile);
-  config->Write("speexFile", speexFile);
-  config->Write("klasseNaam", klasseNaam);
-  config->Write("Convertertype", encoderTypeKeuze->GetSelection());
+  config->Write(wavDirectorySleutel, wavDirectory);
+  config->Write(speexDirectorySleutel, speexDirectory);
+  config->Write(wavFileSleutel, wavFile);
+  config->Write(speexFileSleutel, speexFile);
+  config->Write(klasseNaamSleutel, klasseNaam);
+  config->Write(encoderSoortSleutel, encoderTypeKeuze->GetSelection());
   bestandGeschiedenis.Save(*config);
 }
 
@@ -138,18 +154,18 @@ void HoofdVenster::maakBronControls() {
 }
 
 void HoofdVenster::maakSpeexControls() {
-  auto const maakSpin = [this](int id, wxString const& waarde, int begin) {
+  auto const maakSpin = [this](int id, wxString const& waarde) {
     constexpr int hoogste = 10;
     return new wxSpinCtrl(paneel, id, waarde, wxDefaultPosition, wxDefaultSize, wxSP_ARROW_KEYS, 0,
-                          hoogste, begin);
+                          hoogste);
   };
   formaatKeuze = maakKeuze(paneel, ID_FORMAAT, {"Narrowband", "Wideband", "Ultra Wideband"});
   bitRateTypeKeuze =
       maakKeuze(paneel, ID_BITRATE_TYPE, {"Fixed Bitrate", "Variable Bitrate", "Average Bitrate"});
   qualityLabel = new wxStaticText(paneel, wxID_ANY, "Quality:");
-  qualitySpin = maakSpin(ID_QUALITY, "8", 8);
+  qualitySpin = maakSpin(ID_QUALITY, "8");
   complexityLabel = new wxStaticText(paneel, wxID_ANY, "Complexity:");
-  complexitySpin = maakSpin(ID_COMPLEXITY, "3", 3);
+  complexitySpin = maakSpin(ID_COMPLEXITY, "3");
   vadVakje = new wxCheckBox(paneel, ID_VAD, "Voice Activated \nDetection");
   agcVakje = new wxCheckBox(paneel, ID_AGC, "Adaptive Gain Control");
   denoiseVakje = new wxCheckBox(paneel, ID_DENOISE, "Denoise input");
@@ -204,14 +220,14 @@ void HoofdVenster::set_properties() {
 }
 
 void HoofdVenster::leesConfiguratie() {
-  wxString const thuis = wxFileName(wxGetHomeDir()).GetFullPath();
+  wxString const thuis = geefThuis();
   config->SetPath(configuratiePad);
-  wavDirectory = config->Read("wavDirectory", thuis);
-  speexDirectory = config->Read("speexDirectory", thuis);
-  wavFile = config->Read("wavFile", wxEmptyString);
-  speexFile = config->Read("speexFile", wxEmptyString);
-  klasseNaam = config->Read("klasseNaam", wxEmptyString);
-  kies(encoderTypeKeuze, static_cast<int>(config->ReadLong("Convertertype", 0)));
+  wavDirectory = config->Read(wavDirectorySleutel, thuis);
+  speexDirectory = config->Read(speexDirectorySleutel, thuis);
+  wavFile = config->Read(wavFileSleutel, wxEmptyString);
+  speexFile = config->Read(speexFileSleutel, wxEmptyString);
+  klasseNaam = config->Read(klasseNaamSleutel, wxEmptyString);
+  kies(encoderTypeKeuze, leesGetal(*config, encoderSoortSleutel, EncoderSpeex));
   bestandGeschiedenis.UseMenu(geschiedenisMenu);
   bestandGeschiedenis.Load(*config);
 }

@@ -2,8 +2,8 @@
 // state: the loaded files, the text of the last encoding, and what the enable rules follow from.
 //
 // Its work is split over files by concern: HoofdVenster.cpp (construction, event table, end),
-// HoofdVensterIndeling.cpp (sizers), and one file each for the settings, loading, encoding, saving
-// and playing.
+// HoofdVensterIndeling.cpp (sizers), and one file each for the settings, loading, encoding, saving,
+// embedding, playing, and the language and About dialogs.
 #pragma once
 
 #include <wx/filehistory.h>

@@ -1,6 +1,6 @@
 // The encoding runs: from the loaded files to one text in the output stream and the text field.
 #include <wx/checkbox.h>
-#include <wx/ffile.h>
+#include <wx/file.h>
 #include <wx/intl.h>
 #include <wx/msgdlg.h>
 #include <wx/progdlg.h>
@@ -12,16 +12,17 @@
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/coderingsRun.h"
+#include "audio/speex/encoder/toepassing/vensterIds.h"
 
 void HoofdVenster::encodeHandler(wxCommandEvent& event) {
   switch (encoderTypeKeuze->GetSelection()) {
-    case 0:
+    case EncoderSpeex:
       encodeSpeex(event);
       break;
-    case 1:
+    case EncoderADPCM:
       encodeADPCM(event);
       break;
-    case 2:
+    case EncoderPCM:
       encodePCM(event);
       break;
     default:
@@ -35,9 +36,9 @@ void HoofdVenster::encodeADPCM(wxCommandEvent& /*event*/) {}
 
 void HoofdVenster::encodePCM(wxCommandEvent& /*event*/) {
   int const taal = instellingen->speexOutputLanguage;
-  pcmConverter.zetOpties(
-      taal == 0 ? PCMEncoderOpties(PCMTaalC, geefBitShift())
-                : PCMEncoderOpties(static_cast<PCMEncoderTaal>(taal), klasseNaam, geefBitShift()));
+  pcmConverter.zetOpties(taal == UitvoerTaalC ? PCMEncoderOpties(PCMTaalC, geefBitShift())
+                                              : PCMEncoderOpties(static_cast<PCMEncoderTaal>(taal),
+                                                                 klasseNaam, geefBitShift()));
   voerRunUit({wxString::Format("/* PCM encoding output of %d audio files \t\t*/\n\n",
                                static_cast<int>(wavBestanden.size())),
               {"// extern const unsigned char ", "// static const unsigned char "},

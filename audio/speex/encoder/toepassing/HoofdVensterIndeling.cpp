@@ -15,7 +15,8 @@
 
 namespace {
 
-// The toolkit spreads its layout flags over several enumerations; as plain numbers they join.
+// The toolkit spreads its layout flags over several enumerations, and compilers and checkers warn
+// of joining those; as plain numbers they join.
 constexpr int rek = wxEXPAND;
 constexpr int middenV = wxALIGN_CENTER_VERTICAL;
 constexpr int middenH = wxALIGN_CENTER_HORIZONTAL;
@@ -47,8 +48,8 @@ void HoofdVenster::do_layout() {
   hoofdRij->Add(hoofdKolom, 2, rek, 0);
   paneelKolom->Add(hoofdRij, 1, rek, 0);
   paneelKolom->Add(quitKnop, 0, rek | middenH | rondom, quitMarge);
-  paneel->SetSizer(paneelKolom);
   vensterKolom->Add(paneel, 1, rek, 0);
+  paneel->SetSizer(paneelKolom);
   SetSizer(vensterKolom);
   vensterKolom->Fit(this);
   Layout();

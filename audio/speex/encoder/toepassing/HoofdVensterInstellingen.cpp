@@ -12,7 +12,7 @@
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
 
-#include <algorithm>
+#include <array>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/bedieningsRegels.h"
@@ -40,21 +40,22 @@ void HoofdVenster::bestandGeladenHandler(wxUpdateUIEvent& /*event*/) {
 }
 
 void HoofdVenster::encoderKeuzeHandler(wxUpdateUIEvent& /*event*/) {
-  bool const speex = encoderTypeKeuze->GetSelection() == 0;
+  bool const speex = encoderTypeKeuze->GetSelection() == EncoderSpeex;
   std::array<wxWindow*, 12> const speexVensters{
       formaatKeuze, bitRateTypeKeuze, qualitySpin, complexitySpin, vadVakje,        agcVakje,
       denoiseVakje, perpenhVakje,     maxRateVeld, qualityLabel,   complexityLabel, maxRateLabel};
-  std::for_each(speexVensters.begin(), speexVensters.end(),
-                [speex](wxWindow* venster) { venster->Enable(speex); });
+  for (wxWindow* const venster : speexVensters) {
+    venster->Enable(speex);
+  }
 }
 
 void HoofdVenster::headerInfoHandler(wxUpdateUIEvent& /*event*/) {
   int const taal = langImplKeuze->GetSelection();
-  if (taal != 0 && !taalHeeftKlasse(taal)) {
+  if (taal != UitvoerTaalC && !taalHeeftKlasse(taal)) {
     return;
   }
-  klasseLabel->Enable(taal != 0);
-  klasseVeld->Enable(taal != 0);
+  klasseLabel->Enable(taalHeeftKlasse(taal));
+  klasseVeld->Enable(taalHeeftKlasse(taal));
 }
 
 void HoofdVenster::formaatHandler(wxCommandEvent& /*event*/) {
@@ -123,27 +124,23 @@ void HoofdVenster::maxRateHandler(wxCommandEvent& /*event*/) {
 }
 
 void HoofdVenster::inclHeaderHandler(wxCommandEvent& /*event*/) {
-  instellingen->IncludeHeader = inclHeaderVakje->GetValue();
-  if (!instellingen->IncludeHeader) {
-    int const antwoord = wxMessageBox(
-        _("It is not recommended to remove header information from the encoded output "
-          "stream.\nYou will have a hard time using the audio data without knowledge of length and "
-          "sampling frequency.\nDo you really want to do this?"),
-        _("Header info absence"), wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION);
-    if (antwoord != wxYES) {
-      instellingen->IncludeHeader = true;
-      inclHeaderVakje->SetValue(true);
-    }
-  }
+  bool const zonder =
+      !inclHeaderVakje->GetValue() &&
+      wxMessageBox(
+          _("It is not recommended to remove header information from the encoded output "
+            "stream.\nYou will have a hard time using the audio data without knowledge of length "
+            "and sampling frequency.\nDo you really want to do this?"),
+          _("Header info absence"), wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION) == wxYES;
+  instellingen->IncludeHeader = !zonder;
+  inclHeaderVakje->SetValue(!zonder);
   gecodeerd = false;
 }
 
 void HoofdVenster::langImplHandler(wxCommandEvent& /*event*/) {
-  constexpr int taalPython = 2;
   int const taal = langImplKeuze->GetSelection();
-  if (taal == 0 || taal == 1) {
+  if (taal == UitvoerTaalC || taal == UitvoerTaalCPP) {
     instellingen->speexOutputLanguage = taal;
-  } else if (taal == taalPython) {
+  } else if (taal == UitvoerTaalPython) {
     wxMessageBox(_("Unfortunately, at present Python encoding has not been implemented yet."),
                  _("Python encoding not available"), wxOK | wxICON_ERROR, this);
     kies(langImplKeuze, instellingen->speexOutputLanguage);

@@ -1,11 +1,11 @@
 // Which controls of the main window are usable when: the rules, without the window.
 #pragma once
 
+#include "audio/codec/uitvoerTaal.h"
+
 // The output languages that put the arrays into a class.
 constexpr bool taalHeeftKlasse(int taal) {
-  constexpr int taalCPP = 1;
-  constexpr int taalPython = 2;
-  return taal == taalCPP || taal == taalPython;
+  return taal == UitvoerTaalCPP || taal == UitvoerTaalPython;
 }
 
 struct VensterToestand {
@@ -16,7 +16,7 @@ struct VensterToestand {
 
 struct Bediening {
   bool bron;       // playing the source files, their tree
-  bool inbedden;   // saving the WAV files as they are
+  bool inbedden;   // embedding the WAV files as arrays
   bool coderen;    // starting an encoder
   bool resultaat;  // saving and playing the result
 };

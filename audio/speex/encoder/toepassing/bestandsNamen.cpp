@@ -2,11 +2,13 @@
 
 #include <wx/filename.h>
 
+#include "audio/codec/uitvoerTaal.h"
+
 wxString extensieVoorTaal(int taal) {
   switch (taal) {
-    case 0:
+    case UitvoerTaalC:
       return "c";
-    case 1:
+    case UitvoerTaalCPP:
       return "cpp";
     default:
       return "py";

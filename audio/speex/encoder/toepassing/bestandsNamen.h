@@ -5,7 +5,7 @@
 #include <wx/string.h>
 
 // The extension of a source file in the output language, without a point: "c", "cpp", or "py" for
-// every value but 0 and 1.
+// every value but C and C++.
 wxString extensieVoorTaal(int taal);
 
 // The name, without extension, for the text of these files: that of the only file, otherwise that

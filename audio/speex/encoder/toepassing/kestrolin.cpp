@@ -2,65 +2,58 @@
 
 #include <wx/sizer.h>
 
+#include "audio/codec/uitvoerTaal.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "externals/desktop/configGetal.h"
 
 namespace {
 
 constexpr char const* speexPad = "/Gebruikersinstellingen/Speex";
 
-// Whole numbers outside the range of the field keep their low bits; text gives the default.
-template <typename Getal>
-Getal leesGetal(wxConfigBase const& config, char const* sleutel, int standaard) {
-  return static_cast<Getal>(config.ReadLong(sleutel, standaard));
+// Hands each setting to `werk`, with its key and its default, in the order of the file. The one
+// list of them: what is read at the start is written at the end.
+template <typename Werk>
+void bezoekInstellingen(KestrolinConfig& record, Werk const& werk) {
+  werk("speexFormat", record.speexFormat, 0);
+  werk("speexQuality", record.speexQuality, 8);
+  werk("speexComplexity", record.speexComplexity, 3);
+  werk("speexBitRateChoice", record.speexBitRateChoice, 0);
+  werk("speexBitRate", record.speexBitRate, 5000);
+  werk("speexOutputLanguage", record.speexOutputLanguage, UitvoerTaalCPP);
+  werk("speexVAC", record.speexVAC, 1);
+  werk("speexDenoise", record.speexDenoise, 1);
+  werk("speexAGC", record.speexAGC, 1);
+  werk("IncludeHeader", record.IncludeHeader, 1);
+  werk("dacNumberOfBits", record.dacNumberOfBits, 3);
 }
 
 // A flag is stored as a number, of which the low byte counts.
-bool leesVlag(wxConfigBase const& config, char const* sleutel) {
-  return leesGetal<unsigned char>(config, sleutel, 1) != 0;
+void zet(bool& veld, int getal) {
+  veld = static_cast<unsigned char>(getal) != 0;
 }
-
-KestrolinConfig leesInstellingen(wxFileConfig& config) {
-  constexpr int kwaliteit = 8;
-  constexpr int complexiteit = 3;
-  constexpr int bitrate = 5000;
-  constexpr int taalCPP = 1;
-  constexpr int dac16Bits = 3;
-
-  config.SetPath(speexPad);
-  KestrolinConfig in{};
-  in.speexFormat = leesGetal<int>(config, "speexFormat", 0);
-  in.speexQuality = leesGetal<unsigned int>(config, "speexQuality", kwaliteit);
-  in.speexComplexity = leesGetal<unsigned int>(config, "speexComplexity", complexiteit);
-  in.speexBitRateChoice = leesGetal<int>(config, "speexBitRateChoice", 0);
-  in.speexBitRate = leesGetal<unsigned int>(config, "speexBitRate", bitrate);
-  in.speexOutputLanguage = leesGetal<int>(config, "speexOutputLanguage", taalCPP);
-  in.speexVAC = leesVlag(config, "speexVAC");
-  in.speexDenoise = leesVlag(config, "speexDenoise");
-  in.speexAGC = leesVlag(config, "speexAGC");
-  in.IncludeHeader = leesVlag(config, "IncludeHeader");
-  in.dacNumberOfBits = leesGetal<int>(config, "dacNumberOfBits", dac16Bits);
-  return in;
+void zet(int& veld, int getal) {
+  veld = getal;
+}
+void zet(unsigned int& veld, int getal) {
+  veld = static_cast<unsigned int>(getal);
 }
 
 }  // namespace
 
-Kestrolin::Kestrolin()
-    : DesktopApp("Kestrolin"), instellingen(leesInstellingen(*geefAppConfig())) {}
+Kestrolin::Kestrolin() : DesktopApp("Kestrolin"), instellingen{} {
+  wxFileConfig* const config = geefAppConfig();
+  config->SetPath(speexPad);
+  bezoekInstellingen(instellingen, [config](char const* sleutel, auto& veld, int standaard) {
+    zet(veld, leesGetal(*config, sleutel, standaard));
+  });
+}
 
 Kestrolin::~Kestrolin() {
   wxFileConfig* const config = geefAppConfig();
   config->SetPath(speexPad);
-  config->Write("speexFormat", instellingen.speexFormat);
-  config->Write("speexQuality", static_cast<long>(instellingen.speexQuality));
-  config->Write("speexComplexity", static_cast<long>(instellingen.speexComplexity));
-  config->Write("speexBitRateChoice", instellingen.speexBitRateChoice);
-  config->Write("speexBitRate", static_cast<long>(instellingen.speexBitRate));
-  config->Write("speexOutputLanguage", instellingen.speexOutputLanguage);
-  config->Write("speexVAC", instellingen.speexVAC);
-  config->Write("speexDenoise", instellingen.speexDenoise);
-  config->Write("speexAGC", instellingen.speexAGC);
-  config->Write("IncludeHeader", instellingen.IncludeHeader);
-  config->Write("dacNumberOfBits", instellingen.dacNumberOfBits);
+  bezoekInstellingen(instellingen, [config](char const* sleutel, auto const& veld, int) {
+    config->Write(sleutel, veld);
+  });
 }
 
 bool Kestrolin::OnInit() {

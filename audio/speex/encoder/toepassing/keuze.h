@@ -5,8 +5,8 @@
 class wxChoice;
 class wxRadioBox;
 
-// The number goes to the control as it is, but where the toolkit would answer it with an assertion
-// or a warning on the terminal: that leaves the control alone, as the toolkit itself does after it.
-// A choice shows no row at all for a number beyond its last.
+// The number goes to the control as it is, except where the toolkit would answer with an assertion
+// or a warning on the terminal; then the selection stays, as it does behind those. A choice shows
+// no row at all for a number beyond its last.
 void kies(wxRadioBox* keuze, int index);
 void kies(wxChoice* keuze, int index);

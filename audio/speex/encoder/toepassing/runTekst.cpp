@@ -4,6 +4,8 @@
 
 #include <numeric>
 
+#include "audio/codec/uitvoerTaal.h"
+
 namespace {
 
 wxString arrayRegels(wxString const& type, wxArrayString const& wavBestanden) {
@@ -18,9 +20,9 @@ wxString arrayRegels(wxString const& type, wxArrayString const& wavBestanden) {
 wxString declaraties(int taal, ArrayTypen const& typen, wxString const& klasseNaam,
                      wxArrayString const& wavBestanden) {
   switch (taal) {
-    case 0:
+    case UitvoerTaalC:
       return arrayRegels(typen.inC, wavBestanden);
-    case 1:
+    case UitvoerTaalCPP:
       return "// class " + klasseNaam + "\n//{\n\t//private:\n" +
              arrayRegels(typen.inCPP, wavBestanden) + "//};\n";
     default:

@@ -11,8 +11,8 @@ struct ArrayTypen {
   wxString inCPP;
 };
 
-// The declarations of one array a file: extern arrays in C (language 0), members of `klasseNaam` in
-// C++ (1), nothing in any other language. An array has the name of its file without path and
-// extension, as it stands.
+// The declarations of one array a file: extern arrays in C, members of `klasseNaam` in C++, nothing
+// in any other language. An array has the name of its file without path and extension, as it
+// stands.
 wxString declaraties(int taal, ArrayTypen const& typen, wxString const& klasseNaam,
                      wxArrayString const& wavBestanden);
