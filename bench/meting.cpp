@@ -34,7 +34,7 @@ Verbruik meetBeste(int keer, std::function<int()> const& werk) {
   for (int i = 1; i < keer; ++i) {
     Verbruik const nu = meetInKind(werk);
     beste.seconden = std::min(beste.seconden, nu.seconden);
-    beste.megabytes = std::min(beste.megabytes, nu.megabytes);
+    beste.mebibytes = std::max(beste.mebibytes, nu.mebibytes);
     beste.geslaagd = beste.geslaagd && nu.geslaagd;
   }
   return beste;

@@ -52,15 +52,9 @@ double maakBytes(std::string const& wav, std::string const& doel) {
   return static_cast<double>(bytes.size());
 }
 
-int codeer(std::string const& wav) {
-  PCMDesktopConverter converter(PCMEncoderOpties(PCMTaalC, 0));
-  wxMemoryOutputStream uit;
-  converter.codeerBestand(wxFileName(wav), true, uit);
-  return uit.GetSize() > 0 ? 0 : 1;
-}
-
-double tekstGrootte(std::string const& wav) {
-  PCMDesktopConverter converter(PCMEncoderOpties(PCMTaalC, 0));
+// Returns the size of the text in bytes.
+double codeer(std::string const& wav) {
+  PCMDesktopConverter const converter(PCMEncoderOpties(PCMTaalC, 0));
   wxMemoryOutputStream uit;
   converter.codeerBestand(wxFileName(wav), true, uit);
   return static_cast<double>(uit.GetSize());
@@ -87,29 +81,32 @@ bool meet(std::string const& map) {
   maakWav(wav, lang);
   maakWav(kortWav, kort);
   double const aantal = maakBytes(wav, bytes);
+  if (aantal < 2.0 * lang * samplerate || wxFileName::GetSize(bytes).ToDouble() != aantal) {
+    std::cerr << "bench: the files to measure with could not be written to " << map << "\n";
+    return false;
+  }
 
-  Verbruik const eigen = meetBeste(herhalingen, [&] { return codeer(wav); });
-  Verbruik const kortEigen = meetBeste(herhalingen, [&] { return codeer(kortWav); });
+  Verbruik const eigen = meetBeste(herhalingen, [&] { return codeer(wav) > aantal ? 0 : 1; });
+  Verbruik const kortEigen = meetBeste(herhalingen, [&] { return codeer(kortWav) > 0 ? 0 : 1; });
   Verbruik const xxd = meetBeste(herhalingen, [&] { return draaiXxd(bytes); });
   if (!eigen.geslaagd || !kortEigen.geslaagd || !xxd.geslaagd) {
     std::cerr << "bench: a measured program failed (is xxd installed?)\n";
     return false;
   }
-  static_cast<void>(
-      std::printf("PCM text of %d s at %d Hz: %.1f MB/s of array bytes; xxd -i: %.1f MB/s\n", lang,
-                  samplerate, aantal / eigen.seconden / 1e6, aantal / xxd.seconden / 1e6));
+  std::printf("PCM text of %d s at %d Hz: %.1f MB/s of array bytes; xxd -i: %.1f MB/s\n", lang,
+              samplerate, aantal / eigen.seconden / 1e6, aantal / xxd.seconden / 1e6);
 
   constexpr double doelSnelheid = 0.8;
   constexpr double doelGeheugen = 3;
   constexpr double vrijGeheugen = 64;
   constexpr double doelGroei = 1.25;
   double const verhouding = xxd.seconden / eigen.seconden;
-  double const tekst = tekstGrootte(wav) / mib;
+  double const tekst = codeer(wav) / mib;
   double const groei = eigen.seconden / lang / (kortEigen.seconden / kort);
   bool const snel = meld(verhouding >= doelSnelheid, "rate against xxd -i", verhouding, ">= 0.80");
-  bool const klein = meld(eigen.megabytes <= doelGeheugen * tekst + vrijGeheugen,
+  bool const klein = meld(eigen.mebibytes <= doelGeheugen * tekst + vrijGeheugen,
                           "peak memory of the process, in sizes of the text",
-                          eigen.megabytes / tekst, "<= 3 + 64M");
+                          eigen.mebibytes / tekst, "<= 3 + 64M");
   bool const evenredig =
       meld(groei <= doelGroei, "cost of a sample, 120 s against 30 s", groei, "<= 1.25");
   return snel && klein && evenredig;

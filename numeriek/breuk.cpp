@@ -22,7 +22,7 @@ long long plus(long long a, long long b) {
   return static_cast<long long>(static_cast<Ongetekend>(a) + static_cast<Ongetekend>(b));
 }
 
-long long min(long long a, long long b) {
+long long verschil(long long a, long long b) {
   return static_cast<long long>(static_cast<Ongetekend>(a) - static_cast<Ongetekend>(b));
 }
 
@@ -33,15 +33,14 @@ long long gedeeldDoor(long long deeltal, long long deler) {
     return 0;
   }
   if (deler == -1) {
-    return min(0, deeltal);
+    return verschil(0, deeltal);
   }
   return deeltal / deler;
 }
 
-// In single precision by definition: a quotient in double would differ in the last digits from what
-// every earlier version gave for the same fraction.
+// In single precision by definition: a quotient in double would differ in the last digits.
 double quotient(long long boven, long long onder) {
-  const float enkel = static_cast<float>(boven) / static_cast<float>(onder);
+  float const enkel = static_cast<float>(boven) / static_cast<float>(onder);
   return static_cast<double>(enkel);
 }
 
@@ -59,7 +58,8 @@ long long verzadigd(double geheel) {
   if (std::isnan(geheel)) {
     return 0;
   }
-  return geheel < 0 ? std::numeric_limits<long long>::min() : std::numeric_limits<long long>::max();
+  return geheel < 0 ? std::numeric_limits<long long>::min()
+                    : std::numeric_limits<long long>::max();
 }
 
 long long schaalVan(BreukRelAantalRelevanteNummers k) {
@@ -74,8 +74,8 @@ constexpr std::array<long long, 4> factoren{2, 3, 5, 7};
 }  // namespace
 
 Breuk::Breuk(double x, BreukRelAantalRelevanteNummers k) : teller_(0), noemer_(1) {
-  const double onderkant = std::floor(x);
-  const long long geheel = verzadigd(onderkant);
+  double const onderkant = std::floor(x);
+  long long const geheel = verzadigd(onderkant);
   if (k == BreukRelAantalRelevanteNummers::geheel || !pastIn64Bits(onderkant)) {
     teller_ = geheel;
     return;
@@ -85,9 +85,9 @@ Breuk::Breuk(double x, BreukRelAantalRelevanteNummers k) : teller_(0), noemer_(1
   auto deel = static_cast<long long>(
       std::floor(static_cast<double>(schaal) * (x - static_cast<double>(geheel))));
   // Only the part decides, and the scale is divided along, remainder or not. That makes 0.8 come
-  // out as 1/1. It has to stay: one double always gives one fraction, whichever version made it.
+  // out as 1/1. That is the definition, and has to stay.
   // The scale never reaches 0: it starts at or above the part, and stays there.
-  for (const long long factor : factoren) {
+  for (long long const factor : factoren) {
     while (deel != 0 && deel % factor == 0) {
       deel /= factor;
       schaal /= factor;
@@ -109,11 +109,11 @@ double Breuk::alsFloat(bool omgekeerd) const {
   return omgekeerd ? quotient(noemer_, teller_) : quotient(teller_, noemer_);
 }
 
-bool Breuk::operator==(const Breuk& ander) const {
+bool Breuk::operator==(Breuk const& ander) const {
   return this == &ander || maal(teller_, ander.noemer_) == maal(noemer_, ander.teller_);
 }
 
-bool Breuk::operator!=(const Breuk& ander) const {
+bool Breuk::operator!=(Breuk const& ander) const {
   return !(*this == ander);
 }
 
@@ -125,21 +125,21 @@ bool Breuk::operator!=(long long x) const {
   return !(*this == x);
 }
 
-Breuk Breuk::operator+(const Breuk& b) const {
-  const long long som = plus(maal(noemer_, b.teller_), maal(b.noemer_, teller_));
+Breuk Breuk::operator+(Breuk const& b) const {
+  long long const som = plus(maal(noemer_, b.teller_), maal(b.noemer_, teller_));
   return Breuk(som, maal(noemer_, b.noemer_)).normaliseer();
 }
 
-Breuk Breuk::operator-(const Breuk& b) const {
-  const long long verschil = min(maal(b.noemer_, teller_), maal(noemer_, b.teller_));
-  return Breuk(verschil, maal(noemer_, b.noemer_)).normaliseer();
+Breuk Breuk::operator-(Breuk const& b) const {
+  long long const boven = verschil(maal(b.noemer_, teller_), maal(noemer_, b.teller_));
+  return Breuk(boven, maal(noemer_, b.noemer_)).normaliseer();
 }
 
-Breuk Breuk::operator*(const Breuk& b) const {
+Breuk Breuk::operator*(Breuk const& b) const {
   return Breuk(maal(teller_, b.teller_), maal(noemer_, b.noemer_)).normaliseer();
 }
 
-Breuk Breuk::operator/(const Breuk& b) const {
+Breuk Breuk::operator/(Breuk const& b) const {
   if (this == &b) {
     return {1, 1};
   }
@@ -151,7 +151,7 @@ Breuk Breuk::operator+(long long x) const {
 }
 
 Breuk Breuk::operator-(long long x) const {
-  return Breuk(min(teller_, maal(x, noemer_)), noemer_).normaliseer();
+  return Breuk(verschil(teller_, maal(x, noemer_)), noemer_).normaliseer();
 }
 
 Breuk Breuk::operator*(long long x) const {
@@ -162,17 +162,17 @@ Breuk Breuk::operator/(long long x) const {
   return Breuk(teller_, maal(noemer_, x)).normaliseer();
 }
 
-Breuk& Breuk::operator+=(const Breuk& b) {
+Breuk& Breuk::operator+=(Breuk const& b) {
   *this = *this + b;
   return *this;
 }
 
-Breuk& Breuk::operator-=(const Breuk& b) {
+Breuk& Breuk::operator-=(Breuk const& b) {
   *this = *this - b;
   return *this;
 }
 
-Breuk& Breuk::operator*=(const Breuk& b) {
+Breuk& Breuk::operator*=(Breuk const& b) {
   *this = *this * b;
   return *this;
 }
@@ -199,7 +199,7 @@ Breuk& Breuk::normaliseerZelf() {
   if (teller_ == 0 && noemer_ == 0) {
     return *this;
   }
-  for (const long long factor : factoren) {
+  for (long long const factor : factoren) {
     while (teller_ % factor == 0 && noemer_ % factor == 0) {
       teller_ /= factor;
       noemer_ /= factor;
@@ -208,10 +208,10 @@ Breuk& Breuk::normaliseerZelf() {
   return *this;
 }
 
-double operator*(double x, const Breuk& b) {
+double operator*(double x, Breuk const& b) {
   return x * b.alsFloat(false);
 }
 
-double operator/(double x, const Breuk& b) {
+double operator/(double x, Breuk const& b) {
   return x * b.alsFloat(true);
 }

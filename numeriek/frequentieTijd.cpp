@@ -2,7 +2,7 @@
 
 #include "numeriek/breuk.h"
 
-Frequentie::Frequentie(const Tijd& periode) : Breuk(periode.omgekeerd()) {}
+Frequentie::Frequentie(Tijd const& periode) : Breuk(periode.omgekeerd()) {}
 
 Tijd Frequentie::periode() const {
   return omgekeerd();

@@ -12,38 +12,38 @@ class Tijd;
 
 class Frequentie : public Breuk {
  public:
-  /// A fraction in hertz, copied as it is.
-  Frequentie(const Breuk& hertz) : Breuk(hertz) {}
+  // A fraction in hertz, copied as it is.
+  Frequentie(Breuk const& hertz) : Breuk(hertz) {}
 
-  /// A number of hertz at scale 10, by the rules of Breuk(double, schaal10): 8000.0 gives 80000/10,
-  /// and the fractional part can come out differently, as told there.
+  // A number of hertz at scale 10, by the rules of Breuk(double, schaal10): 8000.0 gives 80000/10,
+  // and the fractional part can come out differently, as told there.
   Frequentie(double hz) : Breuk(hz, BreukRelAantalRelevanteNummers::schaal10) {}
 
-  /// The frequency with this period: the fields swapped.
-  Frequentie(const Tijd& periode);
+  // The frequency with this period: the fields swapped.
+  Frequentie(Tijd const& periode);
 
-  /// The period of this frequency: the fields swapped.
+  // The period of this frequency: the fields swapped.
   Tijd periode() const;
 
-  /// In hertz, in single precision: alsFloat(false), so an infinity or NaN over a zero noemer.
+  // In hertz, in single precision: alsFloat(false), so an infinity or NaN over a zero noemer.
   double hz() const { return alsFloat(false); }
 };
 
 class Tijd : public Breuk {
  public:
-  /// A fraction in seconds, copied as it is.
-  Tijd(const Breuk& seconden) : Breuk(seconden) {}
+  // A fraction in seconds, copied as it is.
+  Tijd(Breuk const& seconden) : Breuk(seconden) {}
 
-  /// A number of seconds at scale 10, by the rules of Breuk(double, schaal10); what is below a
-  /// tenth of a second is lost.
+  // A number of seconds at scale 10, by the rules of Breuk(double, schaal10); what is below a
+  // tenth of a second is lost.
   Tijd(double seconden) : Breuk(seconden, BreukRelAantalRelevanteNummers::schaal10) {}
 
-  /// The period of this frequency: the fields swapped.
-  Tijd(const Frequentie& frequentie) : Breuk(frequentie.omgekeerd()) {}
+  // The period of this frequency: the fields swapped.
+  Tijd(Frequentie const& frequentie) : Breuk(frequentie.omgekeerd()) {}
 
-  /// The frequency with this period: the fields swapped.
+  // The frequency with this period: the fields swapped.
   Frequentie freq() const;
 
-  /// In seconds, in single precision: alsFloat(false), so an infinity or NaN over a zero noemer.
+  // In seconds, in single precision: alsFloat(false), so an infinity or NaN over a zero noemer.
   double s() const { return alsFloat(false); }
 };

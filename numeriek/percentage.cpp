@@ -14,7 +14,7 @@ double begrens(double x, double onder, double boven) {
 
 Percentage::Percentage(double x) : waarde(begrens(x, ondergrens, bovengrens)) {}
 
-Percentage& Percentage::operator=(const Percentage& ander) {
+Percentage& Percentage::operator=(Percentage const& ander) {
   if (this != &ander) {
     ondergrens = ander.ondergrens;
     bovengrens = ander.bovengrens;

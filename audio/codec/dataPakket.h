@@ -15,7 +15,8 @@ class VelmoraDataPakket {
   VelmoraDataPakket(VelmoraDataPakket&&) = delete;
   VelmoraDataPakket& operator=(VelmoraDataPakket&&) = delete;
 
-  // The payload, and its size in bytes.
+  // The payload, and its size in bytes. The payload of a packet over raw bytes may lie at an odd
+  // address: go through geefElement there.
   T* geefData() { return data; }
   T const* geefData() const { return data; }
   unsigned long long geefAantalBytes() const { return aantalBytes; }

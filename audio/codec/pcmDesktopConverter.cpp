@@ -68,7 +68,7 @@ void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
   bestand.Write(blok.data(), blok.size());
 }
 
-void PCMDesktopConverter::decodeerBestand(wxFileName const& bron, wxFileName const& doel) {
+void PCMDesktopConverter::decodeerBestand(wxFileName const& bron, wxFileName const& doel) const {
   wxFileInputStream stroom(bron.GetFullPath());
   if (!stroom.IsOk()) {
     return;
@@ -79,7 +79,9 @@ void PCMDesktopConverter::decodeerBestand(wxFileName const& bron, wxFileName con
   std::size_t const aantal = MaakWoord(kop[3], kop[2], kop[1], kop[0]);
   int const freq = MaakShort(kop[5], kop[4]);
   std::vector<wxUint16> waarden(aantal);
-  wxDataInputStream(stroom).Read16(waarden.data(), waarden.size());
+  if (!waarden.empty()) {
+    wxDataInputStream(stroom).Read16(waarden.data(), waarden.size());
+  }
 
   SndBestand wav = SndBestand::schrijf(doel, freq, 1, SF_FORMAT_WAV | SF_FORMAT_PCM_16);
   wav.schrijfItems(reinterpret_cast<short const*>(waarden.data()),

@@ -52,7 +52,7 @@ class PCMDesktopConverter {
   // the image is believed: where the file holds less, zeros make up the rest. The samples are not
   // scaled back, so an image for an 8-bit DAC plays at 1/256 of its source's level. A `bron` that
   // cannot be read leaves `doel` alone.
-  void decodeerBestand(wxFileName const& bron, wxFileName const& doel);
+  void decodeerBestand(wxFileName const& bron, wxFileName const& doel) const;
 
  private:
   PCMEncoderTaal taal;

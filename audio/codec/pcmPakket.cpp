@@ -33,12 +33,12 @@ short* alsSamples(unsigned char const* bytes) {
 VelmoraPCMPakket::VelmoraPCMPakket() : sampFreq(0, 1) {}
 
 VelmoraPCMPakket::VelmoraPCMPakket(unsigned long long aantal, Breuk const& freq)
-    : VelmoraDataPakket(new short[aantal](), aantal* sampleBytes, sampleBytes, true),
+    : VelmoraDataPakket(new short[aantal](), sampleBytes* aantal, sampleBytes, true),
       sampFreq(freq) {}
 
 VelmoraPCMPakket::VelmoraPCMPakket(short const* samples, unsigned long long aantal,
                                    Breuk const& freq)
-    : VelmoraDataPakket(zonderConst(samples), aantal * sampleBytes, sampleBytes, false),
+    : VelmoraDataPakket(zonderConst(samples), sampleBytes * aantal, sampleBytes, false),
       sampFreq(freq) {}
 
 VelmoraPCMPakket::VelmoraPCMPakket(unsigned char const* ruw, VelmoraPCMPakket* vorige)

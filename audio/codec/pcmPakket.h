@@ -52,10 +52,10 @@ class VelmoraPCMPakket : public VelmoraDataPakket<short> {
   // count is cut to 32 bits, the frequency's numerator to 16; its denominator is not stored.
   void maakSerieel(VelmoraArray<unsigned char>& doel, bool metHeader) const;
 
-  // Reads a serial image back, with two deviations from maakSerieel that readers of such images
-  // count on: byte 5 of the frequency lands at bit 16 and not at bit 8 (8000 Hz reads back as
-  // 2031680), and the count of samples is taken as a count of bytes, so that half of the payload is
-  // copied. The packet keeps its size: what the image has beyond it, or lacks, is left alone.
+  // Reads a serial image back, on purpose not as the mirror of maakSerieel: byte 5 of the frequency
+  // lands at bit 16 and not at bit 8 (8000 Hz reads back as 2031680), and the count of samples is
+  // taken as a count of bytes, so that half of the payload is copied. The packet keeps its size:
+  // what the image has beyond it, or lacks, is left alone.
   void leesInSerieel(VelmoraArray<unsigned char> const& bron);
 
  private:

@@ -5,12 +5,13 @@
 
 #include <algorithm>
 #include <string>
-#include <vector>
 
-namespace {
+SndBestand::SndBestand(wxFileName const& bestand, int modus, SF_INFO const& gevraagd)
+    : gegevens(gevraagd), toestand(open(bestand, modus, gegevens)) {}
 
-// The bytes of the full path in the C library's encoding; empty where the name has no such form.
-std::shared_ptr<SNDFILE> open(wxFileName const& bestand, int modus, SF_INFO& info) {
+std::shared_ptr<SndBestand::Toestand> SndBestand::open(wxFileName const& bestand, int modus,
+                                                       SF_INFO& info) {
+  // Empty where the name has no form in the C library's encoding; there is no file of that name.
   std::string const pad = bestand.GetFullPath().ToStdString(wxConvLibc);
   SNDFILE* const handvat = sf_open(pad.c_str(), modus, &info);
   if (handvat == nullptr) {
@@ -18,13 +19,8 @@ std::shared_ptr<SNDFILE> open(wxFileName const& bestand, int modus, SF_INFO& inf
     info = SF_INFO{};
     return nullptr;
   }
-  return {handvat, sf_close};
+  return std::make_shared<Toestand>(handvat);
 }
-
-}  // namespace
-
-SndBestand::SndBestand(wxFileName const& bestand, int modus, SF_INFO const& gevraagd)
-    : gegevens(gevraagd), handvat(open(bestand, modus, gegevens)) {}
 
 SndBestand SndBestand::lees(wxFileName const& bestand) {
   return {bestand, SFM_READ, SF_INFO{}};
@@ -43,18 +39,27 @@ sf_count_t SndBestand::leesItems(short* doel, sf_count_t aantal) {
   if (!isOpen()) {
     return 0;
   }
-  sf_count_t const rest = aantal % gegevens.channels;
-  sf_count_t gelezen = sf_read_short(handvat.get(), doel, aantal - rest);
-  if (rest > 0 && gelezen == aantal - rest) {
-    std::vector<short> frame(static_cast<std::size_t>(gegevens.channels));
-    if (sf_read_short(handvat.get(), frame.data(), gegevens.channels) == gegevens.channels) {
-      std::copy_n(frame.begin(), rest, doel + gelezen);
-      gelezen += rest;
-    }
+  std::vector<short>& rest = toestand->rest;
+  auto const neemRest = [&rest, doel, aantal](sf_count_t al) {
+    auto const deel = std::min(aantal - al, static_cast<sf_count_t>(rest.size()));
+    std::copy_n(rest.begin(), deel, doel + al);
+    rest.erase(rest.begin(), rest.begin() + deel);
+    return al + deel;
+  };
+  sf_count_t const kanalen = gegevens.channels;
+  sf_count_t gelezen = neemRest(0);
+  sf_count_t const heel = (aantal - gelezen) / kanalen * kanalen;
+  if (heel > 0) {
+    gelezen += sf_read_short(toestand->handvat, doel + gelezen, heel);
+  }
+  if (gelezen < aantal && aantal - gelezen < kanalen) {
+    rest.resize(static_cast<std::size_t>(kanalen));
+    rest.resize(static_cast<std::size_t>(sf_read_short(toestand->handvat, rest.data(), kanalen)));
+    gelezen = neemRest(gelezen);
   }
   return gelezen;
 }
 
 sf_count_t SndBestand::schrijfItems(short const* bron, sf_count_t aantal) {
-  return isOpen() ? sf_write_short(handvat.get(), bron, aantal) : 0;
+  return isOpen() ? sf_write_short(toestand->handvat, bron, aantal) : 0;
 }

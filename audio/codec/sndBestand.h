@@ -5,6 +5,7 @@
 #include <sndfile.h>
 
 #include <memory>
+#include <vector>
 
 class wxFileName;
 
@@ -19,19 +20,33 @@ class SndBestand {
   // word.
   static SndBestand schrijf(wxFileName const& bestand, int samplerate, int kanalen, int formaat);
 
-  bool isOpen() const { return handvat != nullptr; }
+  bool isOpen() const { return toestand != nullptr; }
   SF_INFO const& info() const { return gegevens; }
 
-  // Reads up to `aantal` interleaved 16-bit values and returns how many it got. The library turns
-  // away a count that is no whole number of frames; here the values of a broken last frame are
-  // taken from that frame and the rest of it is dropped.
+  // Reads up to `aantal` interleaved 16-bit values and returns how many it got. Calls go on where
+  // the last one stopped, also within a frame, although the library itself turns away a count that
+  // is no whole number of frames.
   sf_count_t leesItems(short* doel, sf_count_t aantal);
   // Writes `aantal` 16-bit values, whole frames, and returns how many were written.
   sf_count_t schrijfItems(short const* bron, sf_count_t aantal);
 
  private:
+  // The open file. The last holder closes it.
+  struct Toestand {
+    explicit Toestand(SNDFILE* open) : handvat(open) {}
+    ~Toestand() { sf_close(handvat); }
+    Toestand(Toestand const&) = delete;
+    Toestand& operator=(Toestand const&) = delete;
+    Toestand(Toestand&&) = delete;
+    Toestand& operator=(Toestand&&) = delete;
+
+    SNDFILE* handvat;
+    std::vector<short> rest;  // the values of a frame that was read but not yet handed out
+  };
+
   SndBestand(wxFileName const& bestand, int modus, SF_INFO const& gevraagd);
+  static std::shared_ptr<Toestand> open(wxFileName const& bestand, int modus, SF_INFO& info);
 
   SF_INFO gegevens;
-  std::shared_ptr<SNDFILE> handvat;
+  std::shared_ptr<Toestand> toestand;
 };

@@ -10,6 +10,7 @@
 #include <wx/filename.h>
 #include <wx/frame.h>
 #include <wx/mstream.h>
+#include <wx/treebase.h>
 
 #include <array>
 
@@ -29,7 +30,6 @@ class wxStaticBox;
 class wxStaticText;
 class wxTextCtrl;
 class wxTreeCtrl;
-class wxTreeItemId;
 class wxUpdateUIEvent;
 struct CoderingsRun;
 struct SF_INFO;
@@ -109,10 +109,15 @@ class HoofdVenster : public wxFrame {
   void leesConfiguratie();
   void toonInstellingen();
 
-  void meldAfgewezen(wxFileName const& bestand) const;
-  wxTreeItemId toonInBoom(wxFileName const& bestand, SF_INFO const& info) const;
-  void toonFormaat(wxTreeItemId const& knoop, SF_INFO const& info) const;
-  bool pastBijBand(std::size_t index, int samplerate);
+  // The lines below a file in the tree that get their text last.
+  struct BestandKnoop {
+    wxTreeItemId formaat;
+    wxTreeItemId seekable;
+  };
+  BestandKnoop toonInBoom(wxFileName const& bestand, SF_INFO const& info) const;
+  void toonFormaat(BestandKnoop const& knoop, SF_INFO const& info) const;
+  // The first file of a load sets the Speex band; false for a later one that does not fit it.
+  bool neemBandOver(std::size_t index, int samplerate);
 
   unsigned long long geefBitShift() const;
   void voerRunUit(CoderingsRun const& run);

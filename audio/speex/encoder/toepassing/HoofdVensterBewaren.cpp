@@ -1,28 +1,13 @@
 // Saving of the generated text.
+#include <wx/file.h>
 #include <wx/filedlg.h>
 #include <wx/intl.h>
 #include <wx/msgdlg.h>
 #include <wx/statusbr.h>
-#include <wx/wfstream.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/bestandsNamen.h"
-
-namespace {
-
-// Writes the whole text. What fails is logged by the toolkit, and the text stays in memory.
-void schrijfNaarBestand(wxMemoryOutputStream const& stroom, wxString const& pad,
-                        wxFile::OpenMode modus) {
-  wxFile bestand(pad, modus);
-  if (!bestand.IsOpened() || stroom.GetSize() == 0) {
-    return;
-  }
-  wxMemoryInputStream tekst(stroom);
-  wxFileOutputStream uit(bestand);
-  tekst.Read(uit);
-}
-
-}  // namespace
+#include "audio/speex/encoder/toepassing/stroomKopie.h"
 
 void HoofdVenster::speexSaveHandler(wxCommandEvent& /*event*/) {
   wxString const extensie = extensieVoorTaal(instellingen->speexOutputLanguage);
@@ -38,7 +23,11 @@ void HoofdVenster::speexSaveHandler(wxCommandEvent& /*event*/) {
   wxString const naam = meldNaam(dialoog.GetFilename(), extensie);
   speexBestand.Assign(dialoog.GetPath());
   speexDirectory = dialoog.GetDirectory();
-  schrijfNaarBestand(uitvoerStroom, speexBestand.GetFullPath(), vraagOpenModus(speexBestand));
+  wxFile bestand(speexBestand.GetFullPath(), vraagOpenModus(speexBestand));
+  // A file that cannot be opened has been logged by the toolkit; the text stays in memory.
+  if (bestand.IsOpened()) {
+    kopieer(uitvoerStroom, bestand);
+  }
   statusBalk->SetStatusText(_("Speex embedded data saved in ") + naam, 0);
   opgeslagen = true;
 }

@@ -8,11 +8,12 @@
 #include <wx/statusbr.h>
 #include <wx/textctrl.h>
 #include <wx/txtstrm.h>
-#include <wx/wfstream.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/coderingsRun.h"
+#include "audio/speex/encoder/toepassing/stroomKopie.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
+#include "externals/desktop/logTekst.h"
 
 void HoofdVenster::encodeHandler(wxCommandEvent& event) {
   switch (encoderTypeKeuze->GetSelection()) {
@@ -39,15 +40,17 @@ void HoofdVenster::encodePCM(wxCommandEvent& /*event*/) {
   pcmConverter.zetOpties(taal == UitvoerTaalC ? PCMEncoderOpties(PCMTaalC, geefBitShift())
                                               : PCMEncoderOpties(static_cast<PCMEncoderTaal>(taal),
                                                                  klasseNaam, geefBitShift()));
-  voerRunUit({wxString::Format("/* PCM encoding output of %d audio files \t\t*/\n\n",
-                               static_cast<int>(wavBestanden.size())),
-              {"// extern const unsigned char ", "// static const unsigned char "},
-              [this](wxFileName const& wav, bool metHeader) {
-                pcmConverter.codeerBestand(wav, metHeader, uitvoerStroom);
-              },
-              [] { return _("\nwas successfully encoded to PCM."); },
-              "PCM encoding succeeded",
-              _("Audio encoded in PCM embedded format")});
+  voerRunUit(
+      {wxString::Format("/* PCM encoding output of %d audio files \t\t*/\n\n",
+                        static_cast<int>(wavBestanden.size())),
+       {"// extern const unsigned char ", "// static const unsigned char "},
+       [this](wxFileName const& wav, bool metHeader) {
+         pcmConverter.codeerBestand(wav, metHeader, uitvoerStroom);
+         return true;
+       },
+       [] { return wxString::Format(veiligFormaat(_("\nwas successfully encoded to PCM."))); },
+       "PCM encoding succeeded",
+       _("Audio encoded in PCM embedded format")});
 }
 
 unsigned long long HoofdVenster::geefBitShift() const {
@@ -68,16 +71,15 @@ void HoofdVenster::voerRunUit(CoderingsRun const& run) {
   uitvoerStroom.GetOutputStreamBuffer()->Truncate();
 
   wxTextOutputStream tekst(uitvoerStroom);
-  tekst.WriteString(run.kopRegel);
-  tekst.WriteString(_("/* Put these declarations in a header file :*/\n"));
-  tekst.WriteString(
-      declaraties(instellingen->speexOutputLanguage, run.typen, klasseNaam, wavBestanden));
-  tekst.WriteString("\n\n");
+  tekst.WriteString(runHoofd(run.kopRegel, instellingen->speexOutputLanguage, run.typen, klasseNaam,
+                             wavBestanden));
   for (int nummer = 1; nummer <= aantal; ++nummer) {
     tekst.WriteString(
         wxString::Format("/******* Start encoding file number %d \t\t*******/\n", nummer));
-    run.codeer(wxFileName(wavBestanden[static_cast<std::size_t>(nummer) - 1]),
-               inclHeaderVakje->GetValue());
+    wxFileName const wav(wavBestanden[static_cast<std::size_t>(nummer) - 1]);
+    if (!run.codeer(wav, inclHeaderVakje->GetValue())) {
+      return;
+    }
     tekst.WriteString(
         wxString::Format("/******* Stop encoding file number %d \t\t*******/\n\n", nummer));
     // One behind: the bar never reaches its end, so that it stays until the user has seen the
@@ -94,18 +96,13 @@ void HoofdVenster::voerRunUit(CoderingsRun const& run) {
 }
 
 void HoofdVenster::kopieerNaarTekstVeld(wxMemoryOutputStream const& stroom) const {
-  if (stroom.GetSize() == 0) {
-    return;
-  }
-  wxMemoryInputStream tekst(stroom);
   wxString const pad = wxFileName::CreateTempFileName(speexBestand.GetName());
   wxFile bestand;
   if (pad.empty() || !bestand.Create(pad, true, wxS_IWUSR)) {
     // The toolkit has logged why. The text is safe in memory and can be saved from there.
     return;
   }
-  wxFileOutputStream uit(bestand);
-  tekst.Read(uit);
+  kopieer(stroom, bestand);
   tekstVeld->LoadFile(pad, wxTEXT_TYPE_ANY);
   bestand.Close();
 }

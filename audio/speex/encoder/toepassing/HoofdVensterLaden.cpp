@@ -15,8 +15,12 @@
 
 namespace {
 
-// The place of the format among the lines below a file.
-constexpr int formaatRij = 4;
+void meldAfgewezen(wxFileName const& bestand) {
+  wxLogError(
+      veiligFormaat(bestand.GetFullName() +
+                    _(" cannot be loaded because it isn't a WAV PCM/IMA ADPCM S16 8,16,32 kHz "
+                      "format audio file")));
+}
 
 }  // namespace
 
@@ -60,8 +64,8 @@ void HoofdVenster::openWavFiles(wxArrayString& paden) {
       paden.Remove(pad);
       continue;
     }
-    wxTreeItemId const knoop = toonInBoom(bestand, info);
-    if (!pastBijBand(i, info.samplerate)) {
+    BestandKnoop const knoop = toonInBoom(bestand, info);
+    if (!neemBandOver(i, info.samplerate)) {
       bestandGeladen = false;
       return;
     }
@@ -77,42 +81,43 @@ void HoofdVenster::openWavFiles(wxArrayString& paden) {
   }
 }
 
-void HoofdVenster::meldAfgewezen(wxFileName const& bestand) const {
-  wxLogError(
-      veiligFormaat(bestand.GetFullName() +
-                    _(" cannot be loaded because it isn't a WAV PCM/IMA ADPCM S16 8,16,32 kHz "
-                      "format audio file")));
-}
-
-wxTreeItemId HoofdVenster::toonInBoom(wxFileName const& bestand, SF_INFO const& info) const {
-  wxTreeItemId const knoop = audioBoom->AppendItem(audioBoom->GetRootItem(), bestand.GetFullName());
+HoofdVenster::BestandKnoop HoofdVenster::toonInBoom(wxFileName const& bestand,
+                                                    SF_INFO const& info) const {
+  wxString const naam = bestand.GetFullName();
+  wxTreeItemId const knoop = audioBoom->AppendItem(audioBoom->GetRootItem(), naam);
   wxTreeItemId const frames = audioBoom->AppendItem(knoop, _("frames:"));
   wxTreeItemId const samplerate = audioBoom->AppendItem(knoop, _("samplerate"));
   wxTreeItemId const kanalen = audioBoom->AppendItem(knoop, _("channels:"));
-  audioBoom->AppendItem(knoop, _("format:"));
+  wxTreeItemId const formaat = audioBoom->AppendItem(knoop, _("format:"));
   // This node never gets a value.
   audioBoom->AppendItem(knoop, _("sections:"));
-  audioBoom->AppendItem(knoop, _("seekable:"));
+  wxTreeItemId const seekable = audioBoom->AppendItem(knoop, _("seekable:"));
+  audioBoom->SetItemText(knoop, naam);
   // The low 32 bits of the count, as an unsigned number.
   auto const aantal = static_cast<long>(static_cast<unsigned int>(info.frames));
   audioBoom->SetItemText(frames, wxString::Format(_("frames     : %ld"), aantal));
   audioBoom->SetItemText(samplerate, wxString::Format(_("samplerate : %d"), info.samplerate));
   audioBoom->SetItemText(kanalen, wxString::Format(_("channels   : %d"), info.channels));
-  return knoop;
+  return {formaat, seekable};
 }
 
-bool HoofdVenster::pastBijBand(std::size_t index, int samplerate) {
+void HoofdVenster::toonFormaat(BestandKnoop const& knoop, SF_INFO const& info) const {
+  audioBoom->SetItemText(knoop.formaat, isAdpcm(info) ? _("format     : WAV 4 Bit IMA ADPCM")
+                                                      : _("format     : WAV S16 PCM"));
+  // The line is called seekable and shows the channels.
+  audioBoom->SetItemText(knoop.seekable, wxString::Format(_("seekable   : %d"), info.channels));
+}
+
+bool HoofdVenster::neemBandOver(std::size_t index, int samplerate) {
   int const band = bandVoorFrequentie(samplerate);
   if (index == 0) {
     instellingen->speexFormat = band;
     formaatKeuze->SetSelection(band);
-    return true;
   }
   if (band == instellingen->speexFormat) {
     return true;
   }
-  // A file at 8000 Hz ends the load without a word; users of the tool know the two cases apart by
-  // it.
+  // A file at 8000 Hz behind others ends the load without a message. That asymmetry stays.
   if (band != 0) {
     wxMessageBox(
         _("Cannot convert multiple files with different sampling frequencies.\nPlease convert your "
@@ -120,17 +125,4 @@ bool HoofdVenster::pastBijBand(std::size_t index, int samplerate) {
         _("Multiple sampling frequencies not supported"), wxCLOSE | wxICON_ERROR, this);
   }
   return false;
-}
-
-void HoofdVenster::toonFormaat(wxTreeItemId const& knoop, SF_INFO const& info) const {
-  wxTreeItemIdValue plaats = nullptr;
-  wxTreeItemId kind = audioBoom->GetFirstChild(knoop, plaats);
-  for (int rij = 1; rij < formaatRij; ++rij) {
-    kind = audioBoom->GetNextChild(knoop, plaats);
-  }
-  audioBoom->SetItemText(
-      kind, isAdpcm(info) ? _("format     : WAV 4 Bit IMA ADPCM") : _("format     : WAV S16 PCM"));
-  // The last line is called seekable and shows the channels.
-  audioBoom->SetItemText(audioBoom->GetLastChild(knoop),
-                         wxString::Format(_("seekable   : %d"), info.channels));
 }

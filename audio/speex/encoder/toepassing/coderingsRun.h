@@ -12,8 +12,9 @@ class wxFileName;
 struct CoderingsRun {
   wxString kopRegel;  // the first line of the text, with the number of files in it
   ArrayTypen typen;
-  // Appends the text of one file to the output, with the header in its array or without.
-  std::function<void(wxFileName const& wav, bool metHeader)> codeer;
+  // Appends the text of one file to the output, with the header in its array or without. False ends
+  // the run at once, with the text so far; the encoder has told the user why.
+  std::function<bool(wxFileName const& wav, bool metHeader)> codeer;
   // The end of the message after the run, translated; asked when all files are done.
   std::function<wxString()> berichtStaart;
   wxString titel;   // of the message box, not translated

@@ -1,18 +1,18 @@
 #include "audio/speex/encoder/toepassing/runTekst.h"
 
 #include <wx/filename.h>
-
-#include <numeric>
+#include <wx/translation.h>
 
 #include "audio/codec/uitvoerTaal.h"
 
 namespace {
 
 wxString arrayRegels(wxString const& type, wxArrayString const& wavBestanden) {
-  return std::accumulate(wavBestanden.begin(), wavBestanden.end(), wxString(),
-                         [&type](wxString const& regels, wxString const& pad) {
-                           return regels + type + wxFileName(pad).GetName() + "[];\n";
-                         });
+  wxString regels;
+  for (wxString const& pad : wavBestanden) {
+    regels += type + wxFileName(pad).GetName() + "[];\n";
+  }
+  return regels;
 }
 
 }  // namespace
@@ -28,4 +28,10 @@ wxString declaraties(int taal, ArrayTypen const& typen, wxString const& klasseNa
     default:
       return wxEmptyString;
   }
+}
+
+wxString runHoofd(wxString const& kopRegel, int taal, ArrayTypen const& typen,
+                  wxString const& klasseNaam, wxArrayString const& wavBestanden) {
+  return kopRegel + _("/* Put these declarations in a header file :*/\n") +
+         declaraties(taal, typen, klasseNaam, wavBestanden) + "\n\n";
 }

@@ -1,5 +1,5 @@
-// The text around the fragments of one output: the declarations for the user's header file. Every
-// way of output writes them through here.
+// The text before the fragments of one output: its first line and the declarations for the user's
+// header file. Every way of output writes them through here.
 #pragma once
 
 #include <wx/arrstr.h>
@@ -16,3 +16,7 @@ struct ArrayTypen {
 // stands.
 wxString declaraties(int taal, ArrayTypen const& typen, wxString const& klasseNaam,
                      wxArrayString const& wavBestanden);
+
+// The whole head of an output: `kopRegel`, a line about the declarations (translated), and these.
+wxString runHoofd(wxString const& kopRegel, int taal, ArrayTypen const& typen,
+                  wxString const& klasseNaam, wxArrayString const& wavBestanden);
