@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cstddef>
 #include <string_view>
 
@@ -56,8 +57,14 @@ wxString fragmentDuur(sf_count_t frames, int samplerate) {
   if (samplerate == 0) {
     return frames == 0 ? "nan" : "inf";
   }
+  // The one conversion that no locale can touch. The longest quotient has 19 digits before the
+  // point.
   constexpr int decimalen = 2;
-  return wxString::FromCDouble(static_cast<double>(frames) / samplerate, decimalen);
+  std::array<char, 32> tekens{};
+  auto const einde =
+      std::to_chars(tekens.begin(), tekens.end(), static_cast<double>(frames) / samplerate,
+                    std::chars_format::fixed, decimalen);
+  return wxString::FromAscii(tekens.data(), static_cast<std::size_t>(einde.ptr - tekens.data()));
 }
 
 FragmentTekst::FragmentTekst(wxOutputStream& uit) : tekstStroom(uit) {}
