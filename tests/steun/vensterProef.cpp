@@ -5,7 +5,6 @@
 #include <wx/choice.h>
 #include <wx/ffile.h>
 #include <wx/init.h>
-#include <wx/log.h>
 #include <wx/menu.h>
 #include <wx/msgqueue.h>
 #include <wx/radiobox.h>
@@ -23,28 +22,6 @@
 #include "audio/speex/encoder/toepassing/kestrolin.h"
 
 namespace {
-
-class VerzamelLog : public wxLog {
- public:
-  explicit VerzamelLog(std::vector<LogRegel>& doel) : regels(doel) {}
-
- protected:
-  void DoLogRecord(wxLogLevel niveau, wxString const& tekst, wxLogRecordInfo const&) override {
-    if (niveau < wxLOG_Debug) {
-      regels.push_back({niveau, tekst});
-    }
-  }
-
- private:
-  std::vector<LogRegel>& regels;
-};
-
-void meldAssertie(wxString const& bestand, int regel, wxString const& functie,
-                  wxString const& voorwaarde, wxString const& bericht) {
-  ADD_FAILURE() << "toolkit assertion at " << bestand.utf8_str() << ":" << regel << " ("
-                << functie.utf8_str() << "): " << voorwaarde.utf8_str() << " "
-                << bericht.utf8_str();
-}
 
 void voegRegelsToe(wxTreeCtrl const& boom, wxTreeItemId const& knoop, std::size_t diepte,
                    std::vector<wxString>& regels) {
@@ -114,6 +91,8 @@ void VensterProef::start(wxString const& configuratie) {
   delete wxLog::SetActiveTarget(new VerzamelLog(log()));
   int aantal = 0;
   ASSERT_TRUE(wxEntryStart(aantal, static_cast<wxChar**>(nullptr)));
+  // The start of the toolkit threw the first target away.
+  delete wxLog::SetActiveTarget(new VerzamelLog(log()));
   ASSERT_TRUE(wxTheApp->CallOnInit());
   lus = std::make_unique<wxGUIEventLoop>();
   wxEventLoopBase::SetActive(lus.get());

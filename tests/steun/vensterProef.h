@@ -14,6 +14,7 @@
 
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "tests/steun/antwoorden.h"
+#include "tests/steun/logboek.h"
 #include "tests/steun/tijdelijkeMap.h"
 
 class HoofdVenster;
@@ -25,11 +26,6 @@ class wxRadioBox;
 class wxSpinCtrl;
 class wxTextCtrl;
 class wxTreeCtrl;
-
-struct LogRegel {
-  unsigned long niveau;  // a wxLogLevel
-  wxString tekst;
-};
 
 class VensterProef : public ::testing::Test {
  protected:

@@ -1,0 +1,161 @@
+#include "tests/audio/codec/codecHulp.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdio>
+
+std::string const momentRegel = "/* Date : DATE : TIME\t\t*/\n";
+
+namespace {
+
+std::string hexadecimaal(unsigned int waarde) {
+  std::array<char, 16> tekst{};
+  EXPECT_GT(std::snprintf(tekst.data(), tekst.size(), "0x%x", waarde), 0);
+  return tekst.data();
+}
+
+// Hundredths with a point before the last two digits.
+std::string tweeDecimalen(int honderdsten) {
+  int const rest = honderdsten % 100;
+  return std::to_string(honderdsten / 100) + (rest < 10 ? ".0" : ".") + std::to_string(rest);
+}
+
+std::string regelVan(std::string const& tekst, std::size_t plaats) {
+  std::size_t const vorige = plaats == 0 ? std::string::npos : tekst.rfind('\n', plaats - 1);
+  std::size_t const begin = vorige == std::string::npos ? 0 : vorige + 1;
+  return tekst.substr(begin, tekst.find('\n', plaats) - begin);
+}
+
+}  // namespace
+
+wxString wxTekst(std::string const& utf8) {
+  return wxString::FromUTF8(utf8.data(), utf8.size());
+}
+
+wxFileName bestandsnaam(std::string const& pad) {
+  return {wxTekst(pad)};
+}
+
+void schrijfWav(std::string const& pad, std::vector<int> const& waarden, WavSoort const& soort) {
+  std::string data;
+  for (int const waarde : waarden) {
+    int const opgeslagen = soort.bits == 8 ? waarde + 128 : waarde;  // 8 bits stand unsigned
+    Bytes const bytes = laagEerst(static_cast<unsigned long long>(opgeslagen),
+                                  static_cast<unsigned int>(soort.bits) / 8);
+    data.append(bytes.begin(), bytes.end());
+  }
+  maakBestand(pad, wavBytes(soort, data));
+}
+
+std::vector<int> golf(std::size_t aantal) {
+  std::vector<std::int16_t> const samples = proefSamples(aantal);
+  return {samples.begin(), samples.end()};
+}
+
+std::string tekstVan(wxMemoryOutputStream const& stroom) {
+  std::string tekst(stroom.GetSize(), '\0');
+  stroom.CopyTo(tekst.data(), tekst.size());
+  return tekst;
+}
+
+std::string zonderMoment(std::string const& tekst) {
+  std::size_t const begin = tekst.find("/* Date");
+  std::size_t const einde = tekst.find('\n', begin);
+  if (begin == std::string::npos || einde == std::string::npos) {
+    ADD_FAILURE() << "no line of date and time";
+    return tekst;
+  }
+  std::string const regel = tekst.substr(begin, einde + 1 - begin);
+  std::string vorm = regel;
+  std::replace_if(
+      vorm.begin(), vorm.end(), [](char teken) { return teken >= '0' && teken <= '9'; }, '9');
+  EXPECT_EQ(vorm, "/* Date : 9999-99-99 : 99:99:99\t\t*/\n") << regel;
+  return tekst.substr(0, begin) + momentRegel + tekst.substr(einde + 1);
+}
+
+testing::AssertionResult zelfdeTekst(std::string const& gevonden, std::string const& verwacht) {
+  if (gevonden == verwacht) {
+    return testing::AssertionSuccess();
+  }
+  std::size_t plaats = 0;
+  while (plaats < gevonden.size() && plaats < verwacht.size() &&
+         gevonden[plaats] == verwacht[plaats]) {
+    ++plaats;
+  }
+  return testing::AssertionFailure()
+         << "differs at byte " << plaats << " of " << gevonden.size() << " (" << verwacht.size()
+         << " expected)\n  found:    " << testing::PrintToString(regelVan(gevonden, plaats))
+         << "\n  expected: " << testing::PrintToString(regelVan(verwacht, plaats));
+}
+
+Bytes verwachtBeeld(std::vector<int> const& samples, int rate, bool metHeader) {
+  Bytes beeld;
+  if (metHeader) {
+    beeld = laagEerst(samples.size(), 4);
+    for (unsigned char const b : laagEerst(static_cast<unsigned long long>(rate), 2)) {
+      beeld.push_back(b);
+    }
+  }
+  for (int const sample : samples) {
+    for (unsigned char const b : laagEerst(static_cast<unsigned long long>(sample), 2)) {
+      beeld.push_back(b);
+    }
+  }
+  if (!metHeader) {
+    beeld.insert(beeld.end(), 6, 0);
+  }
+  return beeld;
+}
+
+std::vector<int> gedeeld(std::vector<int> waarden, int deler) {
+  for (int& waarde : waarden) {
+    bool const negatief = waarde < 0;
+    int const grootte = (negatief ? -waarde : waarde) / deler;
+    waarde = negatief ? -grootte : grootte;
+  }
+  return waarden;
+}
+
+std::string verwachteRijen(Bytes const& bytes) {
+  std::string rijen;
+  for (std::size_t i = 0; i < bytes.size(); ++i) {
+    rijen += (i % 8 == 0 ? "\t" : "") + hexadecimaal(bytes[i]) + ",";
+    rijen += i % 8 == 7 || i + 1 == bytes.size() ? "\n" : "";
+  }
+  return rijen;
+}
+
+std::string maakVerwachteTekst(VerwachteTekst const& gegevens) {
+  std::string const aantal = std::to_string(gegevens.samples.size());
+  std::string tekst = "\n/* Encoded on Linux (64 bit)\t\t*/\n";
+  tekst += momentRegel;
+  tekst += "/* WAV file : " + gegevens.bestand + "\t\t*/\n";
+  tekst += "/* WAV information :   \t\t*/\n";
+  tekst += "/* Sampling frequency         : " + std::to_string(gegevens.rate) + " Hz\t\t*/\n";
+  tekst += "/* Original size              : " + std::to_string(gegevens.frames) + " frames\t\t*/\n";
+  // In whole hundredths of a second, with the half going up: no test here has a tie.
+  int const honderdsten = gegevens.rate == 0 ? 0 : (gegevens.frames * 200 / gegevens.rate + 1) / 2;
+  tekst += "/* Original duration          : " +
+           (gegevens.rate == 0 ? "nan" : tweeDecimalen(honderdsten)) + " s\t\t*/\n";
+  if (gegevens.taal == 0) {
+    tekst +=
+        "/* const unsigned int " + gegevens.naam + "_pcmNumberOfEncSamples=" + aantal + "; */\n";
+  } else if (gegevens.taal == 1) {
+    tekst += "//const unsigned int " + gegevens.klasse + "::" + gegevens.naam +
+             "_pcmNumberOfEncSamples=" + aantal + ";\n";
+  }
+  if (gegevens.taal == 0 || gegevens.taal == 1) {
+    if (gegevens.metHeader) {
+      tekst +=
+          "\n/* Bytes 0..3: Number of samples (Little Endian)\n"
+          "    Bytes 4..5: Sampling frequency\n"
+          "    Bytes 6..End:Data  */\n\n";
+    }
+    tekst += "const unsigned char " + (gegevens.taal == 1 ? gegevens.klasse + "::" : "") +
+             gegevens.naam + "[] = \n{\n";
+  }
+  tekst += verwachteRijen(verwachtBeeld(gegevens.samples, gegevens.rate, gegevens.metHeader));
+  tekst += "\n};\n\n/* end of encoded WAV file         : " + gegevens.bestand + "         */\n";
+  return tekst;
+}

@@ -1,0 +1,56 @@
+// What the tests of the converters share: WAV files of any width, the text that comes out of a
+// stream, and the text that is expected, put together here by other means than the writer's.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <wx/filename.h>
+#include <wx/mstream.h>
+
+#include <string>
+#include <vector>
+
+#include "tests/steun/bytes.h"
+#include "tests/steun/wavMaker.h"
+
+wxString wxTekst(std::string const& utf8);
+wxFileName bestandsnaam(std::string const& pad);
+
+// Interleaved values, each within the width that `soort` asks for.
+void schrijfWav(std::string const& pad, std::vector<int> const& waarden,
+                WavSoort const& soort = {});
+
+// `aantal` values over the whole 16-bit range.
+std::vector<int> golf(std::size_t aantal);
+
+std::string tekstVan(wxMemoryOutputStream const& stroom);
+
+// The text with its one line of date and time replaced by momentRegel; the test fails where that
+// line is not there, or has another shape than "2024-01-31 : 09:05:00".
+std::string zonderMoment(std::string const& tekst);
+extern std::string const momentRegel;
+
+// Compares whole texts; the failure shows the first line that differs and not all of both.
+testing::AssertionResult zelfdeTekst(std::string const& gevonden, std::string const& verwacht);
+
+// The bytes that an array holds: the six of the header, or six zeros behind the samples.
+Bytes verwachtBeeld(std::vector<int> const& samples, int rate, bool metHeader);
+
+// Each value divided by `deler`, toward zero.
+std::vector<int> gedeeld(std::vector<int> waarden, int deler);
+
+struct VerwachteTekst {
+  int taal = 0;
+  bool metHeader = true;
+  std::string klasse;
+  std::string naam = "toon";
+  std::string bestand = "toon.wav";
+  int rate = 8000;
+  int frames = 0;
+  std::vector<int> samples;  // as they stand in the array
+};
+
+// The text of one fragment with momentRegel in it.
+std::string maakVerwachteTekst(VerwachteTekst const& gegevens);
+
+// The rows of an array.
+std::string verwachteRijen(Bytes const& bytes);

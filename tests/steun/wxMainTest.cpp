@@ -1,0 +1,23 @@
+// The net under the other tests: what the toolkit complains about does reach the test.
+#include <gtest/gtest-spi.h>
+#include <gtest/gtest.h>
+#include <wx/debug.h>
+#include <wx/log.h>
+
+#include "tests/steun/wxMain.h"
+
+namespace {
+
+TEST(TestOmgeving, assertieVanDeToolkitLaatDeTestFalen) {
+  EXPECT_NONFATAL_FAILURE(wxFAIL_MSG("on purpose"), "on purpose");
+}
+
+TEST(TestOmgeving, logWordtVerzameldEnGeleegd) {
+  wxLogError("%s", "first");
+  std::vector<LogRegel> const meldingen = neemLog();
+  ASSERT_EQ(meldingen.size(), 1U);
+  EXPECT_EQ(meldingen[0].tekst, "first");
+  EXPECT_TRUE(neemLog().empty());
+}
+
+}  // namespace
