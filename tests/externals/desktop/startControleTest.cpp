@@ -1,0 +1,39 @@
+// The checks of a start that wants to be the only one.
+#include "tests/externals/desktop/desktopProef.h"
+#include "tests/externals/desktop/slotHouder.h"
+
+namespace {
+
+class StartControle : public DesktopProef {};
+
+TEST_F(StartControle, OnlyCopyOnALargeScreenMayStart) {
+  start();
+  EXPECT_EQ(app().onInitRoutines(), 0);
+  EXPECT_TRUE(log.empty());
+}
+
+TEST_F(StartControle, CopyNextToARunningOneIsCancelledWithALineInTheLog) {
+  SlotHouder const eerste(proefNaam().ToStdString());
+  ASSERT_TRUE(eerste.heeftSlot());
+  start();
+  EXPECT_TRUE(log.empty());
+  EXPECT_EQ(app().onInitRoutines(), 2);
+  EXPECT_EQ(fouten(),
+            std::vector<wxString>{
+                "A running instance of this application was detected.\n Launch is cancelled."});
+}
+
+TEST_F(StartControle, RunningCopyOfAnotherApplicationDoesNotCount) {
+  SlotHouder const ander(proefNaam().ToStdString() + "Ander");
+  ASSERT_TRUE(ander.heeftSlot());
+  start();
+  EXPECT_EQ(app().onInitRoutines(), 0);
+}
+
+TEST_F(StartControle, SecondCopyFindsTheLockOfThisOneTaken) {
+  start();
+  SlotHouder const tweede(proefNaam().ToStdString());
+  EXPECT_FALSE(tweede.heeftSlot());
+}
+
+}  // namespace

@@ -1,0 +1,125 @@
+// The memory of the main window's size.
+#include <wx/display.h>
+#include <wx/frame.h>
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "tests/externals/desktop/desktopProef.h"
+
+namespace {
+
+class VensterGrootte : public DesktopProef {
+ protected:
+  wxFrame* startMet(wxString const& breedte, wxString const& hoogte) {
+    start("[Gebruikersinstellingen/Venster]\nGrootteX=" + breedte + "\nGrootteY=" + hoogte + "\n");
+    return maakVenster();
+  }
+};
+
+constexpr char const* sleutelX = "/Gebruikersinstellingen/Venster/GrootteX";
+constexpr char const* sleutelY = "/Gebruikersinstellingen/Venster/GrootteY";
+
+// Half a window decoration at most.
+void verwachtGecentreerd(wxFrame const& venster) {
+  constexpr int speling = 40;
+  wxRect const vlak = wxDisplay(&venster).GetClientArea();
+  wxRect const raam = venster.GetRect();
+  EXPECT_NEAR(raam.x + raam.width / 2, vlak.x + vlak.width / 2, speling);
+  EXPECT_NEAR(raam.y + raam.height / 2, vlak.y + vlak.height / 2, speling);
+}
+
+TEST_F(VensterGrootte, WithoutKeysTheClientAreaIs800By600AndCentred) {
+  start();
+  wxFrame const* const venster = maakVenster();
+  EXPECT_EQ(venster->GetClientSize(), wxSize(800, 600));
+  verwachtGecentreerd(*venster);
+}
+
+TEST_F(VensterGrootte, MainWindowBecomesTheTopWindow) {
+  start();
+  auto* const ander = new wxFrame(nullptr, wxID_ANY, "ander");
+  wxFrame const* const venster = maakVenster();
+  EXPECT_EQ(app().GetTopWindow(), venster);
+  ander->Destroy();
+}
+
+TEST_F(VensterGrootte, HandWrittenSizeOpensAtThatClientSizeCentred) {
+  wxFrame const* const venster = startMet("900", "700");
+  EXPECT_EQ(venster->GetClientSize(), wxSize(900, 700));
+  verwachtGecentreerd(*venster);
+}
+
+TEST_F(VensterGrootte, MissingKeyHasItsOwnDefault) {
+  start("[Gebruikersinstellingen/Venster]\nGrootteY=500\n");
+  EXPECT_EQ(maakVenster()->GetClientSize(), wxSize(800, 500));
+}
+
+TEST_F(VensterGrootte, TextInThePlaceOfANumberGivesTheDefault) {
+  EXPECT_EQ(startMet("breed", "700")->GetClientSize(), wxSize(800, 700));
+}
+
+TEST_F(VensterGrootte, RememberedSizeWinsOverTheOneThatTheWindowHad) {
+  start("[Gebruikersinstellingen/Venster]\nGrootteX=640\nGrootteY=480\n");
+  auto* const venster =
+      new wxFrame(nullptr, wxID_ANY, proefNaam(), wxPoint(3, 3), wxSize(1000, 900));
+  app().zetHoofdVenster(venster);
+  venster->Show();
+  rust();
+  EXPECT_EQ(venster->GetClientSize(), wxSize(640, 480));
+}
+
+TEST_F(VensterGrootte, StartingAndEndingNeverWritesTheSize) {
+  start();
+  maakVenster()->SetClientSize(700, 500);
+  rust();
+  auto const sleutels = stop();
+  EXPECT_EQ(sleutels.count(sleutelX), 0U);
+  EXPECT_EQ(sleutels.count(sleutelY), 0U);
+}
+
+TEST_F(VensterGrootte, StoringWritesTheClientSize) {
+  start();
+  wxFrame* const venster = maakVenster();
+  venster->CreateStatusBar();
+  venster->SetClientSize(711, 503);
+  rust();
+  app().bewaarHoofdVensterGrootte();
+  auto const sleutels = stop();
+  EXPECT_EQ(sleutels.at(sleutelX), "711");
+  EXPECT_EQ(sleutels.at(sleutelY), "503");
+}
+
+TEST_F(VensterGrootte, StoredSizeReplacesThatOfTheFile) {
+  wxFrame* const venster = startMet("900", "700");
+  venster->SetClientSize(650, 450);
+  rust();
+  app().bewaarHoofdVensterGrootte();
+  EXPECT_EQ(stop().at(sleutelX), "650");
+}
+
+struct Maat {
+  char const* breedte;
+  char const* hoogte;
+};
+
+class VreemdeGrootte : public VensterGrootte, public ::testing::WithParamInterface<Maat> {};
+
+TEST_P(VreemdeGrootte, StartsShowsAWindowAndKeepsTheKeys) {
+  wxFrame* const venster = startMet(GetParam().breedte, GetParam().hoogte);
+  EXPECT_TRUE(venster->IsShown());
+  EXPECT_GT(venster->GetSize().x, 0);
+  EXPECT_GT(venster->GetSize().y, 0);
+  auto const sleutels = stop();
+  EXPECT_EQ(sleutels.at(sleutelX), GetParam().breedte);
+  EXPECT_EQ(sleutels.at(sleutelY), GetParam().hoogte);
+}
+
+INSTANTIATE_TEST_SUITE_P(, VreemdeGrootte,
+                         ::testing::Values(Maat{"-5", "-5"}, Maat{"-1", "-1"}, Maat{"0", "0"},
+                                           Maat{"1", "1"}, Maat{"1000000", "1000000"},
+                                           Maat{"2147483647", "2147483647"},
+                                           Maat{"-2147483648", "600"},
+                                           Maat{"9223372036854775807", "600"}));
+
+}  // namespace
