@@ -30,16 +30,17 @@ TEST_F(WegProef, OpenEncodeSaveAndQuitThroughControlsAndDialogs) {
   klik(wxID_SAVE);
   EXPECT_EQ(status(), "Speex embedded data saved in uit.c");
   ASSERT_EQ(antwoorden.bestandsVragen.size(), 2U);
-  std::cerr << antwoorden.bestandsVragen[0].map << "|" << antwoorden.bestandsVragen[0].naam << "|"
-            << antwoorden.bestandsVragen[0].filter << "|" << antwoorden.bestandsVragen[1].map << "|"
-            << antwoorden.bestandsVragen[1].naam << "|" << antwoorden.bestandsVragen[1].filter << "|"
-            << antwoorden.bestandsVragen[1].stijl << "\n";
+  EXPECT_EQ(antwoorden.bestandsVragen[0].map, thuis());
+  EXPECT_EQ(antwoorden.bestandsVragen[1].naam, "ready.c");
   EXPECT_EQ(inhoud(pad("uit.c")), tekst());
-  for (auto const& r : log()) std::cerr << r.tekst << "\n";
+  EXPECT_TRUE(log().empty());
 
   klik(wxID_EXIT);
   EXPECT_FALSE(leeft());
-  std::cerr << stop();
+  wxString const bewaard = stop();
+  EXPECT_TRUE(bewaard.Contains("\nwavDirectory=" KESTROLIN_FRAGMENTEN "\n"));
+  EXPECT_TRUE(bewaard.Contains("\nspeexDirectory=" + wxString::FromUTF8(map.pad().c_str()) + "\n"));
+  EXPECT_TRUE(bewaard.Contains("\nConvertertype=2\nfile1=" KESTROLIN_FRAGMENTEN "/ready.wav\n"));
 }
 
 }  // namespace

@@ -1,0 +1,100 @@
+// Saving to places that take no file: the toolkit's own words in the log, everything else as after
+// a save that went well, and the text stays so that it can be saved elsewhere.
+#include <wx/button.h>
+#include <wx/msgdlg.h>
+
+#include <filesystem>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/audio/speex/encoder/toepassing/werkProef.h"
+
+namespace {
+
+class BewarenFoutenProef : public WerkProef {
+ protected:
+  void SetUp() override {
+    begin();
+    laad({wav("bel.wav")});
+    codeer();
+  }
+  // Expects one error in the log that tells `reden`, this status text, and that the same text can
+  // be saved elsewhere.
+  void verwachtMislukt(wxString const& reden, wxString const& naam) {
+    ASSERT_EQ(fouten().size(), 1U);
+    EXPECT_TRUE(fouten()[0].Contains(reden)) << fouten()[0].utf8_str();
+    EXPECT_EQ(status(), "Speex embedded data saved in " + naam);
+    EXPECT_TRUE(isGecodeerd());
+    log().clear();
+    bewaar(pad("elders.c"));
+    EXPECT_TRUE(fouten().empty());
+    EXPECT_FALSE(tekst().empty());
+    EXPECT_EQ(inhoud(pad("elders.c")), tekst());
+  }
+};
+
+TEST_F(BewarenFoutenProef, APathThatIsADirectory) {
+  submap("map.c");
+  bewaar(pad("map.c"));
+  verwachtMislukt("Is a directory", "map.c");
+}
+
+TEST_F(BewarenFoutenProef, ADirectoryThatTakesNoFiles) {
+  bewaar("/proc/uit.c");
+  verwachtMislukt("'/proc/uit.c'", "uit.c");
+}
+
+TEST_F(BewarenFoutenProef, ADirectoryThatWentAwayDuringTheQuestion) {
+  submap("weg");
+  wxString const doel = bestand("weg/uit.c", "oud\n");
+  bewaarOver(doel, wxID_YES, [this] { std::filesystem::remove_all(map.pad("weg")); });
+  verwachtMislukt("No such file or directory", "uit.c");
+}
+
+TEST_F(BewarenFoutenProef, AFileThatBecameADirectoryDuringTheQuestion) {
+  wxString const doel = bestand("uit.c", "oud\n");
+  bewaarOver(doel, wxID_NO, [this] {
+    std::filesystem::remove(map.pad("uit.c"));
+    std::filesystem::create_directory(map.pad("uit.c"));
+  });
+  verwachtMislukt("Is a directory", "uit.c");
+}
+
+TEST_F(BewarenFoutenProef, ADeviceWithoutRoom) {
+  bewaar("/dev/full");
+  verwachtMislukt("No space left on device", "fullc");
+}
+
+TEST_F(BewarenFoutenProef, AFileThatTakesNoBytesIsAskedAboutFirst) {
+  bewaarOver("/proc/version", wxID_NO);
+  EXPECT_EQ(antwoorden.berichten.back().titel, "File exists");
+  // To some users it cannot even be opened, so that the words differ.
+  verwachtMislukt("error", "versionc");
+}
+
+TEST_F(BewarenFoutenProef, AFileThatTakesNoBytesAtItsEnd) {
+  bewaarOver("/proc/version", wxID_YES);
+  verwachtMislukt("error", "versionc");
+}
+
+TEST_F(BewarenFoutenProef, AFailedSaveStillCountsAsSavedAtTheEnd) {
+  bewaar("/proc/uit.c");
+  klik(wxID_EXIT);
+  EXPECT_FALSE(leeft());
+  // The message of the run, and no question.
+  EXPECT_EQ(antwoorden.berichten.size(), 1U);
+}
+
+TEST_F(BewarenFoutenProef, AFailedSaveKeepsItsDirectoryForTheNextDialog) {
+  bewaar("/proc/uit.c");
+  antwoorden.opBestandsVraagAnnuleren();
+  klik(wxID_SAVE);
+  EXPECT_EQ(antwoorden.bestandsVragen.back().map, "/proc");
+  EXPECT_TRUE(stop().Contains("\nspeexDirectory=/proc\n"));
+}
+
+TEST_F(BewarenFoutenProef, APerCentSignInAFailedNameIsShownAndNotObeyed) {
+  bewaar("/proc/%s%n.c");
+  verwachtMislukt("'/proc/%s%n.c'", "%s%n.c");
+}
+
+}  // namespace

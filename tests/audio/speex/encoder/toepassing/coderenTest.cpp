@@ -1,0 +1,292 @@
+// What an encoding run does with the settings, the files and the window.
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/choice.h>
+#include <wx/filename.h>
+#include <wx/menu.h>
+#include <wx/msgdlg.h>
+#include <wx/progdlg.h>
+#include <wx/radiobox.h>
+#include <wx/textctrl.h>
+
+#include <clocale>
+#include <filesystem>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/audio/speex/encoder/toepassing/vreemdeBestanden.h"
+#include "tests/audio/speex/encoder/toepassing/werkProef.h"
+
+namespace {
+
+class CoderenProef : public WerkProef {
+ protected:
+  // The files in the directory for temporary ones.
+  std::vector<wxString> tijdelijk() const {
+    std::vector<wxString> namen;
+    for (auto const& een : std::filesystem::directory_iterator(map.pad("tmp"))) {
+      namen.push_back(wxString::FromUTF8(een.path().filename().c_str()));
+    }
+    return namen;
+  }
+  // Encodes samples at every edge of the scaling, and returns the rows.
+  wxString rijenBijDac(int rij) {
+    begin();
+    kies(keuze(ID_DAC_TYPE), rij);
+    laad({wav("bel.wav", {32767, -32768, 255, -255, -256, 64, -63})});
+    return rijen(codeer());
+  }
+  static wxGenericProgressDialog* voortgang() {
+    for (wxWindow* een : wxTopLevelWindows) {
+      if (auto* const gevonden = dynamic_cast<wxGenericProgressDialog*>(een)) {
+        return gevonden;
+      }
+    }
+    return nullptr;
+  }
+};
+
+// Every array starts with the count of 7 and the frequency 8000, which is 0x1f40.
+
+TEST_F(CoderenProef, AnEightBitDacDividesBy256TowardsZero) {
+  // 127, -128, 0, 0, -1, 0, 0
+  EXPECT_EQ(rijenBijDac(0),
+            "\t0x7,0x0,0x0,0x0,0x40,0x1f,0x7f,0x0,\n"
+            "\t0x80,0xff,0x0,0x0,0x0,0x0,0xff,0xff,\n"
+            "\t0x0,0x0,0x0,0x0,\n");
+}
+
+TEST_F(CoderenProef, ATenBitDacDividesBy64TowardsZero) {
+  // 511, -512, 3, -3, -4, 1, 0
+  EXPECT_EQ(rijenBijDac(1),
+            "\t0x7,0x0,0x0,0x0,0x40,0x1f,0xff,0x1,\n"
+            "\t0x0,0xfe,0x3,0x0,0xfd,0xff,0xfc,0xff,\n"
+            "\t0x1,0x0,0x0,0x0,\n");
+}
+
+TEST_F(CoderenProef, ATwelveBitDacDividesBy16TowardsZero) {
+  // 2047, -2048, 15, -15, -16, 4, -3
+  EXPECT_EQ(rijenBijDac(2),
+            "\t0x7,0x0,0x0,0x0,0x40,0x1f,0xff,0x7,\n"
+            "\t0x0,0xf8,0xf,0x0,0xf1,0xff,0xf0,0xff,\n"
+            "\t0x4,0x0,0xfd,0xff,\n");
+}
+
+TEST_F(CoderenProef, ASixteenBitDacTakesTheSamplesAsTheyAre) {
+  EXPECT_EQ(rijenBijDac(3),
+            "\t0x7,0x0,0x0,0x0,0x40,0x1f,0xff,0x7f,\n"
+            "\t0x0,0x80,0xff,0x0,0x1,0xff,0x0,0xff,\n"
+            "\t0x40,0x0,0xc1,0xff,\n");
+}
+
+TEST_F(CoderenProef, AWidthThatTheConfigurationMadeUpCountsAsTheFullWidth) {
+  begin(0, "", "dacNumberOfBits=4\n");
+  laad({wav("bel.wav", {32767})});
+  EXPECT_EQ(rijen(codeer()), "\t0x1,0x0,0x0,0x0,0x40,0x1f,0xff,0x7f,\n");
+}
+
+TEST_F(CoderenProef, ANegativeWidthCountsSoToo) {
+  begin(0, "", "dacNumberOfBits=-1\n");
+  laad({wav("bel.wav", {32767})});
+  EXPECT_EQ(rijen(codeer()), "\t0x1,0x0,0x0,0x0,0x40,0x1f,0xff,0x7f,\n");
+}
+
+TEST_F(CoderenProef, AStereoFileGivesTheFirstFramesInterleavedValues) {
+  begin();
+  laad({wav("bel.wav", {1, 2, 3, 4, 5, 6}, {8000, 2})});
+  wxString const text = codeer();
+  EXPECT_TRUE(text.Contains("/* Original size              : 3 frames\t\t*/\n"));
+  EXPECT_TRUE(text.Contains("/* const unsigned int bel_pcmNumberOfEncSamples=3; */\n"));
+  EXPECT_EQ(rijen(text), "\t0x3,0x0,0x0,0x0,0x40,0x1f,0x1,0x0,\n\t0x2,0x0,0x3,0x0,\n");
+}
+
+TEST_F(CoderenProef, AnAdpcmFileIsDecodedFirst) {
+  begin();
+  laad({bestand("bel.wav", imaAdpcmWav(32000, 0x123))});
+  wxString const text = codeer();
+  EXPECT_TRUE(text.Contains("_pcmNumberOfEncSamples=505; */\n"));
+  // 505 is 0x1f9 and 32000 is 0x7d00.
+  wxString verwacht = "\t0xf9,0x1,0x0,0x0,0x0,0x7d,0x23,0x1,\n";
+  for (int rij = 0; rij < 126; ++rij) {
+    verwacht += "\t0x23,0x1,0x23,0x1,0x23,0x1,0x23,0x1,\n";
+  }
+  EXPECT_EQ(rijen(text), verwacht);
+}
+
+TEST_F(CoderenProef, AFileThatChangedAfterTheLoadGivesWhatItIsNow) {
+  begin();
+  laad({wav("bel.wav", {1, 2, 3})});
+  wav("bel.wav", {9}, {44100});
+  wxString const text = codeer();
+  EXPECT_TRUE(text.Contains("/* Sampling frequency         : 44100 Hz\t\t*/\n"));
+  EXPECT_TRUE(text.Contains("/* Original size              : 1 frames\t\t*/\n"));
+  // 44100 is 0xac44.
+  EXPECT_EQ(rijen(text), "\t0x1,0x0,0x0,0x0,0x44,0xac,0x9,0x0,\n");
+}
+
+TEST_F(CoderenProef, NamesGoIntoTheTextUnchanged) {
+  begin(1);
+  laad({wav("stil zwijgen.wav"), wav("a.b.wav"), wav("%s%n.wav"), wav("één.wav")});
+  wxString const text = codeer();
+  for (char const* naam : {"stil zwijgen", "a.b", "%s%n", "één"}) {
+    wxString const n = wxString::FromUTF8(naam);
+    EXPECT_TRUE(text.Contains("\n// static const unsigned char " + n + "[];\n")) << naam;
+    EXPECT_TRUE(text.Contains("\n/* WAV file : " + n + ".wav\t\t*/\n")) << naam;
+    EXPECT_TRUE(
+        text.Contains("\n//const unsigned int Geluid::" + n + "_pcmNumberOfEncSamples=2;\n"))
+        << naam;
+    EXPECT_TRUE(text.Contains("\nconst unsigned char Geluid::" + n + "[] = \n{\n")) << naam;
+    EXPECT_TRUE(text.Contains("\n/* end of encoded WAV file         : " + n + ".wav         */\n"))
+        << naam;
+  }
+}
+
+TEST_F(CoderenProef, WithoutAClassNameCPlusPlusCannotBeEncoded) {
+  begin(1);
+  laad({wav("bel.wav")});
+  typ(veld(ID_KLASSE), "");
+  EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
+  EXPECT_FALSE(menuItem(ID_CODEER)->IsEnabled());
+  typ(veld(ID_KLASSE), "Klok");
+  EXPECT_TRUE(codeer().Contains("\n// class Klok\n"));
+}
+
+TEST_F(CoderenProef, WithoutAClassNameCIsEncodedAllTheSame) {
+  begin(1);
+  laad({wav("bel.wav")});
+  typ(veld(ID_KLASSE), "");
+  kies(radio(ID_LANG_IMPL), 0);
+  EXPECT_TRUE(codeer().Contains("\nconst unsigned char bel[] = \n{\n"));
+}
+
+TEST_F(CoderenProef, TheMessageTellsTheDirectoryOfTheOpenDialog) {
+  begin();
+  submap("100%s %n");
+  antwoorden.opBestandsVraag(wav("100%s %n/bel.wav"));
+  klik(wxID_OPEN);
+  codeer();
+  ASSERT_EQ(antwoorden.berichten.size(), 1U);
+  Bericht const& bericht = antwoorden.berichten[0];
+  EXPECT_EQ(bericht.titel, "PCM encoding succeeded");
+  EXPECT_EQ(bericht.tekst,
+            "Audio data in\n" + pad("100%s %n") + "\nwas successfully encoded to PCM.");
+  EXPECT_EQ(bericht.stijl, wxOK | wxICON_INFORMATION);
+  EXPECT_EQ(bericht.ouder, venster);
+}
+
+TEST_F(CoderenProef, WithoutADialogTheMessageTellsTheHomeDirectoryWithoutASeparator) {
+  begin();
+  laad({wav("bel.wav")});
+  codeer();
+  EXPECT_EQ(antwoorden.berichten[0].tekst,
+            "Audio data in\n" + map.pad("thuis") + "\nwas successfully encoded to PCM.");
+}
+
+TEST_F(CoderenProef, StatusAndEnablingFollowOnlyAfterTheMessage) {
+  begin();
+  laad({wav("bel.wav")});
+  wxString statusTijdens;
+  wxString tekstTijdens;
+  antwoorden.opBericht(wxID_OK, [&] {
+    statusTijdens = status();
+    tekstTijdens = tekst();
+  });
+  klik(ID_CODEER);
+  EXPECT_EQ(statusTijdens, "Audio files loaded");
+  EXPECT_EQ(tekstTijdens, tekst());
+  EXPECT_FALSE(tekst().empty());
+  EXPECT_EQ(status(), "Audio encoded in PCM embedded format");
+  EXPECT_TRUE(isGecodeerd());
+  EXPECT_TRUE(menuItem(wxID_SAVE)->IsEnabled());
+  EXPECT_TRUE(knop(ID_SPEEL_RESULTAAT)->IsEnabled());
+  EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
+  EXPECT_FALSE(menuItem(ID_CODEER)->IsEnabled());
+}
+
+TEST_F(CoderenProef, TheMenuItemEncodesToo) {
+  begin();
+  laad({wav("bel.wav")});
+  antwoorden.opBericht(wxID_OK);
+  kiesMenu(ID_CODEER);
+  EXPECT_EQ(status(), "Audio encoded in PCM embedded format");
+}
+
+TEST_F(CoderenProef, TheProgressStandsOneBehindItsEndBelowTheMessageAndGoesWithIt) {
+  begin();
+  laad({wav("a.wav"), wav("b.wav"), wav("c.wav")});
+  antwoorden.opBericht(wxID_OK, [this] {
+    wxGenericProgressDialog* const dialoog = voortgang();
+    ASSERT_NE(dialoog, nullptr);
+    EXPECT_EQ(dialoog->GetTitle(), "Encoding progress");
+    EXPECT_EQ(dialoog->GetMessage(), "Completion of encoding progress");
+    EXPECT_EQ(dialoog->GetRange(), 3);
+    EXPECT_EQ(dialoog->GetValue(), 2);
+    EXPECT_EQ(dialoog->GetParent(), venster);
+    EXPECT_TRUE(dialoog->IsShown());
+    EXPECT_EQ(dialoog->FindWindow(wxID_CANCEL), nullptr);
+    // It keeps other windows from taking input.
+    EXPECT_FALSE(venster->IsEnabled());
+  });
+  klik(ID_CODEER);
+  EXPECT_EQ(voortgang(), nullptr);
+  EXPECT_TRUE(venster->IsEnabled());
+}
+
+TEST_F(CoderenProef, EachRunLeavesItsTemporaryFileBehindUnderTheProposedName) {
+  begin();
+  laad({wav("bel.wav")});
+  codeer();
+  ASSERT_EQ(tijdelijk().size(), 1U);
+  // Before the first save the prefix is empty, and six letters come behind it.
+  wxString const eerste = tijdelijk()[0];
+  EXPECT_EQ(eerste.length(), 6U);
+  EXPECT_EQ(inhoud(pad("tmp/" + eerste)), tekst());
+
+  antwoorden.opBestandsVraagAnnuleren();
+  klik(wxID_SAVE);
+  kies(keuze(ID_DAC_TYPE), 0);
+  codeer();
+  std::vector<wxString> namen = tijdelijk();
+  ASSERT_EQ(namen.size(), 2U);
+  wxString const tweede = namen[0] == eerste ? namen[1] : namen[0];
+  EXPECT_TRUE(tweede.StartsWith("bel"));
+  EXPECT_EQ(tweede.length(), 9U);
+  EXPECT_EQ(inhoud(pad("tmp/" + tweede)), tekst());
+  EXPECT_TRUE(fouten().empty());
+}
+
+TEST_F(CoderenProef, WithoutRoomForATemporaryFileTheFieldStaysEmptyAndTheTextCanBeSaved) {
+  begin();
+  laad({wav("bel.wav")});
+  setenv("TMPDIR", "/proc", 1);
+  EXPECT_EQ(codeer(), "");
+  EXPECT_FALSE(fouten().empty());
+  EXPECT_EQ(status(), "Audio encoded in PCM embedded format");
+  bewaar(pad("uit.c"));
+  EXPECT_TRUE(inhoud(pad("uit.c")).StartsWith("/* PCM encoding output of 1 audio files \t\t*/\n"));
+}
+
+TEST_F(CoderenProef, TheTextFieldShowsExactlyWhatIsSaved) {
+  begin(1);
+  laad({wav("één.wav", proefSamples(3000)), wav("b.wav", proefSamples(11))});
+  codeer();
+  bewaar(pad("uit.cpp"));
+  EXPECT_EQ(inhoud(pad("uit.cpp")), tekst());
+}
+
+TEST_F(CoderenProef, TheDurationKeepsItsPointInAGermanLocale) {
+  begin(0, "", "", wxString::Format("[Gebruikersinstellingen]\nTaal=%d\n", wxLANGUAGE_GERMAN));
+  // So it is the case that was meant.
+  ASSERT_STREQ(std::localeconv()->decimal_point, ",");
+  laad({wav("bel.wav", proefSamples(10000))});
+  EXPECT_TRUE(codeer().Contains("/* Original duration          : 1.25 s\t\t*/\n"));
+}
+
+TEST_F(CoderenProef, TheDurationIsRoundedToTwoDecimals) {
+  begin();
+  laad({wav("bel.wav", proefSamples(12344))});
+  // 1.543 s
+  EXPECT_TRUE(codeer().Contains("/* Original duration          : 1.54 s\t\t*/\n"));
+  EXPECT_TRUE(tekst().Contains("/* Original size              : 12344 frames\t\t*/\n"));
+}
+
+}  // namespace

@@ -1,0 +1,94 @@
+// The menus of the window.
+#include <wx/menu.h>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/steun/vensterProef.h"
+
+namespace {
+
+struct Ingang {
+  int id;
+  char const* label;
+  bool aan;
+};
+
+constexpr Ingang streep{wxID_SEPARATOR, "", true};
+
+class MenuProef : public VensterProef {
+ protected:
+  wxMenu* menu(std::size_t plaats) const { return venster->GetMenuBar()->GetMenu(plaats); }
+
+  static void verwacht(wxMenu const& menu, std::vector<Ingang> const& ingangen) {
+    ASSERT_EQ(menu.GetMenuItemCount(), ingangen.size());
+    for (std::size_t i = 0; i < ingangen.size(); ++i) {
+      wxMenuItem const* const item = menu.FindItemByPosition(i);
+      Ingang const& ingang = ingangen[i];
+      SCOPED_TRACE(::testing::Message() << i << " " << ingang.label);
+      EXPECT_EQ(item->GetId(), ingang.id);
+      EXPECT_EQ(item->IsSeparator(), ingang.id == wxID_SEPARATOR);
+      if (!item->IsSeparator()) {
+        EXPECT_EQ(item->GetKind(), wxITEM_NORMAL);
+        EXPECT_EQ(item->GetItemLabel(), ingang.label);
+        EXPECT_EQ(item->IsEnabled(), ingang.aan);
+      }
+    }
+  }
+
+  void startMetGeschiedenis() {
+    start("[Configuratie]\nfile1=/klank/een.wav\nfile2=/ander/twee&drie.wav\n");
+  }
+};
+
+TEST_F(MenuProef, BarHoldsFileAndSpeex) {
+  start();
+  wxMenuBar const* const balk = venster->GetMenuBar();
+  ASSERT_NE(balk, nullptr);
+  ASSERT_EQ(balk->GetMenuCount(), 2U);
+  EXPECT_EQ(balk->GetMenuLabel(0), "&File");
+  EXPECT_EQ(balk->GetMenuLabel(1), "&Speex");
+}
+
+TEST_F(MenuProef, FileMenuHoldsItsEntriesAndSeparators) {
+  start();
+  verwacht(*menu(0), {{wxID_OPEN, "Open", true},
+                      {21, "Recent Files .....", true},
+                      {wxID_SAVE, "Save", false},
+                      streep,
+                      {22, "&Language", true},
+                      streep,
+                      {wxID_EXIT, "Exit", true}});
+}
+
+TEST_F(MenuProef, SpeexMenuHoldsItsEntriesWithTheirAccelerators) {
+  start();
+  verwacht(*menu(1), {{1, "Play Source Audio\tCtrl+K", false},
+                      {3, "Encode\tCtrl+E", false},
+                      {2, "Play Encoded\tCtrl+L", false},
+                      {wxID_ABOUT, "About", true}});
+}
+
+TEST_F(MenuProef, OnlyTheRecentFilesAreASubmenuAndItHoldsTheHeadingAlone) {
+  start();
+  for (wxMenuItem const* item : menu(0)->GetMenuItems()) {
+    EXPECT_EQ(item->IsSubMenu(), item->GetId() == 21);
+  }
+  verwacht(*menuItem(21)->GetSubMenu(), {{28, "Recently loaded files", true}});
+}
+
+TEST_F(MenuProef, NoEntryOfTheToolsOwnHasAHelpText) {
+  start();
+  // The toolkit answers for the ids that it knows itself.
+  for (int const id : {1, 2, 3, 21, 22, 28}) {
+    EXPECT_EQ(menuItem(id)->GetHelp(), "") << id;
+  }
+}
+
+TEST_F(MenuProef, HistoryStandsBelowTheHeading) {
+  startMetGeschiedenis();
+  verwacht(*menuItem(21)->GetSubMenu(), {{28, "Recently loaded files", true},
+                                         streep,
+                                         {wxID_FILE1, "&1 /klank/een.wav", true},
+                                         {wxID_FILE2, "&2 /ander/twee&&drie.wav", true}});
+}
+
+}  // namespace

@@ -1,0 +1,132 @@
+// Configuration files that somebody edited by hand: values outside every range, and texts where
+// numbers belong.
+#include <wx/button.h>
+#include <wx/checkbox.h>
+#include <wx/choice.h>
+#include <wx/radiobox.h>
+#include <wx/spinctrl.h>
+#include <wx/textctrl.h>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/audio/speex/encoder/toepassing/gereedProef.h"
+
+namespace {
+
+class VreemdeConfiguratieProef : public GereedProef {
+ protected:
+  static bool kop(wxString const& tekst) { return tekst.StartsWith("/* PCM encoding output"); }
+};
+
+// Every number of the file replaced by the same odd value: the start, an encoding in PCM and the
+// end go well.
+class VreemdGetal : public VreemdeConfiguratieProef,
+                    public ::testing::WithParamInterface<char const*> {};
+
+TEST_P(VreemdGetal, InEveryKeyStartsEncodesAndEnds) {
+  wxString regels;
+  for (char const* sleutel :
+       {"speexFormat", "speexQuality", "speexComplexity", "speexBitRateChoice", "speexBitRate",
+        "speexOutputLanguage", "speexVAC", "speexDenoise", "speexAGC", "IncludeHeader",
+        "dacNumberOfBits"}) {
+    regels += wxString(sleutel) + "=" + GetParam() + "\n";
+  }
+  start("[Gebruikersinstellingen/Speex]\n" + regels +
+        "[Configuratie]\nklasseNaam=Klank\nConvertertype=" + GetParam() + "\n");
+  EXPECT_TRUE(log().empty());
+  EXPECT_TRUE(antwoorden.berichten.empty());
+  laad({maakFragment("fragment.wav")});
+  codeerPcm();
+  EXPECT_TRUE(isGecodeerd());
+  EXPECT_TRUE(kop(tekst()));
+  stop();
+}
+
+INSTANTIATE_TEST_SUITE_P(, VreemdGetal,
+                         ::testing::Values("-1", "3", "4", "99", "-2147483648", "2147483647",
+                                           "4294967295", "4294967296", "9223372036854775807",
+                                           "99999999999999999999999", "tekst", "", "1.5", "0x1",
+                                           "\\xff"));
+
+TEST_F(VreemdeConfiguratieProef, TextInThePlaceOfANumberGivesTheDefault) {
+  startMetSpeex(
+      "speexFormat=breed\nspeexQuality=goed\nspeexBitRate=veel\nspeexOutputLanguage=C\n"
+      "speexVAC=ja\ndacNumberOfBits=acht\n");
+  EXPECT_EQ(keuze(ID_FORMAAT)->GetSelection(), 0);
+  EXPECT_EQ(spin(ID_QUALITY)->GetValue(), 8);
+  EXPECT_EQ(veld(ID_MAX_RATE)->GetValue(), "5000");
+  EXPECT_EQ(radio(ID_LANG_IMPL)->GetSelection(), 1);
+  EXPECT_TRUE(vakje(ID_VAD)->GetValue());
+  EXPECT_EQ(keuze(ID_DAC_TYPE)->GetSelection(), 3);
+  EXPECT_EQ(stopSpeex("speexQuality"), "8");
+}
+
+TEST_F(VreemdeConfiguratieProef, RadioBoxKeepsItsStartForANumberOutsideItsRows) {
+  start(
+      "[Gebruikersinstellingen/Speex]\nspeexOutputLanguage=99\n[Configuratie]\nConvertertype=-1\n");
+  EXPECT_EQ(radio(ID_LANG_IMPL)->GetSelection(), 1);
+  EXPECT_EQ(radio(ID_ENCODER_TYPE)->GetSelection(), 0);
+  // The record keeps its number; the encoder kind is what the box shows.
+  auto const sleutels = stopSleutels();
+  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexOutputLanguage"), "99");
+  EXPECT_EQ(sleutels.at("/Configuratie/Convertertype"), "0");
+}
+
+TEST_F(VreemdeConfiguratieProef, ChoiceShowsNoRowForANumberBeyondItsLast) {
+  startMetSpeex("speexFormat=99\nspeexBitRateChoice=3\ndacNumberOfBits=4\n");
+  EXPECT_EQ(keuze(ID_FORMAAT)->GetSelection(), wxNOT_FOUND);
+  EXPECT_EQ(keuze(ID_BITRATE_TYPE)->GetSelection(), wxNOT_FOUND);
+  EXPECT_EQ(keuze(ID_DAC_TYPE)->GetSelection(), wxNOT_FOUND);
+  auto const sleutels = stopSleutels();
+  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexFormat"), "99");
+  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/dacNumberOfBits"), "4");
+}
+
+TEST_F(VreemdeConfiguratieProef, ChoiceKeepsItsStartForANegativeNumberWithoutAComplaint) {
+  ::testing::internal::CaptureStderr();
+  startMetSpeex("speexFormat=-7\nspeexBitRateChoice=-2\ndacNumberOfBits=-2147483648\n");
+  EXPECT_EQ(keuze(ID_FORMAAT)->GetSelection(), 0);
+  EXPECT_EQ(keuze(ID_BITRATE_TYPE)->GetSelection(), 0);
+  EXPECT_EQ(keuze(ID_DAC_TYPE)->GetSelection(), 3);
+  EXPECT_EQ(stopSpeex("dacNumberOfBits"), "-2147483648");
+  EXPECT_EQ(::testing::internal::GetCapturedStderr().find("CRITICAL"), std::string::npos);
+}
+
+TEST_F(VreemdeConfiguratieProef, SpinControlsClampWhatTheyShowAndTheRecordKeepsItsNumber) {
+  startMetSpeex("speexQuality=99\nspeexComplexity=-7\n");
+  EXPECT_EQ(spin(ID_QUALITY)->GetValue(), 10);
+  EXPECT_EQ(spin(ID_COMPLEXITY)->GetValue(), 0);
+  EXPECT_EQ(stopSpeex("speexQuality"), "99");
+}
+
+TEST_F(VreemdeConfiguratieProef, BitRateAbove31BitsShowsAsASignedNumberAndIsKept) {
+  startMetSpeex("speexBitRate=4294967295\n");
+  EXPECT_EQ(veld(ID_MAX_RATE)->GetValue(), "-1");
+  EXPECT_EQ(stopSpeex("speexBitRate"), "4294967295");
+}
+
+TEST_F(VreemdeConfiguratieProef, LowByteOfANumberIsTheFlag) {
+  startMetSpeex("speexVAC=256\nspeexDenoise=257\nspeexAGC=-1\nIncludeHeader=512\n");
+  EXPECT_FALSE(vakje(ID_VAD)->GetValue());
+  EXPECT_TRUE(vakje(ID_DENOISE)->GetValue());
+  EXPECT_TRUE(vakje(ID_AGC)->GetValue());
+  EXPECT_FALSE(vakje(ID_INCL_HEADER)->GetValue());
+  auto const sleutels = stopSleutels();
+  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexVAC"), "0");
+  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexDenoise"), "1");
+  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexAGC"), "1");
+  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/IncludeHeader"), "0");
+}
+
+TEST_F(VreemdeConfiguratieProef, LanguageOutsideTheTableNeedsNoClass) {
+  startMetSpeex("speexOutputLanguage=99\n");
+  laad({maakFragment("fragment.wav")});
+  EXPECT_TRUE(knop(ID_CODEER)->IsEnabled());
+}
+
+TEST_F(VreemdeConfiguratieProef, FileWithoutSenseIsReadAsFarAsItGoes) {
+  start("geen groep\n[[[\n]]\nspeexFormat\n[Gebruikersinstellingen/Speex]\nspeexFormat=2\n");
+  EXPECT_EQ(keuze(ID_FORMAAT)->GetSelection(), 2);
+  EXPECT_EQ(stopSpeex("speexFormat"), "2");
+}
+
+}  // namespace

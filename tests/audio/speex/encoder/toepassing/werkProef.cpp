@@ -1,0 +1,93 @@
+#include "tests/audio/speex/encoder/toepassing/werkProef.h"
+
+#include <wx/button.h>
+#include <wx/filename.h>
+#include <wx/log.h>
+#include <wx/regex.h>
+
+void WerkProef::begin(int taal, wxString const& vensterRegels, wxString const& speexRegels,
+                      wxString const& meer) {
+  start("[Configuratie]\nConvertertype=2\nklasseNaam=Geluid\n" + vensterRegels +
+        "[Gebruikersinstellingen/Speex]\n" + wxString::Format("speexOutputLanguage=%d\n", taal) +
+        speexRegels + meer);
+}
+
+wxString WerkProef::wav(std::string const& naam, std::vector<std::int16_t> const& samples,
+                        WavSoort const& soort) {
+  maakWav(map.pad(naam), samples, soort);
+  return pad(wxString::FromUTF8(naam.c_str()));
+}
+
+wxString WerkProef::bestand(std::string const& naam, std::string const& inhoud) {
+  maakBestand(map.pad(naam), inhoud);
+  return pad(wxString::FromUTF8(naam.c_str()));
+}
+
+wxString WerkProef::submap(std::string const& naam) {
+  wxString const volledig = pad(wxString::FromUTF8(naam.c_str()));
+  EXPECT_TRUE(wxFileName::Mkdir(volledig, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL));
+  return volledig;
+}
+
+wxString WerkProef::codeer() {
+  antwoorden.opBericht(wxID_OK);
+  klik(ID_CODEER);
+  return zonderMoment(tekst());
+}
+
+void WerkProef::bewaar(wxString const& doel) {
+  antwoorden.opBestandsVraag(doel);
+  klik(wxID_SAVE);
+}
+
+void WerkProef::bewaarOver(wxString const& doel, int antwoord, std::function<void()> tijdens) {
+  antwoorden.opBestandsVraag(doel);
+  antwoorden.opBericht(antwoord, std::move(tijdens));
+  klik(wxID_SAVE);
+}
+
+bool WerkProef::isGeladen() const {
+  return knop(ID_SPEEL_BRON)->IsEnabled();
+}
+bool WerkProef::isGecodeerd() const {
+  return knop(wxID_SAVE)->IsEnabled();
+}
+
+wxString WerkProef::zonderMoment(wxString const& tekst) {
+  static wxRegEx const moment(
+      "/\\* Date : [0-9]{4}-[0-9]{2}-[0-9]{2} : [0-9]{2}:[0-9]{2}:[0-9]{2}\t\t\\*/");
+  wxString zonder = tekst;
+  moment.ReplaceAll(&zonder, "/* Date : MOMENT\t\t*/");
+  return zonder;
+}
+
+wxString WerkProef::rijen(wxString const& tekst) {
+  wxString const vanaf = tekst.Mid(tekst.find("\n{\n") + 3);
+  return vanaf.Left(vanaf.find("\n};"));
+}
+
+std::vector<wxString> WerkProef::boomVan(std::vector<BoomBestand> const& bestanden) {
+  std::vector<wxString> regels;
+  for (BoomBestand const& een : bestanden) {
+    regels.insert(regels.end(), {een.naam, wxString::Format(" frames     : %d", een.frames),
+                                 wxString::Format(" samplerate : %d", een.rate),
+                                 wxString::Format(" channels   : %d", een.kanalen),
+                                 " format     : " + een.formaat,
+                                 " sections:", wxString::Format(" seekable   : %d", een.kanalen)});
+  }
+  return regels;
+}
+
+wxString WerkProef::afgewezen(wxString const& naam) {
+  return naam +
+         " cannot be loaded because it isn't a WAV PCM/IMA ADPCM S16 8,16,32 kHz format audio file";
+}
+
+std::vector<wxString> WerkProef::fouten() {
+  std::vector<wxString> teksten;
+  for (LogRegel const& regel : log()) {
+    EXPECT_EQ(regel.niveau, wxLOG_Error) << regel.tekst.utf8_str();
+    teksten.push_back(regel.tekst);
+  }
+  return teksten;
+}
