@@ -1,0 +1,167 @@
+"""Tests of the built program as its user meets it: its window, its files, its exit status.
+
+    zwarteDoosTest.py CASE PROGRAM
+
+Run inside `tour/sessie`, which gives each case a screen and an empty home of its own.
+"""
+
+from __future__ import annotations
+
+import configparser
+import os
+import re
+import shutil
+import sys
+from pathlib import Path
+from typing import Callable
+
+WORTEL = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(WORTEL / "tour"))
+
+# pylint: disable=wrong-import-position
+import nakijken
+from bediening import TITEL, Programma, toets, wacht
+
+FRAGMENTEN = WORTEL / "fragmenten"
+
+# What the configuration file holds after a first start, apart from dates, times and directories.
+INSTELLINGEN = {
+    "Gebruikersinstellingen": {"Taal": "175"},
+    "Gebruikersinstellingen/Speex": {
+        "speexFormat": "0",
+        "speexQuality": "8",
+        "speexComplexity": "3",
+        "speexBitRateChoice": "0",
+        "speexBitRate": "5000",
+        "speexOutputLanguage": "1",
+        "speexVAC": "1",
+        "speexDenoise": "1",
+        "speexAGC": "1",
+        "IncludeHeader": "1",
+        "dacNumberOfBits": "3",
+    },
+}
+DATUM = r"\d{4}-\d\d-\d\d"
+TIJD = r"\d\d:\d\d:\d\d"
+STATISTIEK = {
+    "StartDatum": DATUM, "StartTijd": TIJD, "StopDatum": DATUM, "StopTijd": TIJD, "OS": "64",
+}
+
+
+def gelijk(gevonden: object, verwacht: object, wat: str) -> None:
+    assert gevonden == verwacht, f"{wat}: {gevonden!r}, expected {verwacht!r}"
+
+
+def lees_instellingen(thuis: Path) -> dict[str, dict[str, str]]:
+    lezer = configparser.ConfigParser(delimiters="=", interpolation=None, strict=True)
+    lezer.optionxform = str  # type: ignore[assignment]  # keys keep their case
+    lezer.read_string((thuis / ".Kestrolin").read_text(encoding="utf-8"))
+    return {groep: dict(lezer[groep]) for groep in lezer.sections()}
+
+
+def wacht_op_rust(p: Programma) -> None:
+    """The window is up, and has been idle once: only then are the unusable buttons grey."""
+    p.element("push button", "Open")
+    wacht(lambda: not p.bruikbaar("push button", "Encode"), "Encode is grey without audio")
+
+
+def laad_en_codeer(p: Programma, geluid: Path, fragmenten: tuple[str, ...]) -> list[Path]:
+    """Copies the fragments to a folder, loads them all and encodes them to PCM in C."""
+    geluid.mkdir(parents=True)
+    wavs = [Path(shutil.copy(FRAGMENTEN / naam, geluid)) for naam in fragmenten]
+    p.open_map(geluid)
+    p.keuzerondje("PCM")
+    p.keuzerondje("C")
+    p.codeer("was successfully encoded to PCM.")
+    p.sluit_melding()
+    return wavs
+
+
+def keur_einde(p: Programma, status: int) -> None:
+    gelijk(status, 0, "exit status")
+    gelijk(p.foutregels(), [], "standard error")
+
+
+def keur_eerste_instellingen(thuis: Path) -> None:
+    gevonden = lees_instellingen(thuis)
+    configuratie = {
+        "wavDirectory": str(thuis), "speexDirectory": str(thuis),
+        "wavFile": "", "speexFile": "", "klasseNaam": "", "Convertertype": "0",
+        **{f"file{nummer}": "" for nummer in range(1, 10)},
+    }
+    statistiek = gevonden.pop("Statistiek")
+    gelijk(gevonden, {**INSTELLINGEN, "Configuratie": configuratie}, "configuration")
+    gelijk(list(statistiek), list(STATISTIEK), "statistics")
+    for sleutel, vorm in STATISTIEK.items():
+        assert re.fullmatch(vorm, statistiek[sleutel]), f"{sleutel}={statistiek[sleutel]}"
+    begin = statistiek["StartDatum"], statistiek["StartTijd"]
+    assert begin <= (statistiek["StopDatum"], statistiek["StopTijd"]), f"{statistiek}"
+
+
+def eerste_start(programma: Path, thuis: Path) -> None:
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        gelijk(p.venstertitels(), [TITEL], "windows")
+        assert not (thuis / ".Kestrolin").exists(), "the configuration is written before the end"
+        keur_einde(p, p.verlaat())
+    keur_eerste_instellingen(thuis)
+
+
+def weg(programma: Path, thuis: Path) -> None:
+    """Load, encode to PCM in C, save, leave; the saved text holds the fragments to the byte."""
+    geluid = thuis / "geluid"
+    doel = thuis / "geluid.c"
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        wavs = laad_en_codeer(p, geluid, ("ready.wav", "warning.wav"))
+        p.bewaar(doel)
+        keur_einde(p, p.verlaat())
+    nakijken.compileer_c(doel)
+    nakijken.keur_arrays(doel, wavs)
+    configuratie = lees_instellingen(thuis)["Configuratie"]
+    gelijk(configuratie["Convertertype"], "2", "Convertertype")
+    gelijk(configuratie["wavDirectory"], str(geluid), "wavDirectory")
+    gelijk({configuratie["file1"], configuratie["file2"]}, {str(w) for w in wavs}, "history")
+
+
+def tweede(programma: Path, thuis: Path) -> None:
+    with Programma(programma, thuis) as een:
+        wacht_op_rust(een)
+        with Programma(programma, thuis.parent / "twee") as twee:
+            twee.naar_voren()
+            wacht_op_rust(twee)
+            gelijk(een.venstertitels(), [TITEL], "windows of the first copy")
+            gelijk(twee.venstertitels(), [TITEL], "windows of the second copy")
+            keur_einde(twee, twee.verlaat())
+        een.naar_voren()
+        keur_einde(een, een.verlaat())
+
+
+def klein_scherm(programma: Path, thuis: Path) -> None:
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        gelijk(p.venstertitels(), [TITEL], "windows")
+        keur_einde(p, p.verlaat())
+
+
+def sluitvak(programma: Path, thuis: Path) -> None:
+    """The close box asks nothing, even with a result that was not saved."""
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        laad_en_codeer(p, thuis / "geluid", ("alarm.wav",))
+        p.element("push button", "Save")
+        toets("alt+F4")
+        keur_einde(p, p.wacht_op_einde())
+    gelijk(lees_instellingen(thuis)["Gebruikersinstellingen"], {"Taal": "175"}, "settings")
+
+
+GEVALLEN: dict[str, Callable[[Path, Path], None]] = {
+    "eersteStart": eerste_start,
+    "weg": weg,
+    "tweede": tweede,
+    "kleinScherm": klein_scherm,
+    "sluitvak": sluitvak,
+}
+
+if __name__ == "__main__":
+    GEVALLEN[sys.argv[1]](Path(sys.argv[2]), Path(os.environ["HOME"]) / "een")
