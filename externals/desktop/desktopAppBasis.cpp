@@ -46,12 +46,21 @@ void zetTekensoort() {
   }
 }
 
+// Reads the configuration. The toolkit meets a line without a key, as an editor's slip can leave
+// one, with an assertion, for which there is no window yet, and reads on correctly behind it. A
+// user's file is no fault of the program's, so that assertion is not heard.
+std::unique_ptr<wxFileConfig> openConfig(wxString const& naam) {
+  wxAssertHandler_t const vorige = wxSetAssertHandler(nullptr);
+  auto config = std::make_unique<wxFileConfig>(naam, leverancier, wxEmptyString, wxEmptyString,
+                                               wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE,
+                                               wxConvAuto());
+  wxSetAssertHandler(vorige);
+  return config;
+}
+
 }  // namespace
 
-DesktopAppBasis::DesktopAppBasis(wxString const& naam)
-    : appConfig(std::make_unique<wxFileConfig>(naam, leverancier, wxEmptyString, wxEmptyString,
-                                               wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE,
-                                               wxConvAuto())) {
+DesktopAppBasis::DesktopAppBasis(wxString const& naam) : appConfig(openConfig(naam)) {
   // A path that holds a dollar sign is to come back as it was written.
   appConfig->SetExpandEnvVars(false);
   instantieControle.Create(naam + "-" + wxGetUserId(), "/tmp");

@@ -159,4 +159,9 @@ TEST_F(StartStop, TextWithADollarSignComesBackAsItWasWritten) {
   EXPECT_EQ(stop().at("/Proef/map"), "/klank/$PROEFVARIABELE/${HOME}");
 }
 
+TEST_F(StartStop, LinesThatAreNoEntriesAreReadOverWithoutAnAssertion) {
+  start("=\n= 3\n[]\n[Eigen\nlos\n[Eigen]\n=\nsleutel=waarde\n");
+  EXPECT_EQ(stop().at("/Eigen/sleutel"), "waarde");
+}
+
 }  // namespace
