@@ -11,6 +11,10 @@ SndBestand::SndBestand(wxFileName const& bestand, int modus, SF_INFO const& gevr
 
 std::shared_ptr<SndBestand::Toestand> SndBestand::open(wxFileName const& bestand, int modus,
                                                        SF_INFO& info) {
+  // A named pipe would keep the program waiting for whoever writes to it.
+  if (modus == SFM_READ && !bestand.FileExists()) {
+    return nullptr;
+  }
   // Empty where the name has no form in the C library's encoding; there is no file of that name.
   std::string const pad = bestand.GetFullPath().ToStdString(wxConvLibc);
   SNDFILE* const handvat = sf_open(pad.c_str(), modus, &info);

@@ -45,8 +45,7 @@ int Antwoorden::beantwoordBestand(wxFileDialog& dialoog, Antwoord const& antwoor
   // the folder, so they come from the toolkit's own fields where it keeps them.
   bestandsVragen.push_back({dialoog.GetMessage(), dialoog.GetDirectory(),
                             dialoog.HasFlag(wxFD_MULTIPLE) ? wxString() : dialoog.GetFilename(),
-                            dialoog.GetWildcard(), dialoog.GetWindowStyle(),
-                            dialoog.GetParent()});
+                            dialoog.GetWildcard(), dialoog.GetWindowStyle(), dialoog.GetParent()});
   if (antwoord.id != wxID_OK) {
     return antwoord.id;
   }

@@ -139,17 +139,39 @@ Soort* VensterProef::zoek(int id) const {
   return gevonden;
 }
 
-wxButton* VensterProef::knop(int id) const { return zoek<wxButton>(id); }
-wxChoice* VensterProef::keuze(int id) const { return zoek<wxChoice>(id); }
-wxRadioBox* VensterProef::radio(int id) const { return zoek<wxRadioBox>(id); }
-wxCheckBox* VensterProef::vakje(int id) const { return zoek<wxCheckBox>(id); }
-wxSpinCtrl* VensterProef::spin(int id) const { return zoek<wxSpinCtrl>(id); }
-wxTextCtrl* VensterProef::veld(int id) const { return zoek<wxTextCtrl>(id); }
-wxTreeCtrl* VensterProef::boom() const { return zoek<wxTreeCtrl>(wxID_ANY); }
-wxMenuItem* VensterProef::menuItem(int id) const { return venster->GetMenuBar()->FindItem(id); }
-wxWindow* VensterProef::metLabel(wxString const& label) const { return zoekLabel(venster, label); }
-wxString VensterProef::status() const { return venster->GetStatusBar()->GetStatusText(0); }
-wxString VensterProef::tekst() const { return veld(ID_TEKST)->GetValue(); }
+wxButton* VensterProef::knop(int id) const {
+  return zoek<wxButton>(id);
+}
+wxChoice* VensterProef::keuze(int id) const {
+  return zoek<wxChoice>(id);
+}
+wxRadioBox* VensterProef::radio(int id) const {
+  return zoek<wxRadioBox>(id);
+}
+wxCheckBox* VensterProef::vakje(int id) const {
+  return zoek<wxCheckBox>(id);
+}
+wxSpinCtrl* VensterProef::spin(int id) const {
+  return zoek<wxSpinCtrl>(id);
+}
+wxTextCtrl* VensterProef::veld(int id) const {
+  return zoek<wxTextCtrl>(id);
+}
+wxTreeCtrl* VensterProef::boom() const {
+  return zoek<wxTreeCtrl>(wxID_ANY);
+}
+wxMenuItem* VensterProef::menuItem(int id) const {
+  return venster->GetMenuBar()->FindItem(id);
+}
+wxWindow* VensterProef::metLabel(wxString const& label) const {
+  return zoekLabel(venster, label);
+}
+wxString VensterProef::status() const {
+  return venster->GetStatusBar()->GetStatusText(0);
+}
+wxString VensterProef::tekst() const {
+  return veld(ID_TEKST)->GetValue();
+}
 
 void VensterProef::verstuur(wxWindow* bron, wxEventType soort, int waarde) {
   ASSERT_TRUE(bron->IsEnabled()) << "a disabled control was used: " << bron->GetLabel().utf8_str();
@@ -160,7 +182,9 @@ void VensterProef::verstuur(wxWindow* bron, wxEventType soort, int waarde) {
   rust();
 }
 
-void VensterProef::klik(int id) { verstuur(knop(id), wxEVT_BUTTON, 0); }
+void VensterProef::klik(int id) {
+  verstuur(knop(id), wxEVT_BUTTON, 0);
+}
 
 void VensterProef::kies(wxChoice* doel, int rij) {
   doel->SetSelection(rij);
@@ -224,7 +248,9 @@ wxString VensterProef::pad(wxString const& naam) const {
   return wxString::FromUTF8(map.pad().c_str()) + "/" + naam;
 }
 
-wxString VensterProef::thuis() const { return pad("thuis"); }
+wxString VensterProef::thuis() const {
+  return pad("thuis");
+}
 
 wxString VensterProef::inhoud(wxString const& bestand) {
   wxFFile lezer(bestand, "rb");

@@ -3,6 +3,7 @@
 #include "audio/codec/sndBestand.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -80,6 +81,12 @@ TEST(SndBestandLees, map) {
   TijdelijkeMap const map;
   std::filesystem::create_directory(map.pad("a.wav"));
   verwachtOnleesbaar(map.pad("a.wav"));
+}
+
+TEST(SndBestandLees, pijpZonderSchrijverLaatNietWachten) {
+  TijdelijkeMap const map;
+  ASSERT_EQ(mkfifo(map.pad("pijp.wav").c_str(), S_IRUSR | S_IWUSR), 0);
+  verwachtOnleesbaar(map.pad("pijp.wav"));
 }
 
 TEST(SndBestandLees, tekstInPlaatsVanGeluid) {

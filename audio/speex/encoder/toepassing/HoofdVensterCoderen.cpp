@@ -9,11 +9,11 @@
 #include <wx/textctrl.h>
 #include <wx/txtstrm.h>
 
+#include "audio/codec/logTekst.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/coderingsRun.h"
 #include "audio/speex/encoder/toepassing/stroomKopie.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
-#include "externals/desktop/logTekst.h"
 
 void HoofdVenster::encodeHandler(wxCommandEvent& event) {
   switch (encoderTypeKeuze->GetSelection()) {

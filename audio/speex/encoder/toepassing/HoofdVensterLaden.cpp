@@ -8,10 +8,10 @@
 #include <wx/statusbr.h>
 #include <wx/treectrl.h>
 
+#include "audio/codec/logTekst.h"
 #include "audio/codec/sndBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/wavKeuring.h"
-#include "externals/desktop/logTekst.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Lines that become their own format string, and what the logger makes of them.
-#include "externals/desktop/logTekst.h"
+#include "audio/codec/logTekst.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "externals/desktop/logTekst.h"
+#include "audio/codec/logTekst.h"
 
 wxString veiligFormaat(wxString const& regel) {
   wxString veilig;
