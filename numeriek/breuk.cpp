@@ -58,8 +58,7 @@ long long verzadigd(double geheel) {
   if (std::isnan(geheel)) {
     return 0;
   }
-  return geheel < 0 ? std::numeric_limits<long long>::min()
-                    : std::numeric_limits<long long>::max();
+  return geheel < 0 ? std::numeric_limits<long long>::min() : std::numeric_limits<long long>::max();
 }
 
 long long schaalVan(BreukRelAantalRelevanteNummers k) {

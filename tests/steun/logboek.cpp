@@ -4,7 +4,10 @@
 
 void VerzamelLog::DoLogRecord(wxLogLevel niveau, wxString const& tekst,
                               wxLogRecordInfo const& /*info*/) {
-  if (niveau < wxLOG_Debug) {
+  // Tests run side by side as one user, so that each is another's second copy and meets its lock
+  // file at any moment of its life. What the toolkit says about that is none of a test's affair.
+  bool const overSlot = tekst.Lower().Contains("lock file");
+  if (niveau < wxLOG_Debug && !overSlot) {
     regels.push_back({niveau, tekst});
   }
 }
