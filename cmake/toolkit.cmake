@@ -4,6 +4,8 @@
 
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(sndfile REQUIRED IMPORTED_TARGET sndfile)
+pkg_check_modules(speex REQUIRED IMPORTED_TARGET speex)
+pkg_check_modules(speexdsp REQUIRED IMPORTED_TARGET speexdsp)
 
 function(_maak_wx_doel doel)
   find_package(wxWidgets 3.2 REQUIRED COMPONENTS ${ARGN})

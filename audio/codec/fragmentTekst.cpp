@@ -139,6 +139,11 @@ void FragmentTekst::schrijfRijen(VelmoraArray<unsigned char> const& array) {
 }
 
 void FragmentTekst::schrijfEinde(wxFileName const& wav) {
-  schrijf("\n};\n\n");
+  schrijf("\n");
+  schrijfSlot(wav);
+}
+
+void FragmentTekst::schrijfSlot(wxFileName const& wav) {
+  schrijf("};\n\n");
   schrijf("/* end of encoded WAV file         : " + wav.GetFullName() + "         */\n");
 }

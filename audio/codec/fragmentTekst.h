@@ -45,8 +45,11 @@ class FragmentTekst {
   // All bytes of the array, eight to the row, in lower-case hexadecimal.
   void schrijfRijen(VelmoraArray<unsigned char> const& array);
 
-  // Closes the array and names the file once more.
+  // Closes the array behind its rows and names the file once more.
   void schrijfEinde(wxFileName const& wav);
+
+  // The same for an array without rows of this writer: its data ends its own last line.
+  void schrijfSlot(wxFileName const& wav);
 
  private:
   wxTextOutputStream tekstStroom;

@@ -1,0 +1,160 @@
+#include "externals/software/extern/speex/speexDesktopDecoder.h"
+
+#include <wx/filename.h>
+#include <wx/intl.h>
+#include <wx/log.h>
+#include <wx/txtstrm.h>
+#include <wx/wfstream.h>
+
+#include <algorithm>
+#include <new>
+#include <optional>
+#include <vector>
+
+#include "audio/codec/sndBestand.h"
+
+namespace {
+
+constexpr int hexadecimaal = 16;
+constexpr int decimaal = 10;
+constexpr int frameBufferBytes = 200;
+// The most that a header field of two bytes can tell.
+constexpr unsigned long maxVeld = 0xFFFF;
+constexpr unsigned long long maxSamples = 1ULL << 28U;
+
+// Nothing where there is no memory left for the holder of the file. A file that cannot be written
+// comes back closed, and takes the samples without a word.
+std::optional<SndBestand> openUitvoer(wxFileName const& uitvoer, int samplerate,
+                                      unsigned int sfFormaat) {
+  try {
+    return SndBestand::schrijf(uitvoer, samplerate, 1, static_cast<int>(sfFormaat));
+  } catch (std::bad_alloc const&) {
+    return std::nullopt;
+  }
+}
+
+// A NUL among the characters reads like the end of the text; the stream below knows the difference.
+bool isTenEinde(wxTextInputStream const& tekst) {
+  return !tekst.GetInputStream().IsOk();
+}
+
+// Goes to behind the next "x". False where the text ends first.
+bool zoekX(wxTextInputStream& tekst) {
+  while (tekst.GetChar() != 'x') {
+    if (isTenEinde(tekst)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+}  // namespace
+
+// The WAV file, and the block of the frame that was decoded last: a frame that gives no samples
+// leaves it as it is, and it is written again.
+struct SpeexDesktopDecoder::Uitvoer {
+  SndBestand wav;
+  std::vector<short> blok;
+  unsigned long long geschreven = 0;
+
+  // The sizes in a WAV header have 32 bits. This many samples fit at any width.
+  bool isVol() const { return geschreven + blok.size() > maxSamples; }
+  void schrijf() {
+    wav.schrijfItems(blok.data(), static_cast<sf_count_t>(blok.size()));
+    geschreven += blok.size();
+  }
+};
+
+SpeexDesktopDecoder::SpeexDesktopDecoder(SpeexBandFormaat band, wxWindow* venster)
+    : SpeexDecoder(band), ouder(venster), frameBuffer(new char[frameBufferBytes]()) {}
+
+SpeexDesktopDecoder::~SpeexDesktopDecoder() = default;
+
+int SpeexDesktopDecoder::decode(wxFileName const& invoer, wxFileName const& uitvoer,
+                                unsigned long long& aantalFragmenten, unsigned int sfFormaat) {
+  wxFileInputStream bestand(invoer.GetFullPath());
+  std::optional<SndBestand> wav = openUitvoer(uitvoer, geefSampFreq(), sfFormaat);
+  if (!wav) {
+    return past_niet;
+  }
+  aantalFragmenten = 0;
+  if (!bestand.IsOk()) {
+    return gelukt;
+  }
+  // A file stream alone makes a system call for each character.
+  constexpr std::size_t bufferBytes = 65536;
+  wxBufferedInputStream buffer(bestand, bufferBytes);
+  wxTextInputStream tekst(buffer, ",", wxConvAuto());
+
+  Uitvoer uit{*wav, std::vector<short>(frameSize)};
+  for (wxChar teken = tekst.GetChar(); teken != 0; teken = tekst.GetChar()) {
+    if (teken == '/') {
+      // A comment, of either kind. What it holds, a "{" too, is no array.
+      tekst.ReadLine();
+    } else if (teken == '{' && !leesFragment(tekst, uit, aantalFragmenten)) {
+      return past_niet;
+    }
+  }
+  return gelukt;
+}
+
+void SpeexDesktopDecoder::leesHeader(wxTextInputStream& tekst, unsigned long& waarde) {
+  if (!zoekX(tekst)) {
+    return;
+  }
+  wxString const laag = tekst.ReadWord();
+  if (!zoekX(tekst)) {
+    return;
+  }
+  wxString const hoog = tekst.ReadWord();
+  (hoog + laag).ToULong(&waarde, hexadecimaal);
+}
+
+unsigned char SpeexDesktopDecoder::leesHexWaarde(wxTextInputStream& tekst) {
+  wxChar teken = tekst.GetChar();
+  while (teken != 'x' && teken != 0) {
+    teken = tekst.GetChar();
+  }
+  unsigned long waarde = 0;
+  return tekst.ReadWord().ToULong(&waarde, hexadecimaal) ? static_cast<unsigned char>(waarde) : 0;
+}
+
+// Reads one array from behind its "{". False for one of another frequency.
+bool SpeexDesktopDecoder::leesFragment(wxTextInputStream& tekst, Uitvoer& uit,
+                                       unsigned long long& nummer) {
+  unsigned long frequentie = 0;
+  unsigned long frames = 0;
+  leesHeader(tekst, frequentie);
+  leesHeader(tekst, frames);
+  if (frequentie != geefSampFreq()) {
+    return false;
+  }
+  ++nummer;
+  wxLogMessage(_("Fragment %d: sampling frequency %ld Hz, number of frames %ld"),
+               static_cast<int>(nummer), static_cast<long>(frequentie), static_cast<long>(frames));
+  for (unsigned long frame = 0; frame < frames; ++frame) {
+    // A count above what two bytes hold comes from an edited text. It goes on while there is text,
+    // but would fill the disk with the last block behind it.
+    if ((frame >= maxVeld && isTenEinde(tekst)) || uit.isVol()) {
+      break;
+    }
+    leesFrame(tekst);
+    speex_decode_int(decoderState.get(), &bits, uit.blok.data());
+    uit.schrijf();
+  }
+  return true;
+}
+
+// Hands the next frame of the text to `bits`. Past the end of the array it is mostly an empty one.
+void SpeexDesktopDecoder::leesFrame(wxTextInputStream& tekst) {
+  int const grootte = leesHexWaarde(tekst);
+  tekst.ReadLine();
+  for (int i = 0; i < grootte; ++i) {
+    auto const byte = static_cast<char>(tekst.Read8S(decimaal));
+    // No generated frame is larger than the buffer; of one in an edited text the rest is dropped.
+    if (i < frameBufferBytes) {
+      frameBuffer[static_cast<std::size_t>(i)] = byte;
+    }
+  }
+  speex_bits_read_from(&bits, frameBuffer.get(), std::min(grootte, frameBufferBytes));
+}

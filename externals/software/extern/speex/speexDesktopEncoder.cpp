@@ -1,0 +1,167 @@
+#include "externals/software/extern/speex/speexDesktopEncoder.h"
+
+#include <wx/filename.h>
+#include <wx/intl.h>
+#include <wx/log.h>
+#include <wx/mstream.h>
+
+#include <algorithm>
+
+#include "audio/codec/fragmentTekst.h"
+#include "audio/codec/logTekst.h"
+#include "audio/codec/sndBestand.h"
+#include "externals/software/extern/speex/frameTekst.h"
+#include "numeriek/byteGereedschap.h"
+#include "numeriek/percentage.h"
+
+namespace {
+
+constexpr int frameBufferBytes = 200;
+constexpr unsigned long long sampleBits = 16;
+
+// The name of a value, or nothing for one that has no name.
+wxString naamVan(std::vector<wxString> const& namen, std::size_t waarde) {
+  return waarde < namen.size() ? namen[waarde] : wxString();
+}
+
+// Divides by 2 to the power `bits` toward minus infinity, so that -1 stays -1. The mask keeps a
+// shift that no DAC asks for defined.
+float schaal(short sample, unsigned long long bits) {
+  constexpr unsigned long long masker = 63;
+  auto const breed = static_cast<unsigned long long>(static_cast<long long>(sample));
+  return static_cast<short>(static_cast<unsigned short>(breed >> (bits & masker)));
+}
+
+// Counted over sample frames, not bytes.
+Percentage maakVerhouding(unsigned long long bytes, sf_count_t frames) {
+  constexpr unsigned long long heel = 100;
+  if (frames <= 0) {
+    return {};
+  }
+  return {static_cast<double>(bytes * heel / static_cast<unsigned long long>(frames))};
+}
+
+// The four bytes of a VelmoraSpeexHeader. The second field takes the samples of the WAV file in its
+// low 16 bits, and not the number of Speex frames: the decoder and the firmware count on it.
+wxString headerTekst(SF_INFO const& info) {
+  auto const frequentie = static_cast<unsigned short>(info.samplerate);
+  auto const frames = static_cast<unsigned short>(info.frames);
+  return wxString::Format(
+      "\t(signed char)0x%x,(signed char)0x%x,(signed char)0x%x,(signed char)0x%x,\n",
+      LaagByte(frequentie), HoogByte(frequentie), LaagByte(frames), HoogByte(frames));
+}
+
+}  // namespace
+
+SpeexDesktopEncoder::SpeexDesktopEncoder(SpeexEncodeConfig const& instellingen,
+                                         SpeexEncoderOpties const& opties)
+    : SpeexEncoder(instellingen),
+      frameBuffer(new char[frameBufferBytes]()),
+      taal(opties.taal),
+      klasseNaam(opties.klasseNaam),
+      booleanNamen{"false", "true"},
+      formaatNamen{"Narrowband", "Wideband", "Ultra Wideband"},
+      bitrateNamen{"Fixed Bitrate", "Variable Bitrate", "Averaged Bitrate"} {}
+
+SpeexDesktopEncoder::~SpeexDesktopEncoder() = default;
+
+int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxMemoryOutputStream& uitvoer,
+                                bool metHeader, Percentage& verhouding) {
+  SndBestand wav = SndBestand::lees(bestand);
+  SF_INFO const info = wav.info();
+  if (info.samplerate != geefSampFreq()) {
+    wxLogError(veiligFormaat(
+        bestand.GetFullName() +
+        wxString::Format(_(" has a different sampling frequency (%d)\nthan the encoder (%d)"),
+                         info.samplerate, static_cast<int>(geefSampFreq()))));
+    return past_niet;
+  }
+
+  FragmentTekst tekst(uitvoer);
+  tekst.schrijfKop(bestand, info);
+  schrijfInstellingen(tekst);
+
+  // The sizes stand before the array and are known only behind its last frame.
+  wxMemoryOutputStream frames;
+  Omvang const omvang = encodeFrames(wav, frames);
+  verhouding = maakVerhouding(omvang.totaal, info.frames);
+  tekst.schrijf(wxString::Format("/* Encoded array size              : %d bytes\t\t*/\n",
+                                 static_cast<int>(omvang.totaal)));
+  tekst.schrijf(wxString::Format("/* Encoded size/Original size      : %d %%\t\t*/\n",
+                                 static_cast<int>(verhouding.geefWaarde())));
+  tekst.schrijf(wxString::Format("/* Max bytes/encoded frame         : %d bytes\t\t*/\n\n",
+                                 omvang.grootsteFrame));
+  if (taal != UitvoerTaalC && taal != UitvoerTaalCPP) {
+    return taal == UitvoerTaalPython ? past_niet : onbekende_taal;
+  }
+
+  tekst.schrijfArrayKop({taal, klasseNaam, bestand.GetName()}, "signed char");
+  if (metHeader) {
+    // Whoever reads the text back looks for "x" and "{": a translation must hold neither.
+    tekst.schrijf(
+        _("\t/* Header: Sampling Freq (Lower + Higher Byte), Number of Frames (Lower + Higher "
+          "Byte) */\n"));
+    tekst.schrijf(headerTekst(info));
+  }
+  if (frames.GetLength() > 0) {
+    wxMemoryInputStream bron(frames);
+    uitvoer.Write(bron);
+  }
+  tekst.schrijfSlot(bestand);
+  return gelukt;
+}
+
+void SpeexDesktopEncoder::schrijfInstellingen(FragmentTekst& tekst) const {
+  tekst.schrijf(wxString::Format("/* Full Scale gain adapted to : %d bits\t\t*/\n\n",
+                                 static_cast<int>(sampleBits - config.gainBits)));
+  tekst.schrijf("/* Speex information :    \t\t*/\n");
+  tekst.schrijf(wxString::Format("/* Speex framesize                 : %d bytes\t\t*/\n",
+                                 static_cast<int>(geefFrameSize(config.formaat))));
+  tekst.schrijf("/* Speex Format                    : " +
+                naamVan(formaatNamen, plaatsVan(config.formaat)) + " \t\t*/\n");
+  tekst.schrijf("/* Speex Bitrate                   : " +
+                naamVan(bitrateNamen, static_cast<std::size_t>(config.bitrateType)) + " \t\t*/\n");
+  tekst.schrijf(wxString::Format("/* Speex Max Bitrate               : %ld bytes \t\t*/\n",
+                                 static_cast<long>(config.maxBitrate)));
+  tekst.schrijf("/* Speex AGC                       : " + naamVan(booleanNamen, config.agc) +
+                " \t\t*/\n");
+  tekst.schrijf("/* Speex Denoise                   : " + naamVan(booleanNamen, config.denoise) +
+                " \t\t*/\n");
+  tekst.schrijf("/* Speex Voice Activated Detection : " + naamVan(booleanNamen, config.vad) +
+                " \t\t*/\n");
+  tekst.schrijf(wxString::Format("/* Speex Quality                   : %d  \t\t*/\n",
+                                 static_cast<int>(config.kwaliteit)));
+  tekst.schrijf(wxString::Format("/* Speex Complexity                : %d  \t\t*/\n\n",
+                                 static_cast<int>(config.complexiteit)));
+}
+
+SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav,
+                                                              wxMemoryOutputStream& uit) {
+  FragmentTekst tekst(uit);
+  auto const n = static_cast<sf_count_t>(geefFrameSize(config.formaat));
+  std::vector<short> samples(static_cast<std::size_t>(n));
+  std::vector<float> geschaald(samples.size());
+  Omvang omvang;
+  unsigned long long nummer = 0;
+  for (sf_count_t gelezen = 0; gelezen < wav.info().frames; gelezen += n) {
+    // The end of the file fills the last block partly. What it leaves alone are the samples of the
+    // block before, not silence, and they are encoded along: arrays in the field end that way.
+    wav.leesItems(samples.data(), n);
+    int const bytes = encodeFrame(samples, geschaald);
+    omvang.grootsteFrame = std::max(omvang.grootsteFrame, bytes);
+    omvang.totaal += static_cast<unsigned long long>(bytes) + 1;
+    tekst.schrijf(frameTekst(nummer, frameBuffer.get(), static_cast<std::size_t>(bytes)));
+    ++nummer;
+  }
+  return omvang;
+}
+
+// Returns the number of bytes that the frame has in frameBuffer.
+int SpeexDesktopEncoder::encodeFrame(std::vector<short> const& samples,
+                                     std::vector<float>& geschaald) {
+  std::transform(samples.begin(), samples.end(), geschaald.begin(),
+                 [k = config.gainBits](short sample) { return schaal(sample, k); });
+  speex_bits_reset(&bits);
+  speex_encode(encoderState.get(), geschaald.data(), &bits);
+  return speex_bits_write(&bits, frameBuffer.get(), frameBufferBytes);
+}
