@@ -21,6 +21,7 @@
 #include "audio/speex/encoder/toepassing/keuze.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "externals/desktop/configGetal.h"
+#include "externals/software/extern/speex/speexDesktop.h"
 
 wxBEGIN_EVENT_TABLE(HoofdVenster, wxFrame)
   EVT_MENU(wxID_OPEN, HoofdVenster::wavOpenHandler)

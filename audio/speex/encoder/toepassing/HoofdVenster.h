@@ -13,6 +13,8 @@
 #include <wx/treebase.h>
 
 #include <array>
+#include <memory>
+#include <vector>
 
 #include "audio/codec/pcmDesktopConverter.h"
 #include "audio/speex/encoder/toepassing/kestrolinConfig.h"
@@ -31,6 +33,7 @@ class wxStaticText;
 class wxTextCtrl;
 class wxTreeCtrl;
 class wxUpdateUIEvent;
+class SpeexDesktopEncoder;
 struct CoderingsRun;
 struct SF_INFO;
 
@@ -120,7 +123,10 @@ class HoofdVenster : public wxFrame {
   bool neemBandOver(std::size_t index, int samplerate);
 
   unsigned long long geefBitShift() const;
-  void voerRunUit(CoderingsRun const& run);
+  void maakSpeexEncoder();
+  void meldCoderenMislukt(wxFileName const& wav);
+  // False when the run ended before its last file.
+  bool voerRunUit(CoderingsRun const& run);
   wxFile::OpenMode vraagOpenModus(wxFileName const& bestand);
 
   wxStaticBox* codeGeneratieBox = nullptr;
@@ -164,6 +170,10 @@ class HoofdVenster : public wxFrame {
   wxFileName embedBestand;  // the last path saved as embedded WAV images
   wxFileName speexBestand;  // the last path saved as generated text
   PCMDesktopConverter pcmConverter;
+  // The encoder of the run that is on. One that a failed run leaves stays, and goes to the others
+  // of its kind when the next run takes its place.
+  std::unique_ptr<SpeexDesktopEncoder> speexEncoder;
+  std::vector<std::unique_ptr<SpeexDesktopEncoder>> mislukteEncoders;
   wxMemoryOutputStream uitvoerStroom;  // the text of the last encoding
   bool bestandGeladen = false;
   bool gecodeerd = false;   // uitvoerStroom fits the settings

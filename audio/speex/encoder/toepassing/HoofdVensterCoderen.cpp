@@ -2,6 +2,7 @@
 #include <wx/checkbox.h>
 #include <wx/file.h>
 #include <wx/intl.h>
+#include <wx/log.h>
 #include <wx/msgdlg.h>
 #include <wx/progdlg.h>
 #include <wx/radiobox.h>
@@ -9,11 +10,16 @@
 #include <wx/textctrl.h>
 #include <wx/txtstrm.h>
 
+#include <utility>
+
 #include "audio/codec/logTekst.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/coderingsRun.h"
 #include "audio/speex/encoder/toepassing/stroomKopie.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
+#include "externals/software/extern/speex/speexDesktop.h"
+#include "numeriek/lopendGemiddelde.h"
+#include "numeriek/percentage.h"
 
 void HoofdVenster::encodeHandler(wxCommandEvent& event) {
   switch (encoderTypeKeuze->GetSelection()) {
@@ -31,8 +37,36 @@ void HoofdVenster::encodeHandler(wxCommandEvent& event) {
   }
 }
 
-// The Speex and ADPCM runs come with their encoders.
-void HoofdVenster::encodeSpeex(wxCommandEvent& /*event*/) {}
+void HoofdVenster::encodeSpeex(wxCommandEvent& /*event*/) {
+  maakSpeexEncoder();
+  Percentage verhouding;
+  LopendGemiddelde gemiddelde(wavBestanden.size());
+  bool const voltooid = voerRunUit(
+      {wxString::Format("/* Speex encoding output of %d audio files \t\t*/\n\n",
+                        static_cast<int>(wavBestanden.size())),
+       {"// extern const signed char ", "// static const signed char "},
+       [&](wxFileName const& wav, bool metHeader) {
+         if (speexEncoder->encode(wav, uitvoerStroom, metHeader, verhouding) !=
+             SpeexDesktopEncoder::gelukt) {
+           meldCoderenMislukt(wav);
+           return false;
+         }
+         gemiddelde.voegToe(verhouding.geefWaarde());
+         return true;
+       },
+       // Cut to a whole percentage, as the ratio of each file is.
+       [&] {
+         return wxString::Format(_("\nwas on average encoded to %d%% of the original size"),
+                                 static_cast<int>(gemiddelde.geefGemiddelde()));
+       },
+       "Speex encoding succeeded",
+       _("Audio encoded in Speex embedded format")});
+  if (voltooid) {
+    speexEncoder.reset();
+  }
+}
+
+// The ADPCM run comes with its encoder.
 void HoofdVenster::encodeADPCM(wxCommandEvent& /*event*/) {}
 
 void HoofdVenster::encodePCM(wxCommandEvent& /*event*/) {
@@ -53,6 +87,29 @@ void HoofdVenster::encodePCM(wxCommandEvent& /*event*/) {
        _("Audio encoded in PCM embedded format")});
 }
 
+// Each run has an encoder of its own: the first frame of a run knows nothing of the run before.
+void HoofdVenster::maakSpeexEncoder() {
+  if (speexEncoder) {
+    mislukteEncoders.push_back(std::move(speexEncoder));
+  }
+  SpeexEncodeConfig const opties(static_cast<SpeexBandFormaat>(instellingen->speexFormat),
+                                 instellingen->speexQuality, instellingen->speexComplexity,
+                                 static_cast<SpeexBitrateType>(instellingen->speexBitRateChoice),
+                                 instellingen->speexBitRate,
+                                 static_cast<unsigned int>(geefBitShift()), instellingen->speexVAC,
+                                 instellingen->speexDenoise, instellingen->speexAGC);
+  speexEncoder = std::make_unique<SpeexDesktopEncoder>(
+      opties, instellingen->speexOutputLanguage == UitvoerTaalC ? SpeexEncoderOpties()
+                                                                : SpeexEncoderOpties(klasseNaam));
+}
+
+// An earlier result stays marked as one, although its text has made place for what this run got to:
+// the user changes the settings and encodes anew.
+void HoofdVenster::meldCoderenMislukt(wxFileName const& wav) {
+  wxLogError(veiligFormaat(_("Could not encode ") + wav.GetFullName()));
+  statusBalk->SetStatusText(_("Encoder error. Please check your settings"), 0);
+}
+
 unsigned long long HoofdVenster::geefBitShift() const {
   constexpr long long sampleBits = 16;
   // A width that the configuration file made up counts as the full width of the samples.
@@ -61,7 +118,7 @@ unsigned long long HoofdVenster::geefBitShift() const {
   return static_cast<unsigned long long>(sampleBits - dacBits);
 }
 
-void HoofdVenster::voerRunUit(CoderingsRun const& run) {
+bool HoofdVenster::voerRunUit(CoderingsRun const& run) {
   tekstVeld->Clear();
   auto const aantal = static_cast<int>(wavBestanden.size());
   wxProgressDialog voortgang(_("Encoding progress"), _("Completion of encoding progress"), aantal,
@@ -78,7 +135,7 @@ void HoofdVenster::voerRunUit(CoderingsRun const& run) {
         wxString::Format("/******* Start encoding file number %d \t\t*******/\n", nummer));
     wxFileName const wav(wavBestanden[static_cast<std::size_t>(nummer) - 1]);
     if (!run.codeer(wav, inclHeaderVakje->GetValue())) {
-      return;
+      return false;
     }
     tekst.WriteString(
         wxString::Format("/******* Stop encoding file number %d \t\t*******/\n\n", nummer));
@@ -93,6 +150,7 @@ void HoofdVenster::voerRunUit(CoderingsRun const& run) {
   statusBalk->SetStatusText(run.status, 0);
   gecodeerd = true;
   opgeslagen = false;
+  return true;
 }
 
 void HoofdVenster::kopieerNaarTekstVeld(wxMemoryOutputStream const& stroom) const {
