@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdio>
 
 namespace {
 
@@ -38,4 +39,9 @@ Verbruik meetBeste(int keer, std::function<int()> const& werk) {
     beste.geslaagd = beste.geslaagd && nu.geslaagd;
   }
   return beste;
+}
+
+bool meld(bool gehaald, std::string const& wat, double waarde, char const* doel) {
+  std::printf("%-62s %8.2f  %-10s %s\n", wat.c_str(), waarde, doel, gehaald ? "ok" : "MISSED");
+  return gehaald;
 }

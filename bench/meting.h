@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 struct Verbruik {
   double seconden;   // processor time, user and system
@@ -15,3 +16,6 @@ Verbruik meetInKind(std::function<int()> const& werk);
 // Of `keer` measurements the least time, which is what the work costs when nothing disturbs it, and
 // the greatest memory.
 Verbruik meetBeste(int keer, std::function<int()> const& werk);
+
+// Prints a figure and its goal in one line, and returns `gehaald`, whether the goal was reached.
+bool meld(bool gehaald, std::string const& wat, double waarde, char const* doel);

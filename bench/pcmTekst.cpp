@@ -1,27 +1,20 @@
-// How fast, and in how much memory, a WAV file becomes PCM source text, against `xxd -i` on the
-// same array bytes in the same run. Prints one line a figure; ends with status 1 where a goal is
-// missed.
+#include "bench/pcmTekst.h"
+
 #include <fcntl.h>
 #include <unistd.h>
 #include <wx/filename.h>
-#include <wx/init.h>
 #include <wx/mstream.h>
 
-#include <algorithm>
-#include <array>
 #include <cstdio>
-#include <cstdlib>
 #include <fstream>
 #include <iostream>
 #include <memory>
-#include <random>
-#include <string>
 #include <vector>
 
 #include "audio/codec/array.h"
 #include "audio/codec/pcmDesktopConverter.h"
 #include "audio/codec/pcmPakket.h"
-#include "audio/codec/sndBestand.h"
+#include "bench/geluid.h"
 #include "bench/meting.h"
 
 namespace {
@@ -29,16 +22,6 @@ namespace {
 constexpr int samplerate = 32000;
 constexpr int herhalingen = 5;
 constexpr double mib = 1024.0 * 1024.0;
-
-// Noise of full scale, the same at every run: almost every byte needs its four or five characters.
-void maakWav(std::string const& pad, int seconden) {
-  std::mt19937 bron(1);  // NOLINT(cert-msc32-c,cert-msc51-cpp): repeatable on purpose
-  std::uniform_int_distribution<int> sample(-32768, 32767);
-  std::vector<short> samples(static_cast<std::size_t>(seconden) * samplerate);
-  std::generate(samples.begin(), samples.end(), [&] { return static_cast<short>(sample(bron)); });
-  SndBestand::schrijf(wxFileName(pad), samplerate, 1, SF_FORMAT_WAV | SF_FORMAT_PCM_16)
-      .schrijfItems(samples.data(), static_cast<sf_count_t>(samples.size()));
-}
 
 // Writes the bytes of the array, for the peer, and returns their number.
 double maakBytes(std::string const& wav, std::string const& doel) {
@@ -67,19 +50,16 @@ int draaiXxd(std::string const& bestand) {
   return 1;
 }
 
-bool meld(bool gehaald, char const* wat, double waarde, char const* doel) {
-  std::printf("%-62s %8.2f  %-10s %s\n", wat, waarde, doel, gehaald ? "ok" : "MISSED");
-  return gehaald;
-}
+}  // namespace
 
-bool meet(std::string const& map) {
+bool meetPcm(std::string const& map) {
   constexpr int lang = 120;
   constexpr int kort = 30;
   std::string const wav = map + "/lang.wav";
   std::string const kortWav = map + "/kort.wav";
   std::string const bytes = map + "/bytes";
-  maakWav(wav, lang);
-  maakWav(kortWav, kort);
+  maakRuis(wav, samplerate, lang);
+  maakRuis(kortWav, samplerate, kort);
   double const aantal = maakBytes(wav, bytes);
   if (aantal < 2.0 * lang * samplerate || wxFileName::GetSize(bytes).ToDouble() != aantal) {
     std::cerr << "bench: the files to measure with could not be written to " << map << "\n";
@@ -110,17 +90,4 @@ bool meet(std::string const& map) {
   bool const evenredig =
       meld(groei <= doelGroei, "cost of a sample, 120 s against 30 s", groei, "<= 1.25");
   return snel && klein && evenredig;
-}
-
-}  // namespace
-
-int main() {
-  wxInitializer const toolkit;
-  std::string map = "/tmp/kestrolinBenchXXXXXX";
-  if (!toolkit.IsOk() || mkdtemp(map.data()) == nullptr) {
-    return 1;
-  }
-  bool const goed = meet(map);
-  wxFileName::Rmdir(map, wxPATH_RMDIR_RECURSIVE);
-  return goed ? 0 : 1;
 }

@@ -7,33 +7,39 @@
 namespace {
 
 constexpr std::size_t bytesPerRegel = 8;
-// The longest text of a byte is "-128,".
-constexpr std::size_t maxByteTekens = 5;
+constexpr int decimaal = 10;
+constexpr int hexadecimaal = 16;
 
-void voegByteToe(std::string& tekst, char byte) {
-  std::array<char, maxByteTekens> cijfers{};
-  // Formatted without the toolkit: a call to its formatter for each byte would cost more than all
-  // the rest of the text.
-  auto const einde = std::to_chars(cijfers.begin(), cijfers.end(),
-                                   static_cast<int>(static_cast<signed char>(byte)));
+// Without the toolkit's formatter: a call to it for each number would cost as much as a tenth of
+// the encoding.
+void voegGetalToe(std::string& tekst, int getal, int basis) {
+  // The longest is "-2147483648".
+  std::array<char, 11> cijfers{};
+  auto const einde = std::to_chars(cijfers.begin(), cijfers.end(), getal, basis);
   tekst.append(cijfers.begin(), einde.ptr);
-  tekst += ',';
 }
 
 }  // namespace
 
-wxString frameTekst(unsigned long long nummer, char const* bytes, std::size_t aantal) {
-  std::string data;
-  data.reserve(aantal * maxByteTekens + 2 * aantal / bytesPerRegel + 1);
+std::string frameTekst(unsigned long long nummer, char const* bytes, std::size_t aantal) {
+  std::string tekst = "\t0x";
+  // The size line, and a byte's "-128,".
+  constexpr std::size_t kopTekens = 64;
+  constexpr std::size_t byteTekens = 5;
+  tekst.reserve(kopTekens + aantal * byteTekens + 2 * (aantal / bytesPerRegel));
+  voegGetalToe(tekst, static_cast<int>(aantal), hexadecimaal);
+  tekst += ",  /* Encoded Frame [";
+  voegGetalToe(tekst, static_cast<int>(nummer), decimaal);
+  tekst += "] Size */\n\t";
+
   std::size_t plaats = 0;
   std::for_each(bytes, bytes + aantal, [&](char byte) {
-    voegByteToe(data, byte);
+    voegGetalToe(tekst, static_cast<signed char>(byte), decimaal);
+    tekst += ',';
     if (++plaats % bytesPerRegel == 0) {
-      data += "\n\t";
+      tekst += "\n\t";
     }
   });
-  data += '\n';
-  return wxString::Format("\t0x%x,  /* Encoded Frame [%d] Size */\n\t",
-                          static_cast<unsigned int>(aantal), static_cast<int>(nummer)) +
-         wxString::FromAscii(data.data(), data.size());
+  tekst += '\n';
+  return tekst;
 }

@@ -2,10 +2,9 @@
 // signed numbers, eight to the line.
 #pragma once
 
-#include <wx/string.h>
-
 #include <cstddef>
+#include <string>
 
 // Frame `nummer`, counted from 0, of `aantal` bytes, at most 200. A frame whose size is a multiple
-// of eight ends in a line that holds a tab alone.
-wxString frameTekst(unsigned long long nummer, char const* bytes, std::size_t aantal);
+// of eight ends in a line that holds a tab alone. The text is ASCII, with "\n" line ends.
+std::string frameTekst(unsigned long long nummer, char const* bytes, std::size_t aantal);

@@ -6,6 +6,7 @@
 #include <wx/mstream.h>
 
 #include <algorithm>
+#include <string>
 
 #include "audio/codec/fragmentTekst.h"
 #include "audio/codec/logTekst.h"
@@ -137,7 +138,6 @@ void SpeexDesktopEncoder::schrijfInstellingen(FragmentTekst& tekst) const {
 
 SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav,
                                                               wxMemoryOutputStream& uit) {
-  FragmentTekst tekst(uit);
   auto const n = static_cast<sf_count_t>(geefFrameSize(config.formaat));
   std::vector<short> samples(static_cast<std::size_t>(n));
   std::vector<float> geschaald(samples.size());
@@ -150,7 +150,9 @@ SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav,
     int const bytes = encodeFrame(samples, geschaald);
     omvang.grootsteFrame = std::max(omvang.grootsteFrame, bytes);
     omvang.totaal += static_cast<unsigned long long>(bytes) + 1;
-    tekst.schrijf(frameTekst(nummer, frameBuffer.get(), static_cast<std::size_t>(bytes)));
+    std::string const tekst =
+        frameTekst(nummer, frameBuffer.get(), static_cast<std::size_t>(bytes));
+    uit.Write(tekst.data(), tekst.size());
     ++nummer;
   }
   return omvang;

@@ -1,0 +1,24 @@
+// The benchmarks of the codecs. Prints one line a figure; ends with status 1 where a goal is
+// missed.
+#include <wx/filename.h>
+#include <wx/init.h>
+#include <wx/log.h>
+
+#include <cstdlib>
+#include <string>
+
+#include "bench/pcmTekst.h"
+#include "bench/speexTekst.h"
+
+int main() {
+  wxInitializer const toolkit;
+  std::string map = "/tmp/kestrolinBenchXXXXXX";
+  if (!toolkit.IsOk() || mkdtemp(map.data()) == nullptr) {
+    return 1;
+  }
+  wxLog::SetLogLevel(wxLOG_Warning);
+  bool const pcm = meetPcm(map);
+  bool const speex = meetSpeex(map);
+  wxFileName::Rmdir(map, wxPATH_RMDIR_RECURSIVE);
+  return pcm && speex ? 0 : 1;
+}

@@ -1,0 +1,142 @@
+#include "bench/speexTekst.h"
+
+#include <speex/speex.h>
+#include <wx/filename.h>
+#include <wx/mstream.h>
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+#include <vector>
+
+#include "audio/codec/sndBestand.h"
+#include "bench/geluid.h"
+#include "bench/meting.h"
+#include "externals/software/extern/speex/speexDesktop.h"
+#include "numeriek/percentage.h"
+
+namespace {
+
+constexpr int herhalingen = 5;
+constexpr int seconden = 120;
+constexpr int framesPerSeconde = 50;
+constexpr int frames = seconden * framesPerSeconde;
+// The settings of a first start.
+constexpr int kwaliteit = 8;
+constexpr int complexiteit = 3;
+
+struct Band {
+  SpeexBandFormaat formaat;
+  char const* naam;
+  // The frequency in a header that the decoder can read back.
+  char const* frequentie;
+};
+
+constexpr std::array<Band, 3> banden{{{SpeexNarrowband, "8 kHz", "0x40,(signed char)0x1f"},
+                                      {SpeexWideband, "16 kHz", "0x80,(signed char)0x3e"},
+                                      {SpeexUltraWideband, "32 kHz", "0x00,(signed char)0x7d"}}};
+
+std::string encodeer(Band const& band, std::string const& wav) {
+  SpeexDesktopEncoder encoder(SpeexEncodeConfig(band.formaat, kwaliteit, complexiteit,
+                                                SpeexFixedBitrate, 0, 0, true, true, true),
+                              SpeexEncoderOpties());
+  wxMemoryOutputStream uit;
+  Percentage verhouding;
+  encoder.encode(wxFileName(wav), uit, true, verhouding);
+  std::string tekst(uit.GetSize(), '\0');
+  uit.CopyTo(tekst.data(), tekst.size());
+  return tekst;
+}
+
+// Encodes frames that lie ready in memory, and keeps nothing of them.
+int draaiLus(Band const& band, std::vector<short> const& samples) {
+  void* const encoder = speex_encoder_init(
+      band.formaat == SpeexNarrowband ? &speex_nb_mode : speex_lib_get_mode(band.formaat));
+  int waarde = kwaliteit;
+  speex_encoder_ctl(encoder, SPEEX_SET_QUALITY, &waarde);
+  waarde = complexiteit;
+  speex_encoder_ctl(encoder, SPEEX_SET_COMPLEXITY, &waarde);
+  waarde = 1;
+  speex_encoder_ctl(encoder, SPEEX_SET_VAD, &waarde);
+  SpeexBits bits;
+  speex_bits_init(&bits);
+  auto const n = SpeexBasis::frameSize[static_cast<std::size_t>(band.formaat)];
+  std::vector<float> blok(n);
+  std::array<char, 200> uit{};
+  int totaal = 0;
+  for (auto frame = samples.begin(); frame != samples.end(); frame += n) {
+    std::copy_n(frame, n, blok.begin());
+    speex_bits_reset(&bits);
+    speex_encode(encoder, blok.data(), &bits);
+    totaal += speex_bits_write(&bits, uit.data(), static_cast<int>(uit.size()));
+  }
+  speex_bits_destroy(&bits);
+  speex_encoder_destroy(encoder);
+  return totaal > 0 ? 0 : 1;
+}
+
+// The generated text with the true number of frames in its header, so that every frame that the
+// decoder writes is one that it decoded.
+std::string metWareTelling(Band const& band, std::string tekst) {
+  static_assert(frames == 0x1770);
+  std::string const begin = "\t(signed char)0x";
+  std::size_t const van = tekst.find(begin);
+  std::size_t const tot = tekst.find('\n', van);
+  return tekst.replace(
+      van, tot - van,
+      std::string("\t(signed char)") + band.frequentie + ",(signed char)0x70,(signed char)0x17,");
+}
+
+int decodeer(Band const& band, std::string const& tekst, std::string const& doel) {
+  SpeexDesktopDecoder decoder(band.formaat, nullptr);
+  unsigned long long fragmenten = 0;
+  return decoder.decode(wxFileName(tekst), wxFileName(doel), fragmenten,
+                        SF_FORMAT_WAV | SF_FORMAT_PCM_16);
+}
+
+bool meetBand(Band const& band, std::string const& map) {
+  std::string const wav = map + "/speex.wav";
+  std::string const tekst = map + "/speex.c";
+  std::string const terug = map + "/terug.wav";
+  int const rate = SpeexBasis::standaardSampFreqs[static_cast<std::size_t>(band.formaat)];
+  maakRuis(wav, rate, seconden);
+  std::vector<short> samples(static_cast<std::size_t>(seconden) * static_cast<std::size_t>(rate));
+  SndBestand::lees(wxFileName(wav))
+      .leesItems(samples.data(), static_cast<sf_count_t>(samples.size()));
+  std::ofstream(tekst) << metWareTelling(band, encodeer(band, wav));
+
+  Verbruik const eigen =
+      meetBeste(herhalingen, [&] { return encodeer(band, wav).empty() ? 1 : 0; });
+  Verbruik const lus = meetBeste(herhalingen, [&] { return draaiLus(band, samples); });
+  Verbruik const decoder = meetBeste(herhalingen, [&] { return decodeer(band, tekst, terug); });
+  sf_count_t const samplesTerug = SndBestand::lees(wxFileName(terug)).info().frames;
+  if (!eigen.geslaagd || !lus.geslaagd || !decoder.geslaagd ||
+      samplesTerug != static_cast<sf_count_t>(samples.size())) {
+    std::cerr << "bench: the Speex text of " << band.naam << " could not be measured\n";
+    return false;
+  }
+
+  constexpr double doelLus = 1.15;
+  constexpr double doelSnelheid = 100;
+  double const verhouding = eigen.seconden / lus.seconden;
+  double const snelheid = seconden / decoder.seconden;
+  bool const licht =
+      meld(verhouding <= doelLus,
+           std::string("Speex text at ") + band.naam + ", cost against libspeex alone", verhouding,
+           "<= 1.15");
+  bool const snel = meld(snelheid >= doelSnelheid,
+                         std::string("decoding Speex text at ") + band.naam + ", times real time",
+                         snelheid, ">= 100");
+  return licht && snel;
+}
+
+}  // namespace
+
+bool meetSpeex(std::string const& map) {
+  // All of them, also behind one that misses.
+  return std::count_if(banden.begin(), banden.end(), [&](Band const& band) {
+           return meetBand(band, map);
+         }) == static_cast<std::ptrdiff_t>(banden.size());
+}
