@@ -39,13 +39,18 @@ def compileer_cpp(bron: Path, kop: Path) -> None:
     _compileer("g++", "-std=c++17", "-include", str(kop), "-c", str(bron))
 
 
+def _getallen(rijen: str) -> bytes:
+    """The bytes of an array's rows, whatever the form of their numbers."""
+    kaal = re.sub(r"/\*.*?\*/|\(signed char\)", "", rijen, flags=re.S)
+    return bytes(int(woord, 0) & 0xFF for woord in kaal.replace(",", " ").split())
+
+
 def arrays_in(bron: Path) -> dict[str, bytes]:
     """The arrays of a generated text by name, without class."""
-    vorm = re.compile(r"^const unsigned char (?:\w+::)?(\w+)\[\] = \n\{\n(.*?)\n\};", re.M | re.S)
-    return {
-        naam: bytes(int(woord, 16) for woord in re.findall(r"0x[0-9a-f]+", rijen))
-        for naam, rijen in vorm.findall(bron.read_text())
-    }
+    vorm = re.compile(
+        r"^const (?:un)?signed char (?:\w+::)?(\w+)\[\] = \n\{\n(.*?)\n\};", re.M | re.S
+    )
+    return {naam: _getallen(rijen) for naam, rijen in vorm.findall(bron.read_text())}
 
 
 def serieel_pcm(wav: Path) -> bytes:
@@ -55,12 +60,44 @@ def serieel_pcm(wav: Path) -> bytes:
         return struct.pack("<IH", aantal, bron.getframerate()) + bron.readframes(aantal)
 
 
+def _arrays_van(bron: Path, fragmenten: list[Path]) -> dict[str, bytes]:
+    """The arrays of a text, which are those of the fragments and no others."""
+    gevonden = arrays_in(bron)
+    if list(gevonden) != sorted(wav.stem for wav in fragmenten):
+        raise Afgekeurd(f"{bron.name} holds the arrays {list(gevonden)}")
+    return gevonden
+
+
 def keur_arrays(bron: Path, fragmenten: list[Path]) -> None:
     """The arrays are the fragments, byte for byte and nothing else."""
-    gevonden = arrays_in(bron)
-    verwacht = {wav.stem: serieel_pcm(wav) for wav in fragmenten}
-    if list(gevonden) != sorted(verwacht):
-        raise Afgekeurd(f"{bron.name} holds the arrays {list(gevonden)}")
-    for naam, inhoud in verwacht.items():
-        if gevonden[naam] != inhoud:
-            raise Afgekeurd(f"{bron.name}: the bytes of {naam} are not those of the fragment")
+    gevonden = _arrays_van(bron, fragmenten)
+    for wav in fragmenten:
+        if gevonden[wav.stem] != serieel_pcm(wav):
+            raise Afgekeurd(f"{bron.name}: the bytes of {wav.stem} are not those of the fragment")
+
+
+def loop_frames(array: bytes) -> list[bytes]:
+    """The frames of a Speex array, walked as firmware does it: a size byte, then so many bytes."""
+    frames = []
+    plaats = 4
+    while plaats < len(array):
+        begin = plaats + 1
+        plaats = begin + array[plaats]
+        frames.append(array[begin:plaats])
+    if plaats != len(array):
+        raise Afgekeurd("the last frame goes beyond the end of its array")
+    return frames
+
+
+def keur_speex(bron: Path, fragmenten: list[Path]) -> None:
+    """Each array has the header of its fragment, and as many frames of 20 ms as cover it."""
+    gevonden = _arrays_van(bron, fragmenten)
+    for wav in fragmenten:
+        with wave.open(str(wav), "rb") as geluid:
+            rate, aantal = geluid.getframerate(), geluid.getnframes()
+        array = gevonden[wav.stem]
+        if array[:4] != struct.pack("<HH", rate, aantal & 0xFFFF):
+            raise Afgekeurd(f"{bron.name}: {wav.stem} has the header {array[:4].hex()}")
+        frames = loop_frames(array)
+        if len(frames) != -(-aantal * 50 // rate) or not all(frames):
+            raise Afgekeurd(f"{bron.name}: {wav.stem} has {len(frames)} frames")

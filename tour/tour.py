@@ -20,7 +20,8 @@ from toegang import Fout
 FRAGMENTEN = Path(__file__).resolve().parent.parent / "fragmenten"
 BESTANDEN = ("ready.wav", "warning.wav")
 KLASSE = "Sounds"
-MELDING = "was successfully encoded to PCM."
+MELDING_SPEEX = "% of the original size"
+MELDING_PCM = "was successfully encoded to PCM."
 
 
 class Tour:
@@ -41,9 +42,10 @@ class Tour:
             ("start: the window as it opens", self._start),
             ("choose: two fragments in the open dialog", self._kies),
             ("loaded: what the files hold", self._laad),
-            ("settings: a class name, and PCM", self._stel_in),
-            ("encoded: the text of the C++ arrays", self._codeer),
-            ("save: the C++ source gets its name", self._bewaar_cpp),
+            ("settings: a class name, and Speex as it stands", self._stel_in),
+            ("speex: encoded to C++ arrays of Speex frames", self._codeer_speex),
+            ("save: the C++ source gets its name", self._bewaar_speex),
+            ("pcm: the same class with PCM arrays, saved", self._bewaar_pcm),
             ("c: encoded again in C, and saved", self._bewaar_c),
             ("exit: through the menu", self._verlaat),
         ]
@@ -69,44 +71,48 @@ class Tour:
 
     def _stel_in(self) -> None:
         self._p.klassenaam(KLASSE)
-        self._p.keuzerondje("PCM")
         self.foto("4-settings")
 
-    def _codeer(self) -> None:
-        self._p.codeer(MELDING)
-        self.foto("5-encoded")
+    def _codeer_speex(self) -> None:
+        self._p.codeer(MELDING_SPEEX)
+        self.foto("5-speex")
         self._p.sluit_melding()
         if f"{KLASSE}::ready[]" not in self._p.gegenereerde_tekst():
             raise NietGebeurd("the text field shows the arrays")
 
-    def _bewaar_cpp(self) -> None:
-        doel = self._firmware / f"{KLASSE}.cpp"
+    def _bewaar_speex(self) -> None:
+        doel = self._firmware / f"{KLASSE}Speex.cpp"
         self._p.knop("Save")
         self._p.kies_doel(doel)
         self.foto("6-save")
         self._p.bevestig_doel(doel)
-        self._neem_over(doel)
-        kop = self._resultaten / f"{KLASSE}.h"
-        nakijken.schrijf_klasse(doel, kop)
-        nakijken.compileer_cpp(doel, kop)
-        self._keur(doel)
+        self._compileer_klasse(doel)
+        nakijken.keur_speex(doel, self._bronnen())
+
+    def _bewaar_pcm(self) -> None:
+        doel = self._firmware / f"{KLASSE}.cpp"
+        self._p.keuzerondje("PCM")
+        self._p.codeer(MELDING_PCM)
+        self._p.sluit_melding()
+        self.foto("7-pcm")
+        self._p.bewaar(doel)
+        self._compileer_klasse(doel)
+        nakijken.keur_arrays(doel, self._bronnen())
 
     def _bewaar_c(self) -> None:
         doel = self._firmware / "sounds.c"
         self._p.keuzerondje("C")
-        self._p.codeer(MELDING)
+        self._p.codeer(MELDING_PCM)
         self._p.sluit_melding()
-        self._p.knop("Save")
-        self._p.kies_doel(doel)
-        self._p.bevestig_doel(doel)
-        self.foto("7-c")
+        self._p.bewaar(doel)
+        self.foto("8-c")
         self._neem_over(doel)
         nakijken.compileer_c(doel)
-        self._keur(doel)
+        nakijken.keur_arrays(doel, self._bronnen())
 
     def _verlaat(self) -> None:
         self._p.open_bestandsmenu()
-        self.foto("8-exit")
+        self.foto("9-exit")
         status = self._p.kies_exit()
         if status:
             raise nakijken.Afgekeurd(f"the program ended with status {status}")
@@ -116,14 +122,21 @@ class Tour:
     def _neem_over(self, bestand: Path) -> None:
         shutil.copy(bestand, self._resultaten)
 
-    def _keur(self, bestand: Path) -> None:
-        nakijken.keur_arrays(bestand, [self._fragmenten / naam for naam in BESTANDEN])
+    def _compileer_klasse(self, bron: Path) -> None:
+        self._neem_over(bron)
+        kop = self._resultaten / f"{bron.stem}.h"
+        nakijken.schrijf_klasse(bron, kop)
+        nakijken.compileer_cpp(bron, kop)
+
+    def _bronnen(self) -> list[Path]:
+        return [self._fragmenten / naam for naam in BESTANDEN]
 
 
 def maak_leeg(resultaten: Path) -> None:
     """Makes the folder and takes an earlier tour's results out of it, but nothing else."""
     resultaten.mkdir(parents=True, exist_ok=True)
-    for patroon in ("[1-8]-*.png", "failed.png", f"{KLASSE}.cpp", f"{KLASSE}.h", "sounds.c"):
+    bronnen = (f"{KLASSE}{soort}.{uitgang}" for soort in ("", "Speex") for uitgang in ("cpp", "h"))
+    for patroon in ("[1-9]-*.png", "failed.png", "sounds.c", *bronnen):
         for oud in resultaten.glob(patroon):
             oud.unlink()
 
@@ -144,7 +157,8 @@ def loop(programma: Path, resultaten: Path) -> int:
                 print("\n".join(p.foutregels()), file=sys.stderr)
                 print(f"Screenshots so far: {resultaten}", file=sys.stderr)
                 return 1
-    print("Both sources compile and hold the fragments byte for byte.")
+    print("All sources compile. The PCM arrays hold the fragments byte for byte, the Speex arrays\n"
+          "all their frames.")
     print(f"Screenshots and sources: {resultaten}")
     return 0
 
