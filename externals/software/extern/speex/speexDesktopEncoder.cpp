@@ -39,7 +39,8 @@ Percentage maakVerhouding(unsigned long long bytes, sf_count_t frames) {
   if (frames <= 0) {
     return {};
   }
-  return {static_cast<double>(bytes * heel / static_cast<unsigned long long>(frames))};
+  unsigned long long const ratio = bytes * heel / static_cast<unsigned long long>(frames);
+  return {static_cast<double>(ratio)};
 }
 
 // The four bytes of a VelmoraSpeexHeader. The second field takes the samples of the WAV file in its
