@@ -140,10 +140,10 @@ void FragmentTekst::schrijfRijen(VelmoraArray<unsigned char> const& array) {
 
 void FragmentTekst::schrijfEinde(wxFileName const& wav) {
   schrijf("\n");
-  schrijfSlot(wav);
+  sluitArray(wav);
 }
 
-void FragmentTekst::schrijfSlot(wxFileName const& wav) {
+void FragmentTekst::sluitArray(wxFileName const& wav) {
   schrijf("};\n\n");
   schrijf("/* end of encoded WAV file         : " + wav.GetFullName() + "         */\n");
 }

@@ -49,7 +49,7 @@ class FragmentTekst {
   void schrijfEinde(wxFileName const& wav);
 
   // The same for an array without rows of this writer: its data ends its own last line.
-  void schrijfSlot(wxFileName const& wav);
+  void sluitArray(wxFileName const& wav);
 
  private:
   wxTextOutputStream tekstStroom;

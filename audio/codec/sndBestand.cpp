@@ -17,13 +17,13 @@ std::shared_ptr<SndBestand::Toestand> SndBestand::open(wxFileName const& bestand
   }
   // Empty where the name has no form in the C library's encoding; there is no file of that name.
   std::string const pad = bestand.GetFullPath().ToStdString(wxConvLibc);
-  SNDFILE* const handvat = sf_open(pad.c_str(), modus, &info);
-  if (handvat == nullptr) {
+  Handvat handvat(sf_open(pad.c_str(), modus, &info));
+  if (!handvat) {
     // What the library found out before it gave up says nothing about a file that cannot be used.
     info = SF_INFO{};
     return nullptr;
   }
-  return std::make_shared<Toestand>(handvat);
+  return std::make_shared<Toestand>(std::move(handvat));
 }
 
 SndBestand SndBestand::lees(wxFileName const& bestand) {
@@ -54,16 +54,17 @@ sf_count_t SndBestand::leesItems(short* doel, sf_count_t aantal) {
   sf_count_t gelezen = neemRest(0);
   sf_count_t const heel = (aantal - gelezen) / kanalen * kanalen;
   if (heel > 0) {
-    gelezen += sf_read_short(toestand->handvat, doel + gelezen, heel);
+    gelezen += sf_read_short(toestand->handvat.get(), doel + gelezen, heel);
   }
   if (gelezen < aantal && aantal - gelezen < kanalen) {
     rest.resize(static_cast<std::size_t>(kanalen));
-    rest.resize(static_cast<std::size_t>(sf_read_short(toestand->handvat, rest.data(), kanalen)));
+    rest.resize(
+        static_cast<std::size_t>(sf_read_short(toestand->handvat.get(), rest.data(), kanalen)));
     gelezen = neemRest(gelezen);
   }
   return gelezen;
 }
 
 sf_count_t SndBestand::schrijfItems(short const* bron, sf_count_t aantal) {
-  return isOpen() ? sf_write_short(toestand->handvat, bron, aantal) : 0;
+  return isOpen() ? sf_write_short(toestand->handvat.get(), bron, aantal) : 0;
 }

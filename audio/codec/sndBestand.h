@@ -5,6 +5,7 @@
 #include <sndfile.h>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 class wxFileName;
@@ -25,22 +26,23 @@ class SndBestand {
 
   // Reads up to `aantal` interleaved 16-bit values and returns how many it got. Calls go on where
   // the last one stopped, also within a frame, although the library itself turns away a count that
-  // is no whole number of frames.
+  // is no whole number of frames. What lies behind those values in `doel` may be cleared: that
+  // depends on the file.
   sf_count_t leesItems(short* doel, sf_count_t aantal);
   // Writes `aantal` 16-bit values, whole frames, and returns how many were written.
   sf_count_t schrijfItems(short const* bron, sf_count_t aantal);
 
  private:
+  struct Sluiter {
+    void operator()(SNDFILE* handvat) const { sf_close(handvat); }
+  };
+  using Handvat = std::unique_ptr<SNDFILE, Sluiter>;
+
   // The open file. The last holder closes it.
   struct Toestand {
-    explicit Toestand(SNDFILE* open) : handvat(open) {}
-    ~Toestand() { sf_close(handvat); }
-    Toestand(Toestand const&) = delete;
-    Toestand& operator=(Toestand const&) = delete;
-    Toestand(Toestand&&) = delete;
-    Toestand& operator=(Toestand&&) = delete;
+    explicit Toestand(Handvat open) : handvat(std::move(open)) {}
 
-    SNDFILE* handvat;
+    Handvat handvat;
     std::vector<short> rest;  // the values of a frame that was read but not yet handed out
   };
 

@@ -4,7 +4,7 @@
 
 namespace {
 
-// A signed byte widened with its sign, as firmware's own tools take it.
+// A signed byte, widened with its sign.
 unsigned short halfWoord(signed char byte) {
   return static_cast<unsigned short>(static_cast<short>(byte));
 }

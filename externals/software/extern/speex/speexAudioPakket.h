@@ -18,11 +18,15 @@ class SpeexAudioPakket : public VelmoraDataPakket<signed char> {
   // for.
   SpeexAudioPakket();
   // Lies over `array`, which has its header and must outlive this object. The payload begins behind
-  // the header. The fields of the base do not all say what the header does, and firmware counts on
-  // both: the second header field, with its high byte at bit 16, less 4, passes for the size in
-  // bytes; sampFreq likewise has the frequency's high byte at bit 16 (8000 Hz becomes 2031680).
-  // Bytes above 127 count as negative on that way, and wrap.
+  // the header. Two fields do not say what the header says, and stay so: the second header field,
+  // with its high byte at bit 16, less 4, passes for the size in bytes; sampFreq likewise has the
+  // frequency's high byte at bit 16 (8000 Hz becomes 2031680). Bytes above 127 count as negative on
+  // that way, and wrap.
   explicit SpeexAudioPakket(signed char const* array);
+
+  // The payload lies in memory that is not to be written.
+  signed char const* geefData() const { return VelmoraDataPakket::geefData(); }
+  void zetElement(unsigned long long i, signed char waarde) = delete;
 
   // The header's fields as they stand: the frequency in Hz, and what is called the number of
   // frames.
@@ -36,11 +40,12 @@ class SpeexAudioPakket : public VelmoraDataPakket<signed char> {
   // next frame.
   signed char const* encFrameData(bool verder);
 
- private:
-  VelmoraSpeexHeader leesHeader() const;
-
+ protected:
   Breuk sampFreq;
   signed char const* huidigFrame = nullptr;  // the size byte of the current frame
   // The bytes of the VelmoraSpeexHeader: the array may lie at an odd address.
   signed char const* header = nullptr;
+
+ private:
+  VelmoraSpeexHeader leesHeader() const;
 };

@@ -19,8 +19,10 @@ std::size_t SpeexBasis::plaatsVan(SpeexBandFormaat band) {
   return plaats < frameSize.size() ? plaats : std::size_t{0};
 }
 
+unsigned long long SpeexBasis::metTeken(int resultaat) {
+  return static_cast<unsigned long long>(static_cast<long long>(resultaat));
+}
+
 SpeexMode const* SpeexBasis::modusVan(SpeexBandFormaat band) {
-  auto const modus = static_cast<int>(plaatsVan(band));
-  // The library's own macro of this name would do the same for the modes of which it knows.
-  return modus == SpeexNarrowband ? &speex_nb_mode : (speex_lib_get_mode)(modus);
+  return speex_lib_get_mode(static_cast<int>(plaatsVan(band)));
 }

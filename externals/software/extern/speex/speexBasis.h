@@ -13,6 +13,8 @@ class SpeexBasis {
   // By band: the sampling frequency in Hz, and the samples in a frame.
   static constexpr std::array<unsigned short, 3> standaardSampFreqs{8000, 16000, 32000};
   static constexpr std::array<unsigned short, 3> frameSize{160, 320, 640};
+  // The most bytes that an encoded frame has.
+  static constexpr int maxFrameBytes = 200;
 
   SpeexBasis();
   virtual ~SpeexBasis();
@@ -35,6 +37,8 @@ class SpeexBasis {
  protected:
   // The place of the band in tables by band.
   static std::size_t plaatsVan(SpeexBandFormaat band);
+  // The return value of a control call as evalueerSpeexCtrlFunktie takes it.
+  static unsigned long long metTeken(int resultaat);
   // The library's mode of the band. It belongs to the library and lives for ever.
   static SpeexMode const* modusVan(SpeexBandFormaat band);
 

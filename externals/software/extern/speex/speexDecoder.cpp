@@ -33,7 +33,7 @@ void SpeexDecoder::decodeerFixedFrames(char const* data, unsigned long long fram
   };
 
   decodeer();
-  // The first sample each time, on purpose: firmware takes the block as a level to hold.
+  // Kept as it is: sample 0 each time, and the others of the block are dropped.
   std::fill_n(uitvoer, samples, blok[0]);
   for (unsigned long long teller = samples + 1; teller < aantal; ++teller) {
     decodeer();
@@ -41,6 +41,5 @@ void SpeexDecoder::decodeerFixedFrames(char const* data, unsigned long long fram
 }
 
 void SpeexDecoder::regelDecoder(int verzoek, spx_int32_t& waarde) {
-  evalueerSpeexCtrlFunktie(static_cast<unsigned long long>(
-      static_cast<long long>(speex_decoder_ctl(decoderState.get(), verzoek, &waarde))));
+  evalueerSpeexCtrlFunktie(metTeken(speex_decoder_ctl(decoderState.get(), verzoek, &waarde)));
 }

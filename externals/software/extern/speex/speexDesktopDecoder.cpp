@@ -17,7 +17,6 @@ namespace {
 
 constexpr int hexadecimaal = 16;
 constexpr int decimaal = 10;
-constexpr int frameBufferBytes = 200;
 // The most that a header field of two bytes can tell.
 constexpr unsigned long maxVeld = 0xFFFF;
 constexpr unsigned long long maxSamples = 1ULL << 28U;
@@ -66,16 +65,14 @@ struct SpeexDesktopDecoder::Uitvoer {
 };
 
 SpeexDesktopDecoder::SpeexDesktopDecoder(SpeexBandFormaat band, wxWindow* venster)
-    : SpeexDecoder(band), ouder(venster), frameBuffer(new char[frameBufferBytes]()) {}
-
-SpeexDesktopDecoder::~SpeexDesktopDecoder() = default;
+    : SpeexDecoder(band), ouder(venster) {}
 
 int SpeexDesktopDecoder::decode(wxFileName const& invoer, wxFileName const& uitvoer,
                                 unsigned long long& aantalFragmenten, unsigned int sfFormaat) {
   wxFileInputStream bestand(invoer.GetFullPath());
   std::optional<SndBestand> wav = openUitvoer(uitvoer, geefSampFreq(), sfFormaat);
   if (!wav) {
-    return past_niet;
+    return pastNiet;
   }
   aantalFragmenten = 0;
   if (!bestand.IsOk()) {
@@ -92,7 +89,7 @@ int SpeexDesktopDecoder::decode(wxFileName const& invoer, wxFileName const& uitv
       // A comment, of either kind. What it holds, a "{" too, is no array.
       tekst.ReadLine();
     } else if (teken == '{' && !leesFragment(tekst, uit, aantalFragmenten)) {
-      return past_niet;
+      return pastNiet;
     }
   }
   return gelukt;
@@ -152,9 +149,9 @@ void SpeexDesktopDecoder::leesFrame(wxTextInputStream& tekst) {
   for (int i = 0; i < grootte; ++i) {
     auto const byte = static_cast<char>(tekst.Read8S(decimaal));
     // No generated frame is larger than the buffer; of one in an edited text the rest is dropped.
-    if (i < frameBufferBytes) {
+    if (i < maxFrameBytes) {
       frameBuffer[static_cast<std::size_t>(i)] = byte;
     }
   }
-  speex_bits_read_from(&bits, frameBuffer.get(), std::min(grootte, frameBufferBytes));
+  speex_bits_read_from(&bits, frameBuffer.data(), std::min(grootte, maxFrameBytes));
 }

@@ -3,7 +3,7 @@
 // it knows comment lines, the "{" of an array, "x" before a hexadecimal number, and commas.
 #pragma once
 
-#include <memory>
+#include <array>
 
 #include "externals/software/extern/speex/speexDecoder.h"
 
@@ -15,16 +15,10 @@ class SpeexDesktopDecoder : public SpeexDecoder {
  public:
   // What decode returns.
   static constexpr int gelukt = 0;
-  static constexpr int past_niet = 2;  // a fragment of another frequency, or no memory for the file
+  static constexpr int pastNiet = 2;  // a fragment of another frequency, or no memory for the file
 
   // `venster` is kept and never used. It may be null.
   SpeexDesktopDecoder(SpeexBandFormaat band, wxWindow* venster);
-  ~SpeexDesktopDecoder() override;
-
-  SpeexDesktopDecoder(SpeexDesktopDecoder const&) = delete;
-  SpeexDesktopDecoder& operator=(SpeexDesktopDecoder const&) = delete;
-  SpeexDesktopDecoder(SpeexDesktopDecoder&&) = delete;
-  SpeexDesktopDecoder& operator=(SpeexDesktopDecoder&&) = delete;
 
   // Decodes the text in `invoer` to a mono WAV file `uitvoer` at the frequency of the band, of the
   // libsndfile format word `sfFormaat`. `aantalFragmenten` becomes the number of fragments met;
@@ -33,7 +27,7 @@ class SpeexDesktopDecoder : public SpeexDecoder {
   // The header's second field is taken for a count of frames, although it counts samples: past the
   // true end of an array the scanner goes on through what follows, takes the frames of later
   // fragments for its own, and at the end of the text goes on writing its last block. A fragment of
-  // another frequency, or without header, ends it with past_niet and no message; so do the
+  // another frequency, or without header, ends it with pastNiet and no message; so do the
   // fragments at 32000 Hz, whose header leesHeader cannot read. What was decoded before stays in
   // the file.
   //
@@ -57,5 +51,5 @@ class SpeexDesktopDecoder : public SpeexDecoder {
   void leesFrame(wxTextInputStream& tekst);
 
   [[maybe_unused]] wxWindow* ouder;
-  std::unique_ptr<char[]> frameBuffer;  // NOLINT(modernize-avoid-c-arrays): one encoded frame
+  std::array<char, maxFrameBytes> frameBuffer{};  // one encoded frame
 };

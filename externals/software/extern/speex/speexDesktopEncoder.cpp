@@ -17,9 +17,6 @@
 
 namespace {
 
-constexpr int frameBufferBytes = 200;
-constexpr unsigned long long sampleBits = 16;
-
 // The name of a value, or nothing for one that has no name.
 wxString naamVan(std::vector<wxString> const& namen, std::size_t waarde) {
   return waarde < namen.size() ? namen[waarde] : wxString();
@@ -58,25 +55,19 @@ wxString headerTekst(SF_INFO const& info) {
 SpeexDesktopEncoder::SpeexDesktopEncoder(SpeexEncodeConfig const& instellingen,
                                          SpeexEncoderOpties const& opties)
     : SpeexEncoder(instellingen),
-      frameBuffer(new char[frameBufferBytes]()),
       taal(opties.taal),
       klasseNaam(opties.klasseNaam),
       booleanNamen{"false", "true"},
       formaatNamen{"Narrowband", "Wideband", "Ultra Wideband"},
       bitrateNamen{"Fixed Bitrate", "Variable Bitrate", "Averaged Bitrate"} {}
 
-SpeexDesktopEncoder::~SpeexDesktopEncoder() = default;
-
 int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxMemoryOutputStream& uitvoer,
                                 bool metHeader, Percentage& verhouding) {
   SndBestand wav = SndBestand::lees(bestand);
   SF_INFO const info = wav.info();
   if (info.samplerate != geefSampFreq()) {
-    wxLogError(veiligFormaat(
-        bestand.GetFullName() +
-        wxString::Format(_(" has a different sampling frequency (%d)\nthan the encoder (%d)"),
-                         info.samplerate, static_cast<int>(geefSampFreq()))));
-    return past_niet;
+    meldFrequentie(bestand, info.samplerate);
+    return pastNiet;
   }
 
   FragmentTekst tekst(uitvoer);
@@ -87,20 +78,16 @@ int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxMemoryOutputStream&
   wxMemoryOutputStream frames;
   Omvang const omvang = encodeFrames(wav, frames);
   verhouding = maakVerhouding(omvang.totaal, info.frames);
-  tekst.schrijf(wxString::Format("/* Encoded array size              : %d bytes\t\t*/\n",
-                                 static_cast<int>(omvang.totaal)));
-  tekst.schrijf(wxString::Format("/* Encoded size/Original size      : %d %%\t\t*/\n",
-                                 static_cast<int>(verhouding.geefWaarde())));
-  tekst.schrijf(wxString::Format("/* Max bytes/encoded frame         : %d bytes\t\t*/\n\n",
-                                 omvang.grootsteFrame));
+  schrijfOmvang(tekst, omvang, verhouding);
   if (taal != UitvoerTaalC && taal != UitvoerTaalCPP) {
-    return taal == UitvoerTaalPython ? past_niet : onbekende_taal;
+    return taal == UitvoerTaalPython ? pastNiet : onbekendeTaal;
   }
 
   tekst.schrijfArrayKop({taal, klasseNaam, bestand.GetName()}, "signed char");
   if (metHeader) {
-    // Whoever reads the text back looks for "x" and "{": a translation must hold neither.
     tekst.schrijf(
+        // TRANSLATORS: without the letter "x" and without "{": the decoder of the text looks for
+        // them.
         _("\t/* Header: Sampling Freq (Lower + Higher Byte), Number of Frames (Lower + Higher "
           "Byte) */\n"));
     tekst.schrijf(headerTekst(info));
@@ -109,13 +96,20 @@ int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxMemoryOutputStream&
     wxMemoryInputStream bron(frames);
     uitvoer.Write(bron);
   }
-  tekst.schrijfSlot(bestand);
+  tekst.sluitArray(bestand);
   return gelukt;
+}
+
+void SpeexDesktopEncoder::meldFrequentie(wxFileName const& bestand, int frequentie) const {
+  wxLogError(veiligFormaat(
+      bestand.GetFullName() +
+      wxString::Format(_(" has a different sampling frequency (%d)\nthan the encoder (%d)"),
+                       frequentie, static_cast<int>(geefSampFreq()))));
 }
 
 void SpeexDesktopEncoder::schrijfInstellingen(FragmentTekst& tekst) const {
   tekst.schrijf(wxString::Format("/* Full Scale gain adapted to : %d bits\t\t*/\n\n",
-                                 static_cast<int>(sampleBits - config.gainBits)));
+                                 static_cast<int>(config.aantalBits - config.gainBits)));
   tekst.schrijf("/* Speex information :    \t\t*/\n");
   tekst.schrijf(wxString::Format("/* Speex framesize                 : %d bytes\t\t*/\n",
                                  static_cast<int>(geefFrameSize(config.formaat))));
@@ -137,22 +131,34 @@ void SpeexDesktopEncoder::schrijfInstellingen(FragmentTekst& tekst) const {
                                  static_cast<int>(config.complexiteit)));
 }
 
+void SpeexDesktopEncoder::schrijfOmvang(FragmentTekst& tekst, Omvang const& omvang,
+                                        Percentage const& verhouding) {
+  tekst.schrijf(wxString::Format("/* Encoded array size              : %d bytes\t\t*/\n",
+                                 static_cast<int>(omvang.totaal)));
+  tekst.schrijf(wxString::Format("/* Encoded size/Original size      : %d %%\t\t*/\n",
+                                 static_cast<int>(verhouding.geefWaarde())));
+  tekst.schrijf(wxString::Format("/* Max bytes/encoded frame         : %d bytes\t\t*/\n\n",
+                                 omvang.grootsteFrame));
+}
+
 SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav,
                                                               wxMemoryOutputStream& uit) {
   auto const n = static_cast<sf_count_t>(geefFrameSize(config.formaat));
-  std::vector<short> samples(static_cast<std::size_t>(n));
+  std::vector<short> vers(static_cast<std::size_t>(n));
+  std::vector<short> samples(vers.size());
   std::vector<float> geschaald(samples.size());
   Omvang omvang;
   unsigned long long nummer = 0;
   for (sf_count_t gelezen = 0; gelezen < wav.info().frames; gelezen += n) {
-    // The end of the file fills the last block partly. What it leaves alone are the samples of the
-    // block before, not silence, and they are encoded along: arrays in the field end that way.
-    wav.leesItems(samples.data(), n);
+    // The end of the file fills the last block partly. The rest are the samples of the block
+    // before, not silence, and they are encoded along. Not all formats leave them alone: some reads
+    // clear what they do not fill, hence the second block.
+    std::copy_n(vers.begin(), wav.leesItems(vers.data(), n), samples.begin());
     int const bytes = encodeFrame(samples, geschaald);
     omvang.grootsteFrame = std::max(omvang.grootsteFrame, bytes);
     omvang.totaal += static_cast<unsigned long long>(bytes) + 1;
     std::string const tekst =
-        frameTekst(nummer, frameBuffer.get(), static_cast<std::size_t>(bytes));
+        frameTekst(nummer, frameBuffer.data(), static_cast<std::size_t>(bytes));
     uit.Write(tekst.data(), tekst.size());
     ++nummer;
   }
@@ -166,5 +172,5 @@ int SpeexDesktopEncoder::encodeFrame(std::vector<short> const& samples,
                  [k = config.gainBits](short sample) { return schaal(sample, k); });
   speex_bits_reset(&bits);
   speex_encode(encoderState.get(), geschaald.data(), &bits);
-  return speex_bits_write(&bits, frameBuffer.get(), frameBufferBytes);
+  return speex_bits_write(&bits, frameBuffer.data(), maxFrameBytes);
 }

@@ -6,7 +6,6 @@
 #include <wx/string.h>
 
 #include <array>
-#include <memory>
 #include <vector>
 
 #include "audio/codec/uitvoerTaal.h"
@@ -32,16 +31,10 @@ class SpeexDesktopEncoder : public SpeexEncoder {
  public:
   // What encode returns.
   static constexpr int gelukt = 0;
-  static constexpr int past_niet = 2;  // another sampling frequency, or Python
-  static constexpr int onbekende_taal = 3;
+  static constexpr int pastNiet = 2;  // another sampling frequency, or Python
+  static constexpr int onbekendeTaal = 3;
 
   SpeexDesktopEncoder(SpeexEncodeConfig const& instellingen, SpeexEncoderOpties const& opties);
-  ~SpeexDesktopEncoder() override;
-
-  SpeexDesktopEncoder(SpeexDesktopEncoder const&) = delete;
-  SpeexDesktopEncoder& operator=(SpeexDesktopEncoder const&) = delete;
-  SpeexDesktopEncoder(SpeexDesktopEncoder&&) = delete;
-  SpeexDesktopEncoder& operator=(SpeexDesktopEncoder&&) = delete;
 
   // Appends the text of one file to `uitvoer`, UTF-8 with "\n" line ends, with the four header
   // bytes in the array or without. `verhouding` becomes the size of the frames, their size bytes
@@ -62,11 +55,14 @@ class SpeexDesktopEncoder : public SpeexEncoder {
     int grootsteFrame = 0;          // without its size byte
   };
 
+  void meldFrequentie(wxFileName const& bestand, int frequentie) const;
   void schrijfInstellingen(FragmentTekst& tekst) const;
+  static void schrijfOmvang(FragmentTekst& tekst, Omvang const& omvang,
+                            Percentage const& verhouding);
   Omvang encodeFrames(SndBestand& wav, wxMemoryOutputStream& uit);
   int encodeFrame(std::vector<short> const& samples, std::vector<float>& geschaald);
 
-  std::unique_ptr<char[]> frameBuffer;  // NOLINT(modernize-avoid-c-arrays): one encoded frame
+  std::array<char, maxFrameBytes> frameBuffer{};  // one encoded frame
   int taal;
   wxString klasseNaam;
   std::vector<wxString> booleanNamen;

@@ -19,14 +19,14 @@ Breuk frequentieVan(SpeexBandFormaat band) {
 
 }  // namespace
 
-SpeexEncodeConfig::SpeexEncodeConfig(SpeexBandFormaat band, unsigned int quality,
-                                     unsigned int complexity, SpeexBitrateType soort,
+SpeexEncodeConfig::SpeexEncodeConfig(SpeexBandFormaat band, unsigned int niveau,
+                                     unsigned int moeite, SpeexBitrateType soort,
                                      unsigned int bitrateGrens, unsigned int schaalBits,
                                      bool spraakDetectie, bool ruisFilter, bool versterking)
     : VelmoraAudioConfig(frequentieVan(band), sampleBits),
       formaat(band),
-      kwaliteit(quality),
-      complexiteit(complexity),
+      kwaliteit(niveau),
+      complexiteit(moeite),
       bitrateType(soort),
       maxBitrate(bitrateGrens),
       gainBits(schaalBits),

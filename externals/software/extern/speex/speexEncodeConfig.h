@@ -1,6 +1,5 @@
 // All settings of a Speex encoder, as a plain record that holds what it is handed: no range is
-// checked here, nor by the encoder, and the Speex library brings what it cannot use to the nearest
-// value that it can.
+// checked here, nor by the encoder, and the Speex library gets the values as they stand.
 #pragma once
 
 #include "audio/codec/audioConfig.h"
@@ -8,7 +7,7 @@
 
 struct SpeexEncodeConfig : VelmoraAudioConfig {
   // sampFreq follows from the band, and is 0/1 for a band that does not exist; aantalBits is 16.
-  SpeexEncodeConfig(SpeexBandFormaat band, unsigned int quality, unsigned int complexity,
+  SpeexEncodeConfig(SpeexBandFormaat band, unsigned int niveau, unsigned int moeite,
                     SpeexBitrateType soort, unsigned int bitrateGrens, unsigned int schaalBits,
                     bool spraakDetectie, bool ruisFilter, bool versterking);
 

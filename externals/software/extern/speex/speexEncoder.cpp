@@ -1,25 +1,9 @@
 #include "externals/software/extern/speex/speexEncoder.h"
 
-namespace {
-
-// The preprocessor cannot be built for 0 Hz, the frequency of a band that does not exist.
-int preprocessFrequentie(SpeexEncodeConfig const& instellingen, unsigned short standaard) {
-  auto const frequentie = static_cast<int>(instellingen.sampFreq.teller());
-  return frequentie > 0 ? frequentie : standaard;
-}
-
-unsigned long long metTeken(int resultaat) {
-  return static_cast<unsigned long long>(static_cast<long long>(resultaat));
-}
-
-}  // namespace
-
-SpeexEncoder::SpeexEncoder(SpeexEncodeConfig const& instellingen)
-    : encoderState(speex_encoder_init(modusVan(instellingen.formaat))),
-      preprocessState(speex_preprocess_state_init(
-          geefFrameSize(instellingen.formaat),
-          preprocessFrequentie(instellingen, standaardSampFreqs[plaatsVan(instellingen.formaat)]))),
-      config(instellingen) {
+SpeexEncoder::SpeexEncoder(SpeexEncodeConfig const& instellingen) : config(instellingen) {
+  encoderState.reset(speex_encoder_init(modusVan(config.formaat)));
+  preprocessState.reset(
+      speex_preprocess_state_init(geefFrameSize(config.formaat), preprocessFrequentie()));
   // Every control call gets the address of this one integer.
   spx_int32_t waarde = 0;
   stelPreprocessorIn(waarde);
@@ -35,6 +19,12 @@ void SpeexEncoder::geefConfig(SpeexEncodeConfig& doel) const {
   if (&doel != &config) {
     doel = config;
   }
+}
+
+// The preprocessor cannot be built for 0 Hz, the frequency of a band that does not exist.
+int SpeexEncoder::preprocessFrequentie() const {
+  auto const frequentie = static_cast<int>(config.sampFreq.teller());
+  return frequentie > 0 ? frequentie : standaardSampFreqs[plaatsVan(config.formaat)];
 }
 
 // The preprocessor is set up and never run: both settings are told in the generated text, and

@@ -33,6 +33,7 @@ class SpeexEncoder : public SpeexBasis {
   SpeexEncodeConfig config;
 
  private:
+  int preprocessFrequentie() const;
   void stelPreprocessorIn(spx_int32_t& waarde);
   void stelEncoderIn(spx_int32_t& waarde);
   void stelBitrateIn(spx_int32_t& waarde);
