@@ -42,7 +42,10 @@ def compileer_cpp(bron: Path, kop: Path) -> None:
 def _getallen(rijen: str) -> bytes:
     """The bytes of an array's rows, whatever the form of their numbers."""
     kaal = re.sub(r"/\*.*?\*/|\(signed char\)", "", rijen, flags=re.S)
-    return bytes(int(woord, 0) & 0xFF for woord in kaal.replace(",", " ").split())
+    try:
+        return bytes(int(woord, 0) & 0xFF for woord in kaal.replace(",", " ").split())
+    except ValueError as f:
+        raise Afgekeurd(f"an array holds something else than numbers: {f}") from f
 
 
 def arrays_in(bron: Path) -> dict[str, bytes]:
@@ -99,5 +102,7 @@ def keur_speex(bron: Path, fragmenten: list[Path]) -> None:
         if array[:4] != struct.pack("<HH", rate, aantal & 0xFFFF):
             raise Afgekeurd(f"{bron.name}: {wav.stem} has the header {array[:4].hex()}")
         frames = loop_frames(array)
-        if len(frames) != -(-aantal * 50 // rate) or not all(frames):
+        if len(frames) != -(-aantal * 50 // rate):
             raise Afgekeurd(f"{bron.name}: {wav.stem} has {len(frames)} frames")
+        if not all(frames):
+            raise Afgekeurd(f"{bron.name}: {wav.stem} has an empty frame")

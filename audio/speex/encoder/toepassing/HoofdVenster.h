@@ -170,8 +170,8 @@ class HoofdVenster : public wxFrame {
   wxFileName embedBestand;  // the last path saved as embedded WAV images
   wxFileName speexBestand;  // the last path saved as generated text
   PCMDesktopConverter pcmConverter;
-  // The encoder of the run that is on. One that a failed run leaves stays, and goes to the others
-  // of its kind when the next run takes its place.
+  // The encoder of the run that is on. That of a failed run stays, and is not ended by the next run
+  // either, which takes its place: it then waits among the others of its kind for the window's end.
   std::unique_ptr<SpeexDesktopEncoder> speexEncoder;
   std::vector<std::unique_ptr<SpeexDesktopEncoder>> mislukteEncoders;
   wxMemoryOutputStream uitvoerStroom;  // the text of the last encoding

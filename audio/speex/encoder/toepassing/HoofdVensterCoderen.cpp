@@ -38,30 +38,29 @@ void HoofdVenster::encodeHandler(wxCommandEvent& event) {
 }
 
 void HoofdVenster::encodeSpeex(wxCommandEvent& /*event*/) {
-  maakSpeexEncoder();
   Percentage verhouding;
   LopendGemiddelde gemiddelde(wavBestanden.size());
-  bool const voltooid = voerRunUit(
-      {wxString::Format("/* Speex encoding output of %d audio files \t\t*/\n\n",
-                        static_cast<int>(wavBestanden.size())),
-       {"// extern const signed char ", "// static const signed char "},
-       [&](wxFileName const& wav, bool metHeader) {
-         if (speexEncoder->encode(wav, uitvoerStroom, metHeader, verhouding) !=
-             SpeexDesktopEncoder::gelukt) {
-           meldCoderenMislukt(wav);
-           return false;
-         }
-         gemiddelde.voegToe(verhouding.geefWaarde());
-         return true;
-       },
-       // Cut to a whole percentage, as the ratio of each file is.
-       [&] {
-         return wxString::Format(_("\nwas on average encoded to %d%% of the original size"),
-                                 static_cast<int>(gemiddelde.geefGemiddelde()));
-       },
-       "Speex encoding succeeded",
-       _("Audio encoded in Speex embedded format")});
-  if (voltooid) {
+  CoderingsRun run;
+  run.encoder = "Speex";
+  run.typen = {"// extern const signed char ", "// static const signed char "};
+  run.bereidVoor = [this] { maakSpeexEncoder(); };
+  run.codeer = [&](wxFileName const& wav, bool metHeader) {
+    if (speexEncoder->encode(wav, uitvoerStroom, metHeader, verhouding) !=
+        SpeexDesktopEncoder::gelukt) {
+      meldCoderenMislukt(wav);
+      return false;
+    }
+    gemiddelde.voegToe(verhouding.geefWaarde());
+    return true;
+  };
+  // Cut to a whole percentage, as the ratio of each file is.
+  run.berichtStaart = [&] {
+    return wxString::Format(_("\nwas on average encoded to %d%% of the original size"),
+                            static_cast<int>(gemiddelde.geefGemiddelde()));
+  };
+  run.titel = "Speex encoding succeeded";
+  run.status = _("Audio encoded in Speex embedded format");
+  if (voerRunUit(run)) {
     speexEncoder.reset();
   }
 }
@@ -70,21 +69,26 @@ void HoofdVenster::encodeSpeex(wxCommandEvent& /*event*/) {
 void HoofdVenster::encodeADPCM(wxCommandEvent& /*event*/) {}
 
 void HoofdVenster::encodePCM(wxCommandEvent& /*event*/) {
-  int const taal = instellingen->speexOutputLanguage;
-  pcmConverter.zetOpties(taal == UitvoerTaalC ? PCMEncoderOpties(PCMTaalC, geefBitShift())
-                                              : PCMEncoderOpties(static_cast<PCMEncoderTaal>(taal),
-                                                                 klasseNaam, geefBitShift()));
-  voerRunUit(
-      {wxString::Format("/* PCM encoding output of %d audio files \t\t*/\n\n",
-                        static_cast<int>(wavBestanden.size())),
-       {"// extern const unsigned char ", "// static const unsigned char "},
-       [this](wxFileName const& wav, bool metHeader) {
-         pcmConverter.codeerBestand(wav, metHeader, uitvoerStroom);
-         return true;
-       },
-       [] { return wxString::Format(veiligFormaat(_("\nwas successfully encoded to PCM."))); },
-       "PCM encoding succeeded",
-       _("Audio encoded in PCM embedded format")});
+  CoderingsRun run;
+  run.encoder = "PCM";
+  run.typen = {"// extern const unsigned char ", "// static const unsigned char "};
+  run.bereidVoor = [this] {
+    int const taal = instellingen->speexOutputLanguage;
+    pcmConverter.zetOpties(
+        taal == UitvoerTaalC
+            ? PCMEncoderOpties(PCMTaalC, geefBitShift())
+            : PCMEncoderOpties(static_cast<PCMEncoderTaal>(taal), klasseNaam, geefBitShift()));
+  };
+  run.codeer = [this](wxFileName const& wav, bool metHeader) {
+    pcmConverter.codeerBestand(wav, metHeader, uitvoerStroom);
+    return true;
+  };
+  run.berichtStaart = [] {
+    return wxString::Format(veiligFormaat(_("\nwas successfully encoded to PCM.")));
+  };
+  run.titel = "PCM encoding succeeded";
+  run.status = _("Audio encoded in PCM embedded format");
+  voerRunUit(run);
 }
 
 // Each run has an encoder of its own: the first frame of a run knows nothing of the run before.
@@ -103,8 +107,6 @@ void HoofdVenster::maakSpeexEncoder() {
                                                                 : SpeexEncoderOpties(klasseNaam));
 }
 
-// An earlier result stays marked as one, although its text has made place for what this run got to:
-// the user changes the settings and encodes anew.
 void HoofdVenster::meldCoderenMislukt(wxFileName const& wav) {
   wxLogError(veiligFormaat(_("Could not encode ") + wav.GetFullName()));
   statusBalk->SetStatusText(_("Encoder error. Please check your settings"), 0);
@@ -127,14 +129,19 @@ bool HoofdVenster::voerRunUit(CoderingsRun const& run) {
   uitvoerStroom.GetOutputStreamBuffer()->ResetBuffer();
   uitvoerStroom.GetOutputStreamBuffer()->Truncate();
 
+  run.bereidVoor();
+
   wxTextOutputStream tekst(uitvoerStroom);
-  tekst.WriteString(runHoofd(run.kopRegel, instellingen->speexOutputLanguage, run.typen, klasseNaam,
-                             wavBestanden));
+  wxString const kopRegel =
+      wxString::Format("/* %s encoding output of %d audio files \t\t*/\n\n", run.encoder, aantal);
+  tekst.WriteString(
+      runHoofd(kopRegel, instellingen->speexOutputLanguage, run.typen, klasseNaam, wavBestanden));
   for (int nummer = 1; nummer <= aantal; ++nummer) {
     tekst.WriteString(
         wxString::Format("/******* Start encoding file number %d \t\t*******/\n", nummer));
     wxFileName const wav(wavBestanden[static_cast<std::size_t>(nummer) - 1]);
     if (!run.codeer(wav, inclHeaderVakje->GetValue())) {
+      // An earlier result stays marked as one, although its text has made place for this one's.
       return false;
     }
     tekst.WriteString(

@@ -10,8 +10,10 @@
 class wxFileName;
 
 struct CoderingsRun {
-  wxString kopRegel;  // the first line of the text, with the number of files in it
+  wxString encoder;  // as the first line of the text names it
   ArrayTypen typen;
+  // Sets the encoder up for this run; asked when the former result is gone.
+  std::function<void()> bereidVoor;
   // Appends the text of one file to the output, with the header in its array or without. False ends
   // the run at once, with the text so far; the encoder has told the user why.
   std::function<bool(wxFileName const& wav, bool metHeader)> codeer;

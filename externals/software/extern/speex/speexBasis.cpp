@@ -24,5 +24,6 @@ unsigned long long SpeexBasis::metTeken(int resultaat) {
 }
 
 SpeexMode const* SpeexBasis::modusVan(SpeexBandFormaat band) {
-  return speex_lib_get_mode(static_cast<int>(plaatsVan(band)));
+  auto const modus = static_cast<int>(plaatsVan(band));
+  return modus == SpeexNarrowband ? &speex_nb_mode : speex_lib_get_mode(modus);
 }

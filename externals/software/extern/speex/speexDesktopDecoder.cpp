@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <new>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "audio/codec/sndBestand.h"
@@ -74,6 +75,7 @@ int SpeexDesktopDecoder::decode(wxFileName const& invoer, wxFileName const& uitv
   if (!wav) {
     return pastNiet;
   }
+  Uitvoer uit{std::move(*wav), std::vector<short>(frameSize)};
   aantalFragmenten = 0;
   if (!bestand.IsOk()) {
     return gelukt;
@@ -83,7 +85,6 @@ int SpeexDesktopDecoder::decode(wxFileName const& invoer, wxFileName const& uitv
   wxBufferedInputStream buffer(bestand, bufferBytes);
   wxTextInputStream tekst(buffer, ",", wxConvAuto());
 
-  Uitvoer uit{*wav, std::vector<short>(frameSize)};
   for (wxChar teken = tekst.GetChar(); teken != 0; teken = tekst.GetChar()) {
     if (teken == '/') {
       // A comment, of either kind. What it holds, a "{" too, is no array.
@@ -118,7 +119,7 @@ unsigned char SpeexDesktopDecoder::leesHexWaarde(wxTextInputStream& tekst) {
 
 // Reads one array from behind its "{". False for one of another frequency.
 bool SpeexDesktopDecoder::leesFragment(wxTextInputStream& tekst, Uitvoer& uit,
-                                       unsigned long long& nummer) {
+                                       unsigned long long& aantalFragmenten) {
   unsigned long frequentie = 0;
   unsigned long frames = 0;
   leesHeader(tekst, frequentie);
@@ -126,9 +127,10 @@ bool SpeexDesktopDecoder::leesFragment(wxTextInputStream& tekst, Uitvoer& uit,
   if (frequentie != geefSampFreq()) {
     return false;
   }
-  ++nummer;
+  ++aantalFragmenten;
   wxLogMessage(_("Fragment %d: sampling frequency %ld Hz, number of frames %ld"),
-               static_cast<int>(nummer), static_cast<long>(frequentie), static_cast<long>(frames));
+               static_cast<int>(aantalFragmenten), static_cast<long>(frequentie),
+               static_cast<long>(frames));
   for (unsigned long frame = 0; frame < frames; ++frame) {
     // A count above what two bytes hold comes from an edited text. It goes on while there is text,
     // but would fill the disk with the last block behind it.

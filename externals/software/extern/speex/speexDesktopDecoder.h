@@ -47,7 +47,7 @@ class SpeexDesktopDecoder : public SpeexDecoder {
  private:
   struct Uitvoer;
 
-  bool leesFragment(wxTextInputStream& tekst, Uitvoer& uit, unsigned long long& nummer);
+  bool leesFragment(wxTextInputStream& tekst, Uitvoer& uit, unsigned long long& aantalFragmenten);
   void leesFrame(wxTextInputStream& tekst);
 
   [[maybe_unused]] wxWindow* ouder;
