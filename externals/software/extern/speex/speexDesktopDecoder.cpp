@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "audio/codec/sndBestand.h"
+#include "externals/software/extern/speex/doorlezendeConv.h"
 
 namespace {
 
@@ -83,7 +84,7 @@ int SpeexDesktopDecoder::decode(wxFileName const& invoer, wxFileName const& uitv
   // A file stream alone makes a system call for each character.
   constexpr std::size_t bufferBytes = 65536;
   wxBufferedInputStream buffer(bestand, bufferBytes);
-  wxTextInputStream tekst(buffer, ",", wxConvAuto());
+  wxTextInputStream tekst(buffer, ",", DoorlezendeConv());
 
   for (wxChar teken = tekst.GetChar(); teken != 0; teken = tekst.GetChar()) {
     if (teken == '/') {
