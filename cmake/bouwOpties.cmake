@@ -6,6 +6,7 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 
 option(KESTROLIN_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
+option(KESTROLIN_FUZZ "Build the fuzz targets, and all code for them: needs clang++" OFF)
 
 add_library(bouwOpties INTERFACE)
 target_include_directories(bouwOpties INTERFACE "${PROJECT_SOURCE_DIR}")
@@ -29,6 +30,13 @@ if(KESTROLIN_SANITIZE)
   # Optimised a little, so that the sanitizer run keeps within CI's time.
   target_compile_options(bouwOpties INTERFACE ${_sanitizers} -fno-omit-frame-pointer -O1)
   target_link_options(bouwOpties INTERFACE ${_sanitizers})
+endif()
+
+if(KESTROLIN_FUZZ)
+  # The fuzz targets alone link the engine, which brings a main along.
+  target_compile_options(bouwOpties INTERFACE -fsanitize=fuzzer-no-link,address,undefined
+                                              -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(bouwOpties INTERFACE -fsanitize=address,undefined)
 endif()
 
 # voeg_kamer_toe(naam bron...): one folder's static library, built with the shared options.

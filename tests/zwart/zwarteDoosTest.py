@@ -65,11 +65,17 @@ def wacht_op_rust(p: Programma) -> None:
     wacht(lambda: not p.bruikbaar("push button", "Encode"), "Encode is grey without audio")
 
 
-def laad_en_codeer(p: Programma, geluid: Path, fragmenten: tuple[str, ...]) -> list[Path]:
-    """Copies the fragments to a folder, loads them all and encodes them to PCM in C."""
+def laad(p: Programma, geluid: Path, fragmenten: tuple[str, ...]) -> list[Path]:
+    """Copies the fragments to a folder and loads them all."""
     geluid.mkdir(parents=True)
     wavs = [Path(shutil.copy(FRAGMENTEN / naam, geluid)) for naam in fragmenten]
     p.open_map(geluid)
+    return wavs
+
+
+def laad_en_codeer(p: Programma, geluid: Path, fragmenten: tuple[str, ...]) -> list[Path]:
+    """Loads copies of the fragments and encodes them to PCM in C."""
+    wavs = laad(p, geluid, fragmenten)
     p.keuzerondje("PCM")
     p.keuzerondje("C")
     p.codeer("was successfully encoded to PCM.")
@@ -124,6 +130,36 @@ def weg(programma: Path, thuis: Path) -> None:
     gelijk({configuratie["file1"], configuratie["file2"]}, {str(w) for w in wavs}, "history")
 
 
+def codeer_speex(p: Programma, doel: Path) -> None:
+    """Encodes with the encoder that is chosen, and saves."""
+    p.codeer("% of the original size")
+    p.sluit_melding()
+    p.bewaar(doel)
+    tekst = doel.read_text(encoding="utf-8")
+    kop = "/* Speex encoding output of 2 audio files \t\t*/\n"
+    assert tekst.startswith(kop), f"{doel.name} starts with {tekst[:80]!r}"
+    gelijk(tekst, p.gegenereerde_tekst(), doel.name)
+
+
+def speex(programma: Path, thuis: Path) -> None:
+    """Load, encode as the program starts out, in C++ and then in C; what is saved compiles."""
+    in_cpp, in_c = thuis / "geluid.cpp", thuis / "geluid.c"
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        laad(p, thuis / "geluid", ("ready.wav", "warning.wav"))
+        p.klassenaam("Geluid")
+        codeer_speex(p, in_cpp)
+        p.keuzerondje("C")
+        codeer_speex(p, in_c)
+        keur_einde(p, p.verlaat())
+    nakijken.schrijf_klasse(in_cpp, thuis / "geluid.h")
+    nakijken.compileer_cpp(in_cpp, thuis / "geluid.h")
+    nakijken.compileer_c(in_c)
+    gevonden = lees_instellingen(thuis)
+    gelijk(gevonden["Configuratie"]["Convertertype"], "0", "Convertertype")
+    gelijk(gevonden["Gebruikersinstellingen/Speex"]["speexOutputLanguage"], "0", "language")
+
+
 def tweede(programma: Path, thuis: Path) -> None:
     with Programma(programma, thuis) as een:
         wacht_op_rust(een)
@@ -158,6 +194,7 @@ def sluitvak(programma: Path, thuis: Path) -> None:
 GEVALLEN: dict[str, Callable[[Path, Path], None]] = {
     "eersteStart": eerste_start,
     "weg": weg,
+    "speex": speex,
     "tweede": tweede,
     "kleinScherm": klein_scherm,
     "sluitvak": sluitvak,

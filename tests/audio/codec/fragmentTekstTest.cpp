@@ -64,6 +64,10 @@ std::string einde(std::string const& pad) {
   return geschreven([&](FragmentTekst& tekst) { tekst.schrijfEinde(bestandsnaam(pad)); });
 }
 
+std::string slot(std::string const& pad) {
+  return geschreven([&](FragmentTekst& tekst) { tekst.sluitArray(bestandsnaam(pad)); });
+}
+
 // "2024-01-31 : 09:05:00" of the local time.
 std::string moment() {
   std::time_t const nu = std::time(nullptr);
@@ -242,6 +246,14 @@ TEST(FragmentTekstEinde, sluitDeArrayEnNoemtHetBestand) {
             "\n};\n\n/* end of encoded WAV file         : toon.wav         */\n");
   EXPECT_EQ(einde("100%s%n.wav"),
             "\n};\n\n/* end of encoded WAV file         : 100%s%n.wav         */\n");
+}
+
+// For an array whose data end their own last line: no empty line stands before the brace.
+TEST(FragmentTekstSlot, sluitDeArrayZonderLegeRegelEnNoemtHetBestand) {
+  EXPECT_EQ(slot("/een/pad/toon.wav"),
+            "};\n\n/* end of encoded WAV file         : toon.wav         */\n");
+  EXPECT_EQ(slot("100%s%n.h\xC3\xA9"),
+            "};\n\n/* end of encoded WAV file         : 100%s%n.h\xC3\xA9         */\n");
 }
 
 }  // namespace

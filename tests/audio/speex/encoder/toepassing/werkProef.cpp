@@ -7,9 +7,18 @@
 
 void WerkProef::begin(int taal, wxString const& vensterRegels, wxString const& speexRegels,
                       wxString const& meer) {
-  start("[Configuratie]\nConvertertype=2\nklasseNaam=Geluid\n" + vensterRegels +
-        "[Gebruikersinstellingen/Speex]\n" + wxString::Format("speexOutputLanguage=%d\n", taal) +
-        speexRegels + meer);
+  beginMet(EncoderPCM, taal, vensterRegels, speexRegels, meer);
+}
+
+void WerkProef::beginSpeex(int taal, wxString const& speexRegels) {
+  beginMet(EncoderSpeex, taal, wxEmptyString, speexRegels, wxEmptyString);
+}
+
+void WerkProef::beginMet(int soort, int taal, wxString const& vensterRegels,
+                         wxString const& speexRegels, wxString const& meer) {
+  start(wxString::Format("[Configuratie]\nConvertertype=%d\nklasseNaam=Geluid\n", soort) +
+        vensterRegels + "[Gebruikersinstellingen/Speex]\n" +
+        wxString::Format("speexOutputLanguage=%d\n", taal) + speexRegels + meer);
 }
 
 wxString WerkProef::wav(std::string const& naam, std::vector<std::int16_t> const& samples,

@@ -24,6 +24,8 @@ class WerkProef : public VensterProef {
   // that of the encoder settings, and groups of their own.
   void begin(int taal = 0, wxString const& vensterRegels = wxEmptyString,
              wxString const& speexRegels = wxEmptyString, wxString const& meer = wxEmptyString);
+  // The same with the Speex encoder.
+  void beginSpeex(int taal = 0, wxString const& speexRegels = wxEmptyString);
 
   // Writes a WAV file of 16-bit samples, or any bytes, under a name (UTF-8) in the test's directory
   // and returns its full path.
@@ -56,4 +58,8 @@ class WerkProef : public VensterProef {
   static wxString afgewezen(wxString const& naam);
   // The texts of what was logged; anything but an error fails the test.
   static std::vector<wxString> fouten();
+
+ private:
+  void beginMet(int soort, int taal, wxString const& vensterRegels, wxString const& speexRegels,
+                wxString const& meer);
 };

@@ -1,0 +1,164 @@
+// Speex runs that end before their last file: what is told, what is left of the text, and the run
+// after them.
+#include <wx/button.h>
+#include <wx/choice.h>
+#include <wx/filefn.h>
+#include <wx/menu.h>
+#include <wx/textctrl.h>
+#include <wx/toplevel.h>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/audio/codec/codecHulp.h"
+#include "tests/audio/speex/encoder/toepassing/speexRunProef.h"
+
+namespace {
+
+std::string const kopVanDrie =
+    "/* Speex encoding output of 3 audio files \t\t*/\n"
+    "\n"
+    "/* Put these declarations in a header file :*/\n"
+    "// extern const signed char bel[];\n"
+    "// extern const signed char tik[];\n"
+    "// extern const signed char zoem[];\n"
+    "\n"
+    "\n";
+std::string const eersteBegin = "/******* Start encoding file number 1 \t\t*******/\n";
+std::string const tweedeBegin = "/******* Start encoding file number 2 \t\t*******/\n";
+
+std::string totTweede() {
+  return kopVanDrie + blokken({drieFragmenten().front()}, {eersteInstelling(), ""}) + tweedeBegin;
+}
+
+class SpeexFoutProef : public SpeexRunProef {
+ protected:
+  void SetUp() override {
+    beginSpeex();
+    laadFragmenten(drieFragmenten());
+  }
+  // Chooses a band that the files do not have, and encodes.
+  void codeerVerkeerd() {
+    kies(keuze(ID_FORMAAT), 1);
+    klik(ID_CODEER);
+  }
+  // What a failed run shows: its two lines in the log, these behind any former ones, no message,
+  // and an empty text field.
+  void verwachtMislukt(wxString const& naam, int rate, int vanEncoder = 8000) {
+    std::vector<wxString> const gevonden = fouten();
+    ASSERT_GE(gevonden.size(), 2U);
+    EXPECT_EQ(
+        gevonden[gevonden.size() - 2],
+        naam + wxString::Format(" has a different sampling frequency (%d)\nthan the encoder (%d)",
+                                rate, vanEncoder));
+    EXPECT_EQ(gevonden.back(), "Could not encode " + naam);
+    EXPECT_EQ(status(), "Encoder error. Please check your settings");
+    EXPECT_EQ(tekst(), "");
+  }
+};
+
+TEST_F(SpeexFoutProef, ABandThatDoesNotFitTheFilesStopsTheRunAtTheFirst) {
+  codeerVerkeerd();
+  verwachtMislukt("bel.wav", 8000, 16000);
+  // The other files do not fit either: they were not tried.
+  EXPECT_EQ(log().size(), 2U);
+  EXPECT_TRUE(antwoorden.berichten.empty());
+  EXPECT_FALSE(isGecodeerd());
+  EXPECT_FALSE(menuItem(wxID_SAVE)->IsEnabled());
+  EXPECT_TRUE(knop(ID_CODEER)->IsEnabled());
+  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), kopVanDrie + eersteBegin));
+}
+
+TEST_F(SpeexFoutProef, TheHighestBandDoesSoToo) {
+  kies(keuze(ID_FORMAAT), 2);
+  klik(ID_CODEER);
+  verwachtMislukt("bel.wav", 8000, 32000);
+}
+
+TEST_F(SpeexFoutProef, TheProgressGoesWithTheRun) {
+  codeerVerkeerd();
+  EXPECT_TRUE(venster->IsEnabled());
+  EXPECT_EQ(wxTopLevelWindows.GetCount(), 1U);
+}
+
+TEST_F(SpeexFoutProef, AVanishedSecondFileLeavesTheFirstAndTheStartOfTheSecond) {
+  ASSERT_TRUE(wxRemoveFile(pad("tik.wav")));
+  klik(ID_CODEER);
+  verwachtMislukt("tik.wav", 0);
+  EXPECT_EQ(log().size(), 2U);
+  EXPECT_TRUE(antwoorden.berichten.empty());
+  EXPECT_FALSE(isGecodeerd());
+  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), totTweede()));
+}
+
+TEST_F(SpeexFoutProef, ASecondFileOfAnotherRateLeavesTheFirstAndTheStartOfTheSecond) {
+  wav("tik.wav", proefSamples(320), {44100});
+  klik(ID_CODEER);
+  verwachtMislukt("tik.wav", 44100);
+  EXPECT_EQ(log().size(), 2U);
+  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), totTweede()));
+}
+
+TEST_F(SpeexFoutProef, AVanishedFirstFileOfAnUnusableNameIsNamedAsItIs) {
+  laad({wav("%s%n.wav"), wav("100%.wav")});
+  ASSERT_TRUE(wxRemoveFile(pad("%s%n.wav")));
+  klik(ID_CODEER);
+  // The names are sorted by their signs: "1" stands behind "%".
+  verwachtMislukt("%s%n.wav", 0);
+  EXPECT_EQ(log().size(), 2U);
+}
+
+TEST_F(SpeexFoutProef, TwoPerCentSignsOfANameShowAsOne) {
+  laad({wav("a%%b.wav")});
+  ASSERT_TRUE(wxRemoveFile(pad("a%%b.wav")));
+  klik(ID_CODEER);
+  verwachtMislukt("a%b.wav", 0);
+}
+
+TEST_F(SpeexFoutProef, AFailedRunAfterAGoodOneKeepsTheMarkOfTheResultAndSavesThePartialText) {
+  codeer();
+  ASSERT_TRUE(isGecodeerd());
+  ASSERT_TRUE(wxRemoveFile(pad("tik.wav")));
+  codeerZonderMelding();
+  verwachtMislukt("tik.wav", 0);
+  EXPECT_EQ(antwoorden.berichten.size(), 1U);
+  EXPECT_TRUE(isGecodeerd());
+  EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
+  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), totTweede()));
+}
+
+TEST_F(SpeexFoutProef, AFailedRunKeepsASavedResultSaved) {
+  codeer();
+  bewaar(pad("uit.c"));
+  ASSERT_TRUE(wxRemoveFile(pad("tik.wav")));
+  codeerZonderMelding();
+  ASSERT_EQ(status(), "Encoder error. Please check your settings");
+  // Nothing asks whether to save.
+  klik(wxID_EXIT);
+  EXPECT_FALSE(leeft());
+}
+
+TEST_F(SpeexFoutProef, TheRunAfterAFailedOneHasAFreshEncoderAndAMeanOfItsOwn) {
+  // The failed run gets through its first file, so that its encoder remembers that.
+  wav("tik.wav", {1}, {16000});
+  klik(ID_CODEER);
+  verwachtMislukt("tik.wav", 16000);
+  wav("tik.wav", proefSamples(161));
+  EXPECT_TRUE(
+      zelfdeTekst(codeerTekst(), kopVanDrie + blokken(drieFragmenten(), {eersteInstelling(), ""})));
+  EXPECT_TRUE(isGecodeerd());
+  EXPECT_EQ(status(), "Audio encoded in Speex embedded format");
+  EXPECT_EQ(log().size(), 2U);
+  verwachtMelding(36);
+}
+
+TEST_F(SpeexFoutProef, SeveralFailedRunsInARowEachTellOfThemselves) {
+  codeerVerkeerd();
+  kies(keuze(ID_FORMAAT), 2);
+  klik(ID_CODEER);
+  verwachtMislukt("bel.wav", 8000, 32000);
+  EXPECT_EQ(log().size(), 4U);
+  kies(keuze(ID_FORMAAT), 0);
+  EXPECT_TRUE(
+      zelfdeTekst(codeerTekst(), kopVanDrie + blokken(drieFragmenten(), {eersteInstelling(), ""})));
+}
+
+}  // namespace

@@ -1,0 +1,249 @@
+#include "tests/externals/software/extern/speex/decoderHulp.h"
+
+#include <wx/filename.h>
+#include <wx/mstream.h>
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdio>
+
+#include "externals/software/extern/speex/speexDesktopDecoder.h"
+#include "externals/software/extern/speex/speexDesktopEncoder.h"
+#include "numeriek/percentage.h"
+#include "tests/steun/tijdelijkeMap.h"
+#include "tests/steun/wavLezer.h"
+#include "tests/steun/wavMaker.h"
+#include "tests/steun/wxMain.h"
+
+namespace {
+
+constexpr int complexiteit = 2;
+constexpr std::size_t maxFrame = 200;
+
+std::string hexadecimaal(unsigned long long waarde) {
+  std::array<char, 24> tekst{};
+  EXPECT_GT(std::snprintf(tekst.data(), tekst.size(), "0x%llx", waarde), 0);
+  return tekst.data();
+}
+
+// The bits of a frame, for the time that libspeex is asked for something.
+class Bits {
+ public:
+  Bits() { speex_bits_init(&bits); }
+  ~Bits() { speex_bits_destroy(&bits); }
+  Bits(Bits const&) = delete;
+  Bits& operator=(Bits const&) = delete;
+  Bits(Bits&&) = delete;
+  Bits& operator=(Bits&&) = delete;
+
+  SpeexBits* operator*() { return &bits; }
+
+ private:
+  SpeexBits bits{};
+};
+
+SpeexMode const* modus(SpeexBandFormaat band) {
+  return std::array{&speex_nb_mode, &speex_wb_mode, &speex_uwb_mode}.at(
+      static_cast<std::size_t>(band));
+}
+
+wxFileName naam(std::string const& pad) {
+  return {wxString::FromUTF8(pad.c_str())};
+}
+
+std::string declaraties(SpeexRun const& run, std::vector<std::string> const& namen) {
+  bool const inKlasse = !run.klasse.empty();
+  std::string tekst = inKlasse ? "// class " + run.klasse + "\n//{\n\t//private:\n" : "";
+  for (std::string const& een : namen) {
+    tekst += (inKlasse ? "// static const signed char " : "// extern const signed char ") + een +
+             "[];\n";
+  }
+  return tekst + (inKlasse ? "//};\n" : "") + "\n\n";
+}
+
+}  // namespace
+
+int rateVan(SpeexBandFormaat band) {
+  return std::array{8000, 16000, 32000}.at(static_cast<std::size_t>(band));
+}
+
+std::size_t blokVan(SpeexBandFormaat band) {
+  return std::array<std::size_t, 3>{160, 320, 640}.at(static_cast<std::size_t>(band));
+}
+
+Samples ruis(std::size_t aantal) {
+  std::vector<std::int16_t> const bron = proefSamples(aantal);
+  Samples samples(aantal);
+  constexpr std::size_t golf = 700;
+  for (std::size_t i = 0; i < aantal; ++i) {
+    samples[i] = static_cast<short>(bron[i] / static_cast<int>(2 + i / golf % 9));
+  }
+  return samples;
+}
+
+Frames codeer(SpeexBandFormaat band, Samples const& samples, int kwaliteit) {
+  std::unique_ptr<void, void (*)(void*)> const toestand(speex_encoder_init(modus(band)),
+                                                        speex_encoder_destroy);
+  int moeite = complexiteit;
+  speex_encoder_ctl(toestand.get(), SPEEX_SET_QUALITY, &kwaliteit);
+  speex_encoder_ctl(toestand.get(), SPEEX_SET_COMPLEXITY, &moeite);
+  Bits bits;
+  Frames frames;
+  std::size_t const blok = blokVan(band);
+  for (std::size_t begin = 0; begin + blok <= samples.size(); begin += blok) {
+    auto const van = samples.begin() + static_cast<std::ptrdiff_t>(begin);
+    std::vector<float> deel(van, van + static_cast<std::ptrdiff_t>(blok));
+    speex_bits_reset(*bits);
+    speex_encode(toestand.get(), deel.data(), *bits);
+    std::array<char, maxFrame> bytes{};
+    int const aantal = speex_bits_write(*bits, bytes.data(), static_cast<int>(maxFrame));
+    frames.emplace_back(bytes.begin(), bytes.begin() + aantal);
+  }
+  return frames;
+}
+
+Frames maakFrames(SpeexBandFormaat band, std::size_t aantal, int kwaliteit) {
+  return codeer(band, ruis(aantal * blokVan(band)), kwaliteit);
+}
+
+Luisteraar::Luisteraar(SpeexBandFormaat band)
+    : toestand(speex_decoder_init(modus(band))), blok(blokVan(band)) {
+  int aan = 1;
+  speex_decoder_ctl(toestand.get(), SPEEX_SET_ENH, &aan);
+}
+
+void Luisteraar::hoor(Bytes const& frame) {
+  std::vector<char> bytes(frame.begin(), frame.end());
+  Bits bits;
+  speex_bits_read_from(*bits, bytes.data(), static_cast<int>(bytes.size()));
+  speex_decode_int(toestand.get(), *bits, blok.data());
+  herhaal(1);
+}
+
+void Luisteraar::hoorAlle(Frames const& frames) {
+  std::for_each(frames.begin(), frames.end(), [this](Bytes const& frame) { hoor(frame); });
+}
+
+void Luisteraar::herhaal(std::size_t keer) {
+  for (std::size_t i = 0; i < keer; ++i) {
+    samples.insert(samples.end(), blok.begin(), blok.end());
+  }
+}
+
+std::string headerRegel(int rate, unsigned int telling) {
+  std::string regel = "\t";
+  for (unsigned int const waarde : {static_cast<unsigned int>(rate), telling}) {
+    regel += "(signed char)" + hexadecimaal(waarde % 256) + ",";
+    regel += "(signed char)" + hexadecimaal(waarde / 256 % 256) + ",";
+  }
+  return regel + "\n";
+}
+
+std::string frameRegels(Frames const& frames) {
+  std::string tekst;
+  for (std::size_t nummer = 0; nummer < frames.size(); ++nummer) {
+    Bytes const& frame = frames[nummer];
+    tekst += "\t" + hexadecimaal(frame.size()) + ",  /* Encoded Frame [" + std::to_string(nummer) +
+             "] Size */\n\t";
+    for (std::size_t i = 0; i < frame.size(); ++i) {
+      tekst += std::to_string(frame[i] < 128 ? frame[i] : frame[i] - 256) + ",";
+      tekst += i % 8 == 7 ? "\n\t" : "";
+    }
+    tekst += "\n";
+  }
+  return tekst;
+}
+
+std::string arrayMet(std::string const& inhoud) {
+  return "const signed char toon[] = \n{\n" + inhoud +
+         "};\n\n/* end of encoded WAV file         : toon.wav         */\n";
+}
+
+std::string arrayTekst(int rate, unsigned int telling, Frames const& frames) {
+  return arrayMet(
+      "\t/* Header: Sampling Freq (Lower + Higher Byte), Number of Frames (Lower + Higher Byte) "
+      "*/\n" +
+      headerRegel(rate, telling) + frameRegels(frames));
+}
+
+std::string runTekst(SpeexRun const& run, std::vector<Samples> const& fragmenten) {
+  TijdelijkeMap const map;
+  SpeexEncodeConfig const instellingen(run.band, 4, complexiteit, SpeexFixedBitrate, 0,
+                                       run.gainBits, false, false, false);
+  SpeexDesktopEncoder encoder(instellingen, run.klasse.empty()
+                                                ? SpeexEncoderOpties()
+                                                : SpeexEncoderOpties(wxString(run.klasse)));
+  std::vector<std::string> namen;
+  std::string fragmentTekst;
+  for (Samples const& samples : fragmenten) {
+    std::string const nummer = std::to_string(namen.size() + 1);
+    namen.push_back("toon" + nummer);
+    std::string const pad = map.pad(namen.back() + ".wav");
+    maakWav(pad, {samples.begin(), samples.end()}, {rateVan(run.band), 1, 16, 1});
+    wxMemoryOutputStream uit;
+    Percentage verhouding;
+    EXPECT_EQ(encoder.encode(naam(pad), uit, run.metHeader, verhouding), 0);
+    std::string fragment(uit.GetSize(), '\0');
+    uit.CopyTo(fragment.data(), fragment.size());
+    fragmentTekst += "/******* Start encoding file number " + nummer + " \t\t*******/\n";
+    fragmentTekst += fragment;
+    fragmentTekst += "/******* Stop encoding file number " + nummer + " \t\t*******/\n\n";
+  }
+  return "/* Speex encoding output of " + std::to_string(namen.size()) +
+         " audio files \t\t*/\n\n/* Put these declarations in a header file :*/\n" +
+         declaraties(run, namen) + fragmentTekst;
+}
+
+Gedecodeerd decodeerBestand(std::string const& van, std::string const& naar, unsigned int sfFormaat,
+                            SpeexBandFormaat band) {
+  Gedecodeerd gevonden;
+  gevonden.fragmenten = 99;
+  neemLog();
+  SpeexDesktopDecoder decoder(band, nullptr);
+  gevonden.uitslag = decoder.decode(naam(van), naam(naar), gevonden.fragmenten, sfFormaat);
+  gevonden.log = neemLog();
+  return gevonden;
+}
+
+Gedecodeerd decodeer(std::string const& tekst, SpeexBandFormaat band) {
+  TijdelijkeMap const map;
+  maakBestand(map.pad("tekst.c"), tekst);
+  Gedecodeerd gevonden = decodeerBestand(map.pad("tekst.c"), map.pad("uit.wav"),
+                                         SF_FORMAT_WAV | SF_FORMAT_PCM_16, band);
+  std::optional<GelezenWav> const wav = ontleedWav(leesBytes(map.pad("uit.wav")));
+  if (!wav) {
+    ADD_FAILURE() << "no whole WAV file came out";
+    return gevonden;
+  }
+  EXPECT_EQ(wav->soort.formaatCode, 1);
+  EXPECT_EQ(wav->soort.kanalen, 1);
+  EXPECT_EQ(wav->soort.rate, rateVan(band));
+  gevonden.samples.assign(wav->waarden.begin(), wav->waarden.end());
+  return gevonden;
+}
+
+SF_INFO wavInfo(std::string const& pad) {
+  SF_INFO info{};
+  SNDFILE* const handvat = sf_open(pad.c_str(), SFM_READ, &info);
+  if (handvat == nullptr) {
+    return {};
+  }
+  sf_close(handvat);
+  return info;
+}
+
+testing::AssertionResult zelfdeSamples(Samples const& gevonden, Samples const& verwacht) {
+  if (gevonden == verwacht) {
+    return testing::AssertionSuccess();
+  }
+  auto const [hier, daar] =
+      std::mismatch(gevonden.begin(), gevonden.end(), verwacht.begin(), verwacht.end());
+  testing::AssertionResult uitslag = testing::AssertionFailure();
+  uitslag << gevonden.size() << " samples, " << verwacht.size() << " expected; differs at sample "
+          << hier - gevonden.begin();
+  if (hier != gevonden.end() && daar != verwacht.end()) {
+    uitslag << ": " << *hier << ", expected " << *daar;
+  }
+  return uitslag;
+}

@@ -1,0 +1,285 @@
+// What the decoder makes of generated text: the sound of its frames, and what the count of the
+// header does to it.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <string>
+
+#include "tests/externals/software/extern/speex/decoderHulp.h"
+#include "tests/steun/opdracht.h"
+#include "tests/steun/tijdelijkeMap.h"
+#include "tests/steun/wavMaker.h"
+
+namespace {
+
+// A block of the absorbed array's words: where a header stands in the way of a running count, its
+// first byte, 0x40, is taken for the size of a frame.
+constexpr std::size_t headerAlsGrootte = 0x40;
+
+void verwachtGelukt(Gedecodeerd const& gevonden, unsigned long long fragmenten,
+                    Samples const& verwacht) {
+  EXPECT_EQ(gevonden.uitslag, 0);
+  EXPECT_EQ(gevonden.fragmenten, fragmenten);
+  EXPECT_TRUE(zelfdeSamples(gevonden.samples, verwacht));
+}
+
+// The sound of `samples`, and the last block until there are `telling` blocks.
+Samples gehoord(SpeexBandFormaat band, Samples const& samples, std::size_t telling) {
+  Luisteraar luisteraar(band);
+  Frames const frames = codeer(band, samples);
+  luisteraar.hoorAlle(frames);
+  luisteraar.herhaal(telling - frames.size());
+  return luisteraar.samples;
+}
+
+Bytes const geenBytes;
+
+// The words that a reader of numbers takes from the lines of a frame: the size line gives two that
+// are no decimal numbers, and a tab alone on its line gives one.
+void voegWoordenToe(Bytes& woorden, Bytes const& frame) {
+  woorden.insert(woorden.end(), 2, 0);
+  woorden.insert(woorden.end(), frame.begin(), frame.end());
+  woorden.insert(woorden.end(), frame.size() % 8 == 0 ? 1 : 0, 0);
+}
+
+TEST(SpeexDecodeer, TextOf8000HzGivesTheSoundAndThenItsLastBlockUpToTheCount) {
+  Samples const samples = ruis(800);
+  verwachtGelukt(decodeer(runTekst({}, {samples})), 1, gehoord(SpeexNarrowband, samples, 800));
+}
+
+TEST(SpeexDecodeer, TextOf16000HzGivesTheSoundAndThenItsLastBlockUpToTheCount) {
+  Samples const samples = ruis(1600);
+  SpeexRun run;
+  run.band = SpeexWideband;
+  verwachtGelukt(decodeer(runTekst(run, {samples}), SpeexWideband), 1,
+                 gehoord(SpeexWideband, samples, 1600));
+}
+
+TEST(SpeexDecodeer, TheShellOfACppClassAndTheMarksOfARunAreNoFragments) {
+  Samples const samples = ruis(480);
+  SpeexRun run;
+  run.klasse = "Klank";
+  std::string const tekst = runTekst(run, {samples});
+  ASSERT_NE(tekst.find("// class Klank\n//{\n"), std::string::npos);
+  ASSERT_NE(tekst.find("const signed char Klank::toon1[] = \n{\n"), std::string::npos);
+  verwachtGelukt(decodeer(tekst), 1, gehoord(SpeexNarrowband, samples, 480));
+}
+
+TEST(SpeexDecodeer, TextWithCrLfLineEndsSoundsTheSame) {
+  Frames const frames = maakFrames(SpeexNarrowband, 5);
+  std::string const tekst = arrayTekst(8000, 5, frames);
+  std::string crlf;
+  for (char const teken : tekst) {
+    crlf += teken == '\n' ? "\r\n" : std::string(1, teken);
+  }
+  Luisteraar luisteraar(SpeexNarrowband);
+  luisteraar.hoorAlle(frames);
+  verwachtGelukt(decodeer(crlf), 1, luisteraar.samples);
+}
+
+TEST(SpeexDecodeer, FramesOfEverySizeSoundAsTheLibraryMakesThem) {
+  for (int kwaliteit = 0; kwaliteit <= 10; ++kwaliteit) {
+    for (SpeexBandFormaat const band : {SpeexNarrowband, SpeexWideband}) {
+      Frames const frames = maakFrames(band, 9, kwaliteit);
+      Luisteraar luisteraar(band);
+      luisteraar.hoorAlle(frames);
+      SCOPED_TRACE(frames[0].size());
+      verwachtGelukt(decodeer(arrayTekst(rateVan(band), 9, frames), band), 1, luisteraar.samples);
+    }
+  }
+}
+
+TEST(SpeexDecodeer, TheScaleOfANarrowDacIsNotUndone) {
+  Samples const samples = ruis(480);
+  Samples klein = samples;
+  for (short& sample : klein) {
+    sample = static_cast<short>((sample + 32768) / 256 - 128);
+  }
+  SpeexRun run;
+  run.gainBits = 8;
+  verwachtGelukt(decodeer(runTekst(run, {samples})), 1, gehoord(SpeexNarrowband, klein, 480));
+}
+
+TEST(SpeexDecodeer, ASecondFragmentIsAbsorbedWhileTheCountOfTheFirstRuns) {
+  Samples const samples = ruis(1600);
+  Samples const eerste(samples.begin(), samples.begin() + 800);
+  Samples const tweede(samples.begin() + 800, samples.end());
+  // The encoder's state runs on from file to file.
+  Frames const frames = codeer(SpeexNarrowband, samples);
+  ASSERT_EQ(frames.size(), 10U);
+  ASSERT_EQ(frames[0].size(), 20U);
+
+  Luisteraar luisteraar(SpeexNarrowband);
+  luisteraar.hoorAlle({frames.begin(), frames.begin() + 5});
+  // Seven comment lines hold an "x", in "Linux", "Speex" or "Max", that the scanner comes upon;
+  // each takes the line behind it along.
+  luisteraar.herhaal(7);
+  Bytes woorden;
+  voegWoordenToe(woorden, frames[5]);
+  voegWoordenToe(woorden, frames[6]);
+  voegWoordenToe(woorden, frames[7]);
+  ASSERT_GT(woorden.size(), headerAlsGrootte);
+  woorden.resize(headerAlsGrootte);
+  luisteraar.hoor(woorden);
+  luisteraar.hoorAlle({frames.begin() + 8, frames.end()});
+  luisteraar.herhaal(800 - 5 - 7 - 1 - 2);
+  verwachtGelukt(decodeer(runTekst({}, {eerste, tweede})), 1, luisteraar.samples);
+}
+
+TEST(SpeexDecodeer, AnAbsorbedArrayWithoutHeaderIsHeardWhole) {
+  Frames const frames = maakFrames(SpeexNarrowband, 9);
+  Luisteraar luisteraar(SpeexNarrowband);
+  luisteraar.hoorAlle(frames);
+  luisteraar.herhaal(3);
+  verwachtGelukt(decodeer(arrayTekst(8000, 12, {frames.begin(), frames.begin() + 4}) +
+                          arrayMet(frameRegels({frames.begin() + 4, frames.end()}))),
+                 1, luisteraar.samples);
+}
+
+TEST(SpeexDecodeer, TheHeaderOfAnAbsorbedArrayIsTakenForASize) {
+  // Frames of 16 bytes: their last line holds a tab alone.
+  Frames frames(5, Bytes(16, 0));
+  Frames const echt = maakFrames(SpeexNarrowband, 5);
+  std::transform(echt.begin(), echt.end(), frames.begin(),
+                 [](Bytes const& frame) { return Bytes(frame.begin(), frame.begin() + 16); });
+  Bytes woorden;
+  std::for_each(frames.begin(), frames.end() - 1,
+                [&](Bytes const& frame) { voegWoordenToe(woorden, frame); });
+  ASSERT_GT(woorden.size(), headerAlsGrootte);
+  woorden.resize(headerAlsGrootte);
+  Luisteraar luisteraar(SpeexNarrowband);
+  luisteraar.hoorAlle(echt);
+  luisteraar.hoor(woorden);
+  luisteraar.hoor(frames[4]);
+  verwachtGelukt(decodeer(arrayTekst(8000, 7, echt) + arrayTekst(8000, 5, frames)), 1,
+                 luisteraar.samples);
+}
+
+TEST(SpeexDecodeer, TheStateOfTheLibraryRunsOnFromFragmentToFragment) {
+  Frames const frames = maakFrames(SpeexNarrowband, 8);
+  Frames const eerste(frames.begin(), frames.begin() + 3);
+  Frames const tweede(frames.begin() + 3, frames.end());
+  Luisteraar luisteraar(SpeexNarrowband);
+  luisteraar.hoorAlle(frames);
+  Luisteraar vers(SpeexNarrowband);
+  vers.hoorAlle(tweede);
+  ASSERT_FALSE(
+      std::equal(vers.samples.begin(), vers.samples.end(), luisteraar.samples.begin() + 480));
+  verwachtGelukt(decodeer(arrayTekst(8000, 3, eerste) + arrayTekst(8000, 5, tweede)), 2,
+                 luisteraar.samples);
+}
+
+TEST(SpeexDecodeer, ACountBelowTheTrueOneStopsEarlyAndTheRestIsSkipped) {
+  Frames const frames = maakFrames(SpeexNarrowband, 5);
+  Luisteraar luisteraar(SpeexNarrowband);
+  luisteraar.hoorAlle({frames[0], frames[1], frames[0], frames[1], frames[2]});
+  verwachtGelukt(decodeer(arrayTekst(8000, 2, frames) + arrayTekst(8000, 3, frames)), 2,
+                 luisteraar.samples);
+}
+
+TEST(SpeexDecodeer, OfAFileOfOver65536SamplesTheWrappedCountIsPlayed) {
+  // 65696 is 65536 + 160: of 411 frames the first 160 are played.
+  Samples const samples = ruis(65696);
+  constexpr std::ptrdiff_t gespeeld = 25600;  // 160 frames
+  Samples const begin(samples.begin(), samples.begin() + gespeeld);
+  verwachtGelukt(decodeer(runTekst({}, {samples})), 1, gehoord(SpeexNarrowband, begin, 160));
+}
+
+TEST(SpeexDecodeer, AHeaderCountOfZeroIsAFragmentWithoutFrames) {
+  Frames const frames = maakFrames(SpeexNarrowband, 4);
+  verwachtGelukt(decodeer(arrayTekst(8000, 0, frames)), 1, {});
+  Luisteraar luisteraar(SpeexNarrowband);
+  luisteraar.hoorAlle(frames);
+  verwachtGelukt(decodeer(arrayTekst(8000, 0, frames) + arrayTekst(8000, 4, frames)), 2,
+                 luisteraar.samples);
+}
+
+TEST(SpeexDecodeer, AFrameOfSizeZeroWritesTheOldBlockAndTheNextWordIsASize) {
+  Frames const frames = maakFrames(SpeexNarrowband, 3);
+  Luisteraar luisteraar(SpeexNarrowband);
+  luisteraar.hoor(frames[0]);
+  luisteraar.herhaal(1);
+  luisteraar.hoor(frames[1]);
+  luisteraar.herhaal(2);
+  luisteraar.hoor(frames[2]);
+  verwachtGelukt(decodeer(arrayTekst(
+                     8000, 6, {frames[0], geenBytes, frames[1], geenBytes, geenBytes, frames[2]})),
+                 1, luisteraar.samples);
+}
+
+TEST(SpeexDecodeer, AFragmentOf32000HzGivesTwoAndAReadableWavWithoutSamples) {
+  SpeexRun run;
+  run.band = SpeexUltraWideband;
+  Gedecodeerd const gevonden = decodeer(runTekst(run, {ruis(1280)}), SpeexUltraWideband);
+  EXPECT_EQ(gevonden.uitslag, 2);
+  EXPECT_EQ(gevonden.fragmenten, 0U);
+  EXPECT_TRUE(gevonden.samples.empty());
+  EXPECT_TRUE(gevonden.log.empty());
+}
+
+TEST(SpeexDecodeer, TextOf32000HzEditedToTwoDigitsIsHeard) {
+  Samples const samples = ruis(1280);
+  SpeexRun run;
+  run.band = SpeexUltraWideband;
+  std::string tekst = runTekst(run, {samples});
+  // 1280 is 0x500.
+  std::string const geschreven =
+      "(signed char)0x0,(signed char)0x7d,(signed char)0x0,(signed char)0x5,";
+  std::size_t const plaats = tekst.find(geschreven);
+  ASSERT_NE(plaats, std::string::npos);
+  tekst.replace(plaats, geschreven.size(), "0x00,0x7d,0x00,0x5,");
+  verwachtGelukt(decodeer(tekst, SpeexUltraWideband), 1,
+                 gehoord(SpeexUltraWideband, samples, 1280));
+}
+
+// The packets of an Ogg stream behind its two headers.
+Frames oggFrames(Bytes const& ogg) {
+  constexpr std::size_t kop = 27;
+  Frames pakketten(1);
+  for (std::size_t pagina = 0; pagina + kop <= ogg.size();) {
+    std::size_t const delen = ogg[pagina + kop - 1];
+    std::size_t data = pagina + kop + delen;
+    for (std::size_t deel = 0; deel < delen; ++deel) {
+      std::size_t const lengte = ogg.at(pagina + kop + deel);
+      auto const van = ogg.begin() + static_cast<std::ptrdiff_t>(data);
+      pakketten.back().insert(pakketten.back().end(), van,
+                              van + static_cast<std::ptrdiff_t>(lengte));
+      data += lengte;
+      if (lengte < 255) {
+        pakketten.emplace_back();
+      }
+    }
+    pagina = data;
+  }
+  return {pakketten.begin() + 2, pakketten.end() - 1};
+}
+
+// As the library's own tools hear it, which leave out the samples before the first of the source.
+TEST(SpeexDecodeer, FramesOfSpeexencSoundAsSpeexdecPlaysThem) {
+  TijdelijkeMap const map;
+  for (SpeexBandFormaat const band : {SpeexNarrowband, SpeexWideband}) {
+    maakWav(map.pad("in.wav"), proefSamples(20 * blokVan(band)), {rateVan(band), 1, 16, 1});
+    ASSERT_EQ(voerUit("cd '" + map.pad() + "' && speexenc in.wav a.spx >log 2>&1 && " +
+                      "speexdec a.spx a.raw >>log 2>&1"),
+              0)
+        << leesTekst(map.pad("log"));
+    Bytes const ruw = leesBytes(map.pad("a.raw"));
+    Samples gespeeld;
+    for (std::size_t i = 0; i + 1 < ruw.size(); i += 2) {
+      gespeeld.push_back(static_cast<short>(ruw[i] + 256 * ruw[i + 1]));
+    }
+    ASSERT_GT(gespeeld.size(), 15 * blokVan(band));
+
+    Frames const frames = oggFrames(leesBytes(map.pad("a.spx")));
+    ASSERT_GE(frames.size(), 20U);
+    Gedecodeerd const gevonden =
+        decodeer(arrayTekst(rateVan(band), static_cast<unsigned int>(frames.size()), frames), band);
+    EXPECT_EQ(gevonden.samples.size(), frames.size() * blokVan(band));
+    EXPECT_NE(std::search(gevonden.samples.begin(), gevonden.samples.end(), gespeeld.begin(),
+                          gespeeld.end()),
+              gevonden.samples.end());
+  }
+}
+
+}  // namespace

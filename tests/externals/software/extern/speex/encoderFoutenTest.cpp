@@ -1,0 +1,190 @@
+// Files that the encoder turns away: what it returns, logs and leaves alone; and that it lets go of
+// every file on each way out.
+#include <gtest/gtest.h>
+#include <wx/log.h>
+#include <wx/mstream.h>
+
+#include <clocale>
+#include <filesystem>
+#include <iterator>
+#include <memory>
+#include <stdexcept>
+
+#include "numeriek/percentage.h"
+#include "tests/audio/codec/codecHulp.h"
+#include "tests/externals/software/extern/speex/encoderTekstHulp.h"
+#include "tests/steun/omgeving.h"
+#include "tests/steun/wxMain.h"
+
+namespace {
+
+class EncoderFouten : public EncoderProef {
+ protected:
+  // Nothing is written nor told to the caller but the result; the log has this one line.
+  static void verwachtGeweigerd(Instelling const& instelling, std::string const& pad,
+                                std::string const& logTekst) {
+    for (bool const metHeader : {true, false}) {
+      Codering const uitslag = codeer(instelling, pad, metHeader);
+      EXPECT_EQ(uitslag.resultaat, 2) << pad;
+      EXPECT_EQ(uitslag.tekst, "") << pad;
+      EXPECT_EQ(uitslag.verhouding, onaangeraakt) << pad;
+      std::vector<LogRegel> const log = neemLog();
+      ASSERT_EQ(log.size(), 1U) << pad;
+      EXPECT_EQ(log[0].niveau, static_cast<unsigned long>(wxLOG_Error));
+      EXPECT_EQ(log[0].tekst, wxTekst(logTekst));
+    }
+  }
+};
+
+TEST_F(EncoderFouten, OtherSamplingFrequencyIsLoggedAndWritesNothing) {
+  struct Geval {
+    int band;
+    int rate;
+    std::string einde;
+  };
+  std::string const zin = "toon.wav has a different sampling frequency ";
+  for (Geval const& geval : {Geval{0, 16000, "(16000)\nthan the encoder (8000)"},
+                             {0, 7999, "(7999)\nthan the encoder (8000)"},
+                             {1, 8000, "(8000)\nthan the encoder (16000)"},
+                             {2, 44100, "(44100)\nthan the encoder (32000)"}}) {
+    Instelling instelling;
+    instelling.band = geval.band;
+    verwachtGeweigerd(instelling, wav("toon.wav", golf(160), geval.rate), zin + geval.einde);
+  }
+}
+
+TEST_F(EncoderFouten, FrequencyThatEqualsTheEncodersInItsLowBitsDoesNotFit) {
+  verwachtGeweigerd(Instelling(), wav("toon.wav", golf(160), 65536 + 8000),
+                    "toon.wav has a different sampling frequency (73536)\nthan the encoder (8000)");
+}
+
+TEST_F(EncoderFouten, FileWithoutSamplesAtAnotherFrequencyDoesNotFit) {
+  verwachtGeweigerd(Instelling(), wav("toon.wav", {}, 16000),
+                    "toon.wav has a different sampling frequency (16000)\nthan the encoder (8000)");
+}
+
+TEST_F(EncoderFouten, MissingFileHasFrequencyZero) {
+  verwachtGeweigerd(Instelling(), map.pad("nowhere.wav"),
+                    "nowhere.wav has a different sampling frequency (0)\nthan the encoder (8000)");
+}
+
+TEST_F(EncoderFouten, UnreadableFilesHaveFrequencyZero) {
+  std::string const zin = ".wav has a different sampling frequency (0)\nthan the encoder (8000)";
+  maakBestand(map.pad("empty.wav"), "");
+  verwachtGeweigerd(Instelling(), map.pad("empty.wav"), "empty" + zin);
+  maakBestand(map.pad("text.wav"), "no sound\n");
+  verwachtGeweigerd(Instelling(), map.pad("text.wav"), "text" + zin);
+  std::filesystem::create_directory(map.pad("folder.wav"));
+  verwachtGeweigerd(Instelling(), map.pad("folder.wav"), "folder" + zin);
+}
+
+TEST_F(EncoderFouten, NameThatTheLocaleCannotWriteHasFrequencyZero) {
+  std::string const pad = wav("h\xC3\xA9.wav", golf(160));
+  TijdelijkeLocale const kaal(LC_ALL, "C");
+  ASSERT_TRUE(kaal.isGelukt());
+  verwachtGeweigerd(
+      Instelling(), pad,
+      "h\xC3\xA9.wav has a different sampling frequency (0)\nthan the encoder (8000)");
+}
+
+TEST_F(EncoderFouten, NameWithPercentSignsIsLoggedWhole) {
+  std::string const zin = " has a different sampling frequency (16000)\nthan the encoder (8000)";
+  for (std::string const naam : {"%s%n.wav", "100%.wav", "a%d %5x %", "%*d%ls.wav"}) {
+    verwachtGeweigerd(Instelling(), wav(naam, golf(160), 16000), naam + zin);
+  }
+}
+
+TEST_F(EncoderFouten, TwoPercentSignsInANameShowAsOneInTheLog) {
+  verwachtGeweigerd(Instelling(), wav("a%%b.wav", golf(160), 16000),
+                    "a%b.wav has a different sampling frequency (16000)\nthan the encoder (8000)");
+}
+
+TEST_F(EncoderFouten, LanguageWithoutArrayIsNotLogged) {
+  SpeexEncoderOpties opties;
+  opties.taal = 2;
+  SpeexDesktopEncoder encoder(Instelling().config(), opties);
+  EXPECT_EQ(codeer(encoder, wav("toon.wav", golf(160))).resultaat, 2);
+  EXPECT_TRUE(neemLog().empty());
+}
+
+TEST_F(EncoderFouten, FrequencyGoesBeforeTheLanguage) {
+  SpeexEncoderOpties opties;
+  opties.taal = 7;
+  SpeexDesktopEncoder encoder(Instelling().config(), opties);
+  Codering const uitslag = codeer(encoder, wav("toon.wav", golf(160), 16000));
+  EXPECT_EQ(uitslag.resultaat, 2);
+  EXPECT_EQ(uitslag.tekst, "");
+  EXPECT_EQ(neemLog().size(), 1U);
+}
+
+TEST_F(EncoderFouten, SuccessIsNotLogged) {
+  EXPECT_EQ(codeer(Instelling(), wav("toon.wav", golf(160))).resultaat, 0);
+  EXPECT_TRUE(neemLog().empty());
+}
+
+TEST_F(EncoderFouten, TextOfTheFileBeforeStaysWhenTheNextDoesNotFit) {
+  SpeexDesktopEncoder encoder(Instelling().config(), SpeexEncoderOpties());
+  wxMemoryOutputStream uit;
+  Percentage verhouding;
+  wxFileName const goed = bestandsnaam(wav("toon.wav", golf(160)));
+  ASSERT_EQ(encoder.encode(goed, uit, true, verhouding), 0);
+  std::string const eerst = tekstVan(uit);
+  wxFileName const slecht = bestandsnaam(wav("high.wav", golf(160), 16000));
+  EXPECT_EQ(encoder.encode(slecht, uit, true, verhouding), 2);
+  EXPECT_TRUE(zelfdeTekst(tekstVan(uit), eerst));
+  EXPECT_EQ(verhouding.geefWaarde(), 24.0);
+}
+
+TEST_F(EncoderFouten, FileThatDoesNotFitLeavesTheStateAlone) {
+  SpeexDesktopEncoder encoder(Instelling().config(), SpeexEncoderOpties());
+  std::vector<int> const samples = spraak(480, 8000);
+  LosseEncoder los{Instelling()};
+  codeer(encoder, wav("een.wav", samples));
+  los.bestand(samples);
+  EXPECT_EQ(codeer(encoder, wav("high.wav", golf(640), 16000)).resultaat, 2);
+  EXPECT_EQ(framesIn(codeer(encoder, wav("twee.wav", golf(320))).tekst), los.bestand(golf(320)));
+}
+
+// The files that this process has open. The walk itself counts as one, each time.
+std::ptrdiff_t openBestanden() {
+  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
+                       std::filesystem::directory_iterator());
+}
+
+// A log that ends the encoding in its middle.
+class GooiendLog : public wxLog {
+ protected:
+  void DoLogRecord(wxLogLevel /*niveau*/, wxString const& /*tekst*/,
+                   wxLogRecordInfo const& /*info*/) override {
+    throw std::runtime_error("log");
+  }
+};
+
+TEST_F(EncoderFouten, FileIsClosedOnEveryWayOut) {
+  std::string const goed = wav("toon.wav", golf(400));
+  std::string const hoog = wav("high.wav", golf(400), 16000);
+  SpeexEncoderOpties python;
+  python.taal = 2;
+  SpeexDesktopEncoder encoder(Instelling().config(), SpeexEncoderOpties());
+  SpeexDesktopEncoder zonderArray(Instelling().config(), python);
+  std::ptrdiff_t const voor = openBestanden();
+  for (int keer = 0; keer < 3; ++keer) {
+    EXPECT_EQ(codeer(encoder, goed).resultaat, 0);
+    EXPECT_EQ(codeer(encoder, hoog).resultaat, 2);
+    EXPECT_EQ(codeer(encoder, map.pad("nowhere.wav")).resultaat, 2);
+    EXPECT_EQ(codeer(zonderArray, goed).resultaat, 2);
+  }
+  EXPECT_EQ(openBestanden(), voor);
+}
+
+TEST_F(EncoderFouten, FileIsClosedWhenAnExceptionPasses) {
+  std::string const hoog = wav("high.wav", golf(400), 16000);
+  std::ptrdiff_t const voor = openBestanden();
+  GooiendLog log;
+  wxLog* const vorige = wxLog::SetActiveTarget(&log);
+  EXPECT_THROW(codeer(Instelling(), hoog), std::runtime_error);
+  wxLog::SetActiveTarget(vorige);
+  EXPECT_EQ(openBestanden(), voor);
+}
+
+}  // namespace

@@ -1,0 +1,261 @@
+// The frames in the text against those of a loop over the Speex library: every band, bit rate kind,
+// quality and DAC width, the last block of a file, the scaling, and the state that runs on.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <tuple>
+
+#include "tests/audio/codec/codecHulp.h"
+#include "tests/externals/software/extern/speex/encoderTekstHulp.h"
+
+namespace {
+
+class EncoderFrames : public EncoderProef {
+ protected:
+  Frames gevonden(Instelling const& instelling, std::vector<int> const& samples) {
+    return framesIn(codeer(instelling, wav("toon.wav", samples, instelling.rate())).tekst);
+  }
+};
+
+// Band, kind of bit rate, voice activity detection.
+class EncoderMatrix : public EncoderFrames,
+                      public testing::WithParamInterface<std::tuple<int, int, bool>> {
+ protected:
+  Instelling basis() const {
+    Instelling instelling;
+    std::tie(instelling.band, instelling.soort, instelling.vad) = GetParam();
+    return instelling;
+  }
+};
+
+TEST_P(EncoderMatrix, EveryQualityAndDacWidthGivesTheFramesOfTheLibrary) {
+  Instelling instelling = basis();
+  std::vector<int> const samples = spraak(5 * instelling.frame() + 37, instelling.rate());
+  for (unsigned int const kwaliteit : {0U, 4U, 8U, 10U}) {
+    for (unsigned int const gainBits : {8U, 6U, 4U, 0U}) {
+      instelling.kwaliteit = kwaliteit;
+      instelling.gainBits = gainBits;
+      Frames const verwacht = LosseEncoder(instelling).bestand(samples);
+      ASSERT_EQ(verwacht.size(), 6U);
+      EXPECT_EQ(gevonden(instelling, samples), verwacht)
+          << "quality " << kwaliteit << ", gain bits " << gainBits;
+    }
+  }
+}
+
+TEST_P(EncoderMatrix, ASecondOfSpeechWithPausesGivesTheFramesOfTheLibrary) {
+  Instelling instelling = basis();
+  instelling.complexiteit = 2;
+  std::vector<int> const samples =
+      spraak(static_cast<std::size_t>(instelling.rate()), instelling.rate());
+  Frames const verwacht = LosseEncoder(instelling).bestand(samples);
+  ASSERT_EQ(verwacht.size(), 50U);
+  EXPECT_EQ(gevonden(instelling, samples), verwacht);
+}
+
+TEST_P(EncoderMatrix, StateRunsOnIntoTheNextFile) {
+  Instelling const instelling = basis();
+  std::vector<int> const eerste = spraak(4 * instelling.frame(), instelling.rate());
+  std::vector<int> const tweede = golf(3 * instelling.frame() + 1);
+  SpeexDesktopEncoder encoder(instelling.config(), SpeexEncoderOpties());
+  LosseEncoder los(instelling);
+  EXPECT_EQ(framesIn(codeer(encoder, wav("een.wav", eerste, instelling.rate())).tekst),
+            los.bestand(eerste));
+  Frames const gevolgd =
+      framesIn(codeer(encoder, wav("twee.wav", tweede, instelling.rate())).tekst);
+  EXPECT_EQ(gevolgd, los.bestand(tweede));
+  EXPECT_NE(gevolgd, LosseEncoder(instelling).bestand(tweede));
+}
+
+INSTANTIATE_TEST_SUITE_P(Alle, EncoderMatrix,
+                         testing::Combine(testing::Values(0, 1, 2), testing::Values(0, 1, 2),
+                                          testing::Bool()));
+
+TEST_F(EncoderFrames, ComplexityReachesTheLibrary) {
+  Instelling instelling;
+  std::vector<int> const samples = spraak(1600, 8000);
+  instelling.complexiteit = 1;
+  Frames const eenvoudig = gevonden(instelling, samples);
+  EXPECT_EQ(eenvoudig, LosseEncoder(instelling).bestand(samples));
+  instelling.complexiteit = 10;
+  Frames const grondig = gevonden(instelling, samples);
+  EXPECT_EQ(grondig, LosseEncoder(instelling).bestand(samples));
+  EXPECT_NE(eenvoudig, grondig);
+}
+
+TEST_F(EncoderFrames, MaxBitrateCountsForTheVariableBitrateAlone) {
+  for (int const soort : {0, 1, 2}) {
+    Instelling laag;
+    laag.soort = soort;
+    laag.maxBitrate = 3000;
+    Instelling hoog = laag;
+    hoog.maxBitrate = 4294967295U;
+    std::vector<int> const samples = spraak(8000, 8000);
+    EXPECT_EQ(gevonden(laag, samples), LosseEncoder(laag).bestand(samples)) << soort;
+    EXPECT_EQ(gevonden(hoog, samples), LosseEncoder(hoog).bestand(samples)) << soort;
+    EXPECT_EQ(gevonden(laag, samples) != gevonden(hoog, samples), soort == 1) << soort;
+  }
+}
+
+TEST_F(EncoderFrames, VariableBitrateDoesNotFollowTheQuality) {
+  Instelling laag;
+  laag.soort = 1;
+  laag.kwaliteit = 1;
+  Instelling hoog = laag;
+  hoog.kwaliteit = 10;
+  std::vector<int> const samples = spraak(1600, 8000);
+  EXPECT_EQ(gevonden(laag, samples), gevonden(hoog, samples));
+}
+
+TEST_F(EncoderFrames, VoiceActivityDetectionMakesFramesOfSilenceSmaller) {
+  Instelling zonder;
+  Instelling met;
+  met.vad = true;
+  std::vector<int> const stilte(8000, 0);
+  // 15 kbit/s are 300 bits in 20 ms.
+  EXPECT_EQ(gevonden(zonder, stilte).back().size(), 38U);
+  EXPECT_LT(gevonden(met, stilte).back().size(), 38U);
+}
+
+TEST_F(EncoderFrames, DenoiseAndAgcChangeNoFrame) {
+  Instelling kaal;
+  std::vector<int> const samples = spraak(1600, 8000);
+  Frames const verwacht = LosseEncoder(kaal).bestand(samples);
+  Instelling bewerkt = kaal;
+  bewerkt.denoise = true;
+  bewerkt.agc = true;
+  EXPECT_EQ(gevonden(bewerkt, samples), verwacht);
+}
+
+TEST_F(EncoderFrames, UnknownBitrateKindEncodesAtTheFixedBitrate) {
+  Instelling vreemd;
+  vreemd.soort = 7;
+  std::vector<int> const samples = spraak(800, 8000);
+  EXPECT_EQ(gevonden(vreemd, samples), LosseEncoder(Instelling()).bestand(samples));
+}
+
+TEST_F(EncoderFrames, ExactlyOneFrameOfSamplesGivesOneFrame) {
+  for (int const band : {0, 1, 2}) {
+    Instelling instelling;
+    instelling.band = band;
+    std::vector<int> const samples = golf(instelling.frame());
+    Frames const verwacht{LosseEncoder(instelling).encode(samples)};
+    EXPECT_EQ(gevonden(instelling, samples), verwacht) << band;
+  }
+}
+
+TEST_F(EncoderFrames, OneSampleMoreGivesASecondFrameThatEndsInSamplesOfTheFirst) {
+  for (int const band : {0, 1, 2}) {
+    Instelling instelling;
+    instelling.band = band;
+    std::size_t const n = instelling.frame();
+    std::vector<int> const samples = golf(n + 1);
+    std::vector<int> const eerste(samples.begin(), samples.end() - 1);
+    std::vector<int> tweede = eerste;
+    tweede.front() = samples.back();
+    std::vector<int> stil(n, 0);
+    stil.front() = samples.back();
+
+    LosseEncoder los(instelling);
+    Frames const verwacht{los.encode(eerste), los.encode(tweede)};
+    LosseEncoder metStilte(instelling);
+    Frames const anders{metStilte.encode(eerste), metStilte.encode(stil)};
+    ASSERT_NE(verwacht, anders);
+    EXPECT_EQ(gevonden(instelling, samples), verwacht) << band;
+  }
+}
+
+TEST_F(EncoderFrames, OldSamplesInTheLastBlockAreScaledOnceOnly) {
+  Instelling instelling;
+  instelling.gainBits = 4;
+  std::vector<int> const samples = golf(161);
+  auto const gedeeldDoor16 = [](int sample) { return geschaald(sample, 4); };
+  std::vector<int> eerste(160);
+  std::transform(samples.begin(), samples.end() - 1, eerste.begin(), gedeeldDoor16);
+  std::vector<int> tweede = eerste;
+  tweede.front() = geschaald(samples.back(), 4);
+  LosseEncoder los(Instelling{});
+  Frames const verwacht{los.encode(eerste), los.encode(tweede)};
+  EXPECT_EQ(gevonden(instelling, samples), verwacht);
+}
+
+TEST_F(EncoderFrames, FileShorterThanAFrameEndsInSilence) {
+  for (std::size_t const lengte : {1U, 100U, 159U}) {
+    std::vector<int> samples = golf(lengte);
+    Frames const gevondenFrames = gevonden(Instelling(), samples);
+    samples.resize(160, 0);
+    Frames const verwacht{LosseEncoder(Instelling()).encode(samples)};
+    EXPECT_EQ(gevondenFrames, verwacht) << lengte;
+  }
+}
+
+TEST_F(EncoderFrames, SecondShortFileEndsInSilenceToo) {
+  Instelling const instelling;
+  std::vector<int> const lang = golf(320);
+  std::vector<int> kort{20000, -20000, 12345};
+  SpeexDesktopEncoder encoder(instelling.config(), SpeexEncoderOpties());
+  codeer(encoder, wav("lang.wav", lang, instelling.rate()));
+  Frames const gevolgd = framesIn(codeer(encoder, wav("kort.wav", kort, instelling.rate())).tekst);
+  LosseEncoder los(instelling);
+  los.bestand(lang);
+  kort.resize(160, 0);
+  Frames const verwacht{los.encode(kort)};
+  EXPECT_EQ(gevolgd, verwacht);
+}
+
+TEST_F(EncoderFrames, FrameNumbersStartAgainInEachFile) {
+  Instelling const instelling;
+  SpeexDesktopEncoder encoder(instelling.config(), SpeexEncoderOpties());
+  std::string const pad = wav("toon.wav", golf(320), instelling.rate());
+  for (int keer = 0; keer < 2; ++keer) {
+    std::string const tekst = codeer(encoder, pad).tekst;
+    EXPECT_NE(tekst.find("/* Encoded Frame [0] Size */"), std::string::npos);
+    EXPECT_NE(tekst.find("/* Encoded Frame [1] Size */"), std::string::npos);
+    EXPECT_EQ(tekst.find("/* Encoded Frame [2] Size */"), std::string::npos);
+  }
+}
+
+// A sample, its scaled value, and the one that other arithmetic would give: division toward zero,
+// rounding, or a shift without the sign.
+struct Schaal {
+  int sample;
+  unsigned int gainBits;
+  int geschaald;
+  int anders;
+};
+
+// The frame of a block that holds one value.
+Frames frameVan(int waarde) {
+  return {LosseEncoder(Instelling{}).encode(std::vector<int>(160, waarde))};
+}
+
+TEST_F(EncoderFrames, SamplesAreDividedTowardMinusInfinity) {
+  for (Schaal const& geval : {Schaal{-1, 8, -1, 0},
+                              {255, 8, 0, 1},
+                              {256, 8, 1, 0},
+                              {-256, 8, -1, -2},
+                              {-257, 8, -2, -1},
+                              {-32768, 8, -128, 128},
+                              {-1, 6, -1, 0},
+                              {63, 6, 0, 1},
+                              {64, 6, 1, 0},
+                              {-32768, 6, -512, 512},
+                              {-1, 4, -1, 0},
+                              {15, 4, 0, 1},
+                              {16, 4, 1, 0},
+                              {-32768, 4, -2048, 2048},
+                              {-1, 0, -1, 65535},
+                              {-32768, 0, -32768, 32767},
+                              {32767, 0, 32767, 0}}) {
+    Instelling instelling;
+    instelling.gainBits = geval.gainBits;
+    Frames const verwacht = frameVan(geval.geschaald);
+    EXPECT_EQ(gevonden(instelling, std::vector<int>(160, geval.sample)), verwacht)
+        << geval.sample << " with " << geval.gainBits;
+    // Or the frames would not tell the two apart.
+    EXPECT_NE(frameVan(geval.anders), verwacht) << geval.sample << " with " << geval.gainBits;
+  }
+}
+
+}  // namespace

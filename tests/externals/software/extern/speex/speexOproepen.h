@@ -1,0 +1,34 @@
+// A record of what our objects ask of the Speex libraries. The linker leads their calls through it
+// (see CMakeLists.txt), and from there to the library; the library's own calls do not pass it.
+#pragma once
+
+#include <string>
+#include <vector>
+
+struct Oproep {
+  // The function, and behind it the number of a request and its value as it is at the call, or the
+  // other arguments that are numbers. The value is left out for requests that only ask.
+  std::string tekst;
+  // What the function worked on: a state of the library, or bits.
+  void const* toestand = nullptr;
+  // The address that the function got for a value or for data.
+  void const* adres = nullptr;
+};
+
+// What was asked since the last call, in order; the call empties the record.
+std::vector<Oproep> neemOproepen();
+std::vector<std::string> teksten(std::vector<Oproep> const& oproepen);
+// Those of which the text begins like this.
+std::vector<Oproep> metBegin(std::vector<Oproep> const& oproepen, std::string const& begin);
+
+// While it lives, every control call answers that it failed, and every frame size is said to be
+// 9999.
+class LiegendeBibliotheek {
+ public:
+  LiegendeBibliotheek();
+  ~LiegendeBibliotheek();
+  LiegendeBibliotheek(LiegendeBibliotheek const&) = delete;
+  LiegendeBibliotheek& operator=(LiegendeBibliotheek const&) = delete;
+  LiegendeBibliotheek(LiegendeBibliotheek&&) = delete;
+  LiegendeBibliotheek& operator=(LiegendeBibliotheek&&) = delete;
+};

@@ -1,0 +1,74 @@
+// What a whole run of encoding, and of decoding, asks of the Speex libraries.
+#include <gtest/gtest.h>
+#include <wx/filename.h>
+#include <wx/mstream.h>
+
+#include <algorithm>
+
+#include "externals/software/extern/speex/speexDesktop.h"
+#include "numeriek/percentage.h"
+#include "tests/externals/software/extern/speex/speexOproepen.h"
+#include "tests/steun/tijdelijkeMap.h"
+#include "tests/steun/wavMaker.h"
+
+namespace {
+
+using Regels = std::vector<std::string>;
+
+// The calls of a whole run that are none of encoding or decoding one frame.
+Regels buitenDeFrames(std::vector<Oproep> const& oproepen) {
+  Regels regels = teksten(oproepen);
+  Regels const frameRegels{"speex_encode", "speex_encode_int", "speex_decode", "speex_decode_int"};
+  regels.erase(std::remove_if(regels.begin(), regels.end(),
+                              [&](std::string const& regel) {
+                                return regel.rfind("speex_bits_read_from ", 0) == 0 ||
+                                       std::count(frameRegels.begin(), frameRegels.end(), regel);
+                              }),
+               regels.end());
+  return regels;
+}
+
+class SpeexRun : public testing::TestWithParam<int> {
+ protected:
+  SpeexRun() {
+    WavSoort wav;
+    wav.rate = 8000 << GetParam();
+    maakWav(map.pad("a.wav"), proefSamples(3200), wav);
+    maakWav(map.pad("b.wav"), proefSamples(1920), wav);
+  }
+
+  TijdelijkeMap map;
+};
+
+INSTANTIATE_TEST_SUITE_P(Banden, SpeexRun, testing::Values(0, 1, 2));
+
+TEST_P(SpeexRun, NeitherPreprocessesNorResetsNorSetsUpAgain) {
+  auto const band = static_cast<SpeexBandFormaat>(GetParam());
+  SpeexDesktopEncoder encoder({band, 7, 3, SpeexVariableBitrate, 12345, 8, true, true, true},
+                              SpeexEncoderOpties());
+  wxMemoryOutputStream tekst;
+  neemOproepen();
+  for (char const* naam : {"a.wav", "b.wav"}) {
+    Percentage verhouding;
+    EXPECT_EQ(encoder.encode(wxFileName(map.pad(naam)), tekst, true, verhouding), 0);
+  }
+  std::vector<Oproep> const coderen = neemOproepen();
+  EXPECT_EQ(buitenDeFrames(coderen), Regels{});
+  // 5120 samples in frames of 160, 320 or 640.
+  EXPECT_EQ(metBegin(coderen, "speex_encode").size(), 32U >> static_cast<unsigned>(GetParam()));
+
+  std::string inhoud(tekst.GetSize(), '\0');
+  tekst.CopyTo(inhoud.data(), inhoud.size());
+  maakBestand(map.pad("tekst.c"), inhoud);
+  SpeexDesktopDecoder decoder(band, nullptr);
+  neemOproepen();
+  unsigned long long fragmenten = 0;
+  decoder.decode(wxFileName(map.pad("tekst.c")), wxFileName(map.pad("uit.wav")), fragmenten,
+                 0x10002);
+  std::vector<Oproep> const decoderen = neemOproepen();
+  EXPECT_EQ(buitenDeFrames(decoderen), Regels{});
+  // The widest band's header is one that cannot be read back.
+  EXPECT_EQ(metBegin(decoderen, "speex_decode").empty(), band == SpeexUltraWideband);
+}
+
+}  // namespace
