@@ -31,6 +31,10 @@ class VensterProef : public ::testing::Test {
  protected:
   VensterProef();
   ~VensterProef() override;
+  VensterProef(VensterProef const&) = delete;
+  VensterProef& operator=(VensterProef const&) = delete;
+  VensterProef(VensterProef&&) = delete;
+  VensterProef& operator=(VensterProef&&) = delete;
 
   // Starts the application, with `configuratie` as the text of its configuration file where it is
   // not empty.

@@ -19,33 +19,11 @@
 namespace {
 
 constexpr int complexiteit = 2;
-constexpr std::size_t maxFrame = 200;
 
 std::string hexadecimaal(unsigned long long waarde) {
   std::array<char, 24> tekst{};
   EXPECT_GT(std::snprintf(tekst.data(), tekst.size(), "0x%llx", waarde), 0);
   return tekst.data();
-}
-
-// The bits of a frame, for the time that libspeex is asked for something.
-class Bits {
- public:
-  Bits() { speex_bits_init(&bits); }
-  ~Bits() { speex_bits_destroy(&bits); }
-  Bits(Bits const&) = delete;
-  Bits& operator=(Bits const&) = delete;
-  Bits(Bits&&) = delete;
-  Bits& operator=(Bits&&) = delete;
-
-  SpeexBits* operator*() { return &bits; }
-
- private:
-  SpeexBits bits{};
-};
-
-SpeexMode const* modus(SpeexBandFormaat band) {
-  return std::array{&speex_nb_mode, &speex_wb_mode, &speex_uwb_mode}.at(
-      static_cast<std::size_t>(band));
 }
 
 wxFileName naam(std::string const& pad) {
@@ -83,41 +61,20 @@ Samples ruis(std::size_t aantal) {
 }
 
 Frames codeer(SpeexBandFormaat band, Samples const& samples, int kwaliteit) {
-  std::unique_ptr<void, void (*)(void*)> const toestand(speex_encoder_init(modus(band)),
-                                                        speex_encoder_destroy);
-  int moeite = complexiteit;
-  speex_encoder_ctl(toestand.get(), SPEEX_SET_QUALITY, &kwaliteit);
-  speex_encoder_ctl(toestand.get(), SPEEX_SET_COMPLEXITY, &moeite);
-  Bits bits;
-  Frames frames;
-  std::size_t const blok = blokVan(band);
-  for (std::size_t begin = 0; begin + blok <= samples.size(); begin += blok) {
-    auto const van = samples.begin() + static_cast<std::ptrdiff_t>(begin);
-    std::vector<float> deel(van, van + static_cast<std::ptrdiff_t>(blok));
-    speex_bits_reset(*bits);
-    speex_encode(toestand.get(), deel.data(), *bits);
-    std::array<char, maxFrame> bytes{};
-    int const aantal = speex_bits_write(*bits, bytes.data(), static_cast<int>(maxFrame));
-    frames.emplace_back(bytes.begin(), bytes.begin() + aantal);
-  }
-  return frames;
+  DirecteEncoder encoder(band);
+  encoder.regel(SPEEX_SET_QUALITY, spx_int32_t{kwaliteit});
+  encoder.regel(SPEEX_SET_COMPLEXITY, spx_int32_t{complexiteit});
+  return encoder.codeer(samples);
 }
 
 Frames maakFrames(SpeexBandFormaat band, std::size_t aantal, int kwaliteit) {
   return codeer(band, ruis(aantal * blokVan(band)), kwaliteit);
 }
 
-Luisteraar::Luisteraar(SpeexBandFormaat band)
-    : toestand(speex_decoder_init(modus(band))), blok(blokVan(band)) {
-  int aan = 1;
-  speex_decoder_ctl(toestand.get(), SPEEX_SET_ENH, &aan);
-}
+Luisteraar::Luisteraar(SpeexBandFormaat band) : decoder(band), blok(blokVan(band)) {}
 
 void Luisteraar::hoor(Bytes const& frame) {
-  std::vector<char> bytes(frame.begin(), frame.end());
-  Bits bits;
-  speex_bits_read_from(*bits, bytes.data(), static_cast<int>(bytes.size()));
-  speex_decode_int(toestand.get(), *bits, blok.data());
+  decoder.decodeer(frame, blok);
   herhaal(1);
 }
 

@@ -5,14 +5,13 @@
 
 #include <gtest/gtest.h>
 #include <sndfile.h>
-#include <speex/speex.h>
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "externals/software/extern/speex/speexFormaten.h"
+#include "tests/externals/software/extern/speex/speexRechtstreeks.h"
 #include "tests/steun/bytes.h"
 #include "tests/steun/logboek.h"
 
@@ -45,11 +44,7 @@ class Luisteraar {
   Samples samples;
 
  private:
-  struct Einde {
-    void operator()(void* decoder) const { speex_decoder_destroy(decoder); }
-  };
-
-  std::unique_ptr<void, Einde> toestand;
+  DirecteDecoder decoder;
   Samples blok;
 };
 

@@ -216,4 +216,35 @@ TEST(SpeexAudioPakket, HeaderFieldsStayWhereverTheCursorIs) {
   EXPECT_EQ(pakket.geefData(), geheugen.array() + 4);
 }
 
+// What firmware that derives from the view sees beside its operations.
+class OpenPakket : public SpeexAudioPakket {
+ public:
+  using SpeexAudioPakket::SpeexAudioPakket;
+
+  Breuk geefFrequentie() const { return sampFreq; }
+};
+
+TEST(SpeexAudioPakket, FrequencyOfTheFieldHasItsHighByteAtBit16) {
+  // 0x1f x 65536 + 0x40, where the header says 8000.
+  Geheugen const geheugen = metVelden(0x40, 0x1f, 7, 0);
+  OpenPakket const pakket(geheugen.array());
+  EXPECT_EQ(pakket.geefFrequentie().teller(), 2031680);
+  EXPECT_EQ(pakket.geefFrequentie().noemer(), 1);
+}
+
+TEST(SpeexAudioPakket, FrequencyOfTheFieldTakesItsBytesWithTheirSign) {
+  // 0x7d x 65536 + 0xff80.
+  Geheugen const laagNegatief = metVelden(0x80, 0x7d, 7, 0);
+  EXPECT_EQ(OpenPakket(laagNegatief.array()).geefFrequentie().teller(), 8257408);
+  // 0xff80 x 65536 + 0x40, an unsigned word.
+  Geheugen const hoogNegatief = metVelden(0x40, 0x80, 7, 0);
+  EXPECT_EQ(OpenPakket(hoogNegatief.array()).geefFrequentie().teller(), 4286578752);
+}
+
+TEST(SpeexAudioPakket, FrequencyOfTheFieldIs0Over1OverNothing) {
+  OpenPakket const pakket;
+  EXPECT_EQ(pakket.geefFrequentie().teller(), 0);
+  EXPECT_EQ(pakket.geefFrequentie().noemer(), 1);
+}
+
 }  // namespace

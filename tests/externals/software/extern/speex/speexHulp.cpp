@@ -17,33 +17,12 @@
 
 namespace {
 
-// One frame's bits.
-struct FrameBits {
-  FrameBits() { speex_bits_init(&bits); }
-  ~FrameBits() { speex_bits_destroy(&bits); }
-  FrameBits(FrameBits const&) = delete;
-  FrameBits& operator=(FrameBits const&) = delete;
-  FrameBits(FrameBits&&) = delete;
-  FrameBits& operator=(FrameBits&&) = delete;
-
-  SpeexBits bits{};
-};
-
-struct DecoderEinde {
-  void operator()(void* toestand) const { speex_decoder_destroy(toestand); }
-};
-
 // The one request that takes a float gets the bits of the integer.
 float bitsAlsFloat(unsigned int waarde) {
   float uit = 0;
   static_assert(sizeof uit == sizeof waarde);
   std::memcpy(&uit, &waarde, sizeof uit);
   return uit;
-}
-
-void zet(void* toestand, int verzoek, unsigned int waarde) {
-  auto getal = static_cast<spx_int32_t>(waarde);
-  speex_encoder_ctl(toestand, verzoek, &getal);
 }
 
 // The text without what stands between each `begin` and the next `einde`, both included.
@@ -117,30 +96,25 @@ std::vector<std::vector<int>> blokkenVan(std::vector<int> const& items, std::siz
   return blokken;
 }
 
-LosseEncoder::LosseEncoder(Instelling const& keuze)
-    : instelling(keuze),
-      toestand(speex_encoder_init(std::array<SpeexMode const*, 3>{
-          &speex_nb_mode, &speex_wb_mode, &speex_uwb_mode}[static_cast<std::size_t>(keuze.band)])) {
-  zet(toestand.get(), SPEEX_SET_QUALITY, keuze.kwaliteit);
-  zet(toestand.get(), SPEEX_SET_COMPLEXITY, keuze.complexiteit);
-  zet(toestand.get(), SPEEX_SET_VAD, keuze.vad ? 1 : 0);
+LosseEncoder::LosseEncoder(Instelling const& keuze) : instelling(keuze), encoder(keuze.band) {
+  zet(SPEEX_SET_QUALITY, keuze.kwaliteit);
+  zet(SPEEX_SET_COMPLEXITY, keuze.complexiteit);
+  zet(SPEEX_SET_VAD, keuze.vad ? 1 : 0);
   if (keuze.soort == 1) {
-    zet(toestand.get(), SPEEX_SET_VBR, 1);
-    float kwaliteit = bitsAlsFloat(keuze.kwaliteit);
-    speex_encoder_ctl(toestand.get(), SPEEX_SET_VBR_QUALITY, &kwaliteit);
-    zet(toestand.get(), SPEEX_SET_VBR_MAX_BITRATE, keuze.maxBitrate);
+    zet(SPEEX_SET_VBR, 1);
+    encoder.regel(SPEEX_SET_VBR_QUALITY, bitsAlsFloat(keuze.kwaliteit));
+    zet(SPEEX_SET_VBR_MAX_BITRATE, keuze.maxBitrate);
   } else if (keuze.soort == 2) {
-    zet(toestand.get(), SPEEX_SET_ABR, 1);
+    zet(SPEEX_SET_ABR, 1);
   }
 }
 
+void LosseEncoder::zet(int verzoek, unsigned int waarde) {
+  encoder.regel(verzoek, static_cast<spx_int32_t>(waarde));
+}
+
 Bytes LosseEncoder::encode(std::vector<int> const& samples) {
-  FrameBits frame;
-  std::vector<float> blok(samples.begin(), samples.end());
-  speex_encode(toestand.get(), blok.data(), &frame.bits);
-  std::array<char, 1000> bytes{};
-  int const aantal = speex_bits_write(&frame.bits, bytes.data(), static_cast<int>(bytes.size()));
-  return {bytes.begin(), bytes.begin() + aantal};
+  return encoder.codeerBlok({samples.begin(), samples.end()});
 }
 
 Frames LosseEncoder::bestand(std::vector<int> const& samples) {
@@ -158,18 +132,11 @@ Frames LosseEncoder::bestand(std::vector<int> const& items, std::size_t wavFrame
 }
 
 std::vector<int> decodeer(Frames const& frames, int band) {
-  std::unique_ptr<void, DecoderEinde> const toestand(
-      speex_decoder_init(std::array<SpeexMode const*, 3>{
-          &speex_nb_mode, &speex_wb_mode, &speex_uwb_mode}[static_cast<std::size_t>(band)]));
-  spx_int32_t aan = 1;
-  speex_decoder_ctl(toestand.get(), SPEEX_SET_ENH, &aan);
+  DirecteDecoder decoder(band);
   std::vector<int> samples;
+  std::vector<short> blok(bandFrames[static_cast<std::size_t>(band)]);
   for (Bytes const& frame : frames) {
-    FrameBits invoer;
-    std::vector<char> const bytes(frame.begin(), frame.end());
-    speex_bits_read_from(&invoer.bits, bytes.data(), static_cast<int>(bytes.size()));
-    std::vector<short> blok(bandFrames[static_cast<std::size_t>(band)]);
-    EXPECT_EQ(speex_decode_int(toestand.get(), &invoer.bits, blok.data()), 0);
+    EXPECT_EQ(decoder.decodeer(frame, blok), 0);
     samples.insert(samples.end(), blok.begin(), blok.end());
   }
   return samples;

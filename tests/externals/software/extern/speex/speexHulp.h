@@ -2,14 +2,12 @@
 // their own, and a reader of the bytes that a generated text defines.
 #pragma once
 
-#include <speex/speex.h>
-
 #include <array>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "externals/software/extern/speex/speexDesktopEncoder.h"
+#include "tests/externals/software/extern/speex/speexRechtstreeks.h"
 #include "tests/steun/bytes.h"
 
 using Frames = std::vector<Bytes>;
@@ -52,12 +50,10 @@ class LosseEncoder {
   Frames bestand(std::vector<int> const& items, std::size_t wavFrames);
 
  private:
-  struct Einde {
-    void operator()(void* encoder) const { speex_encoder_destroy(encoder); }
-  };
+  void zet(int verzoek, unsigned int waarde);
 
   Instelling instelling;
-  std::unique_ptr<void, Einde> toestand;
+  DirecteEncoder encoder;
 };
 
 // What the Speex library decodes from these frames, with its enhancement on.

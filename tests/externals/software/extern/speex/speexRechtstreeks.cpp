@@ -14,14 +14,20 @@ std::size_t frameSizeVan(void* toestand, Regelaar regelaar) {
   return static_cast<std::size_t>(samples);
 }
 
-Bytes codeerFrame(void* encoder, SpeexBits& bits, std::vector<spx_int16_t> samples) {
+Bytes codeerFrame(void* encoder, SpeexBits& bits, std::vector<float> samples) {
   Bytes frame(400);
   speex_bits_reset(&bits);
-  speex_encode_int(encoder, samples.data(), &bits);
+  speex_encode(encoder, samples.data(), &bits);
   int const grootte = speex_bits_write(&bits, reinterpret_cast<char*>(frame.data()),
                                        static_cast<int>(frame.size()));
   frame.resize(static_cast<std::size_t>(grootte));
   return frame;
+}
+
+int decodeerIn(void* decoder, SpeexBits& bits, Bytes const& frame, std::vector<short>& blok) {
+  std::vector<char> const bron(frame.begin(), frame.end());
+  speex_bits_read_from(&bits, bron.data(), static_cast<int>(bron.size()));
+  return speex_decode_int(decoder, &bits, blok.data());
 }
 
 }  // namespace
@@ -41,6 +47,11 @@ std::vector<Bytes> DirecteEncoder::codeer(std::vector<std::int16_t> const& sampl
   return codeerFrames(toestand.get(), bits.geef(), samples);
 }
 
+Bytes DirecteEncoder::codeerBlok(std::vector<float> const& samples) {
+  DirecteBits bits;
+  return codeerFrame(toestand.get(), bits.geef(), samples);
+}
+
 DirecteDecoder::DirecteDecoder(int band, bool verbetering)
     : toestand(speex_decoder_init(directeModus(band))) {
   spx_int32_t aan = verbetering ? 1 : 0;
@@ -50,6 +61,11 @@ DirecteDecoder::DirecteDecoder(int band, bool verbetering)
 std::vector<short> DirecteDecoder::decodeer(Bytes const& frame) {
   DirecteBits bits;
   return decodeerFrame(toestand.get(), bits.geef(), frame);
+}
+
+int DirecteDecoder::decodeer(Bytes const& frame, std::vector<short>& blok) {
+  DirecteBits bits;
+  return decodeerIn(toestand.get(), bits.geef(), frame, blok);
 }
 
 std::vector<Bytes> codeerFrames(void* encoder, SpeexBits& bits,
@@ -64,9 +80,7 @@ std::vector<Bytes> codeerFrames(void* encoder, SpeexBits& bits,
 
 std::vector<short> decodeerFrame(void* decoder, SpeexBits& bits, Bytes const& frame) {
   std::vector<short> samples(frameSizeVan(decoder, speex_decoder_ctl));
-  std::vector<char> const bron(frame.begin(), frame.end());
-  speex_bits_read_from(&bits, bron.data(), static_cast<int>(bron.size()));
-  speex_decode_int(decoder, &bits, samples.data());
+  decodeerIn(decoder, bits, frame, samples);
   return samples;
 }
 

@@ -38,7 +38,10 @@ class DirecteEncoder {
   void regel(int verzoek, Soort waarde) {
     speex_encoder_ctl(toestand.get(), verzoek, &waarde);
   }
+  // The whole frames in `samples`.
   std::vector<Bytes> codeer(std::vector<std::int16_t> const& samples);
+  // The one frame of these samples, which may lie beyond 16 bits.
+  Bytes codeerBlok(std::vector<float> const& samples);
 
  private:
   struct Einde {
@@ -53,6 +56,9 @@ class DirecteDecoder {
   explicit DirecteDecoder(int band, bool verbetering = true);
 
   std::vector<short> decodeer(Bytes const& frame);
+  // Into `blok`, which a frame that gives no samples leaves as it is. Returns what the library
+  // says.
+  int decodeer(Bytes const& frame, std::vector<short>& blok);
 
  private:
   struct Einde {
