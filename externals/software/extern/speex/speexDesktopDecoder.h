@@ -39,7 +39,8 @@ class SpeexDesktopDecoder : public SpeexDecoder {
   // Reads a two-byte field of the header, two hexadecimal numbers with the low byte first, by
   // putting the digits of the second before those of the first. Bytes below 16 have one digit in
   // the text, so that it reads right only where the low byte has two. At the end of the text it
-  // stops and leaves `waarde` as it was.
+  // stops and leaves `waarde` as it was. The stream needs a conversion that always gets on, as
+  // DoorlezendeConv does.
   static void leesHeader(wxTextInputStream& tekst, unsigned long& waarde);
   // Reads the next hexadecimal number, of which it returns the low 8 bits; 0 where there is none.
   static unsigned char leesHexWaarde(wxTextInputStream& tekst);
