@@ -28,13 +28,15 @@ class wxTextCtrl;
 class wxTreeCtrl;
 
 class VensterProef : public ::testing::Test {
- protected:
-  VensterProef();
-  ~VensterProef() override;
+ public:
   VensterProef(VensterProef const&) = delete;
   VensterProef& operator=(VensterProef const&) = delete;
   VensterProef(VensterProef&&) = delete;
   VensterProef& operator=(VensterProef&&) = delete;
+
+ protected:
+  VensterProef();
+  ~VensterProef() override;
 
   // Starts the application, with `configuratie` as the text of its configuration file where it is
   // not empty.
