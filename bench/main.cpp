@@ -5,6 +5,7 @@
 #include <wx/log.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <string>
 
 #include "bench/pcmTekst.h"
@@ -12,7 +13,7 @@
 
 int main() {
   wxInitializer const toolkit;
-  std::string map = "/tmp/kestrolinBenchXXXXXX";
+  std::string map = std::filesystem::temp_directory_path() / "kestrolinBenchXXXXXX";
   if (!toolkit.IsOk() || mkdtemp(map.data()) == nullptr) {
     return 1;
   }

@@ -170,8 +170,9 @@ class HoofdVenster : public wxFrame {
   wxFileName embedBestand;  // the last path saved as embedded WAV images
   wxFileName speexBestand;  // the last path saved as generated text
   PCMDesktopConverter pcmConverter;
-  // The encoder of the run that is on. That of a failed run stays, and is not ended by the next run
-  // either, which takes its place: it then waits among the others of its kind for the window's end.
+  // The encoder of the run that is on. A run ends its own encoder and never one that another run
+  // left: that of a failed run stays until the next run takes its place, and then waits for the
+  // window's end.
   std::unique_ptr<SpeexDesktopEncoder> speexEncoder;
   std::vector<std::unique_ptr<SpeexDesktopEncoder>> mislukteEncoders;
   wxMemoryOutputStream uitvoerStroom;  // the text of the last encoding

@@ -31,6 +31,7 @@ class SpeexDesktopDecoder : public SpeexDecoder {
   // fragments at 32000 Hz, whose header leesHeader cannot read. What was decoded before stays in
   // the file.
   //
+  // A text that ends between the two header fields has a fragment of 0 frames there.
   // Any text may be handed in. It ends by itself: past the end of the text no count is run on above
   // what two header bytes can tell, and a WAV file that is full ends the decoding.
   int decode(wxFileName const& invoer, wxFileName const& uitvoer,
