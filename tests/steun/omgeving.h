@@ -3,10 +3,12 @@
 #pragma once
 
 #include <clocale>
-#include <cstdlib>
 #include <ctime>
 #include <optional>
 #include <string>
+#include <utility>
+
+#include "tests/steun/omgevingsWaarde.h"
 
 class TijdelijkeLocale {
  public:
@@ -31,19 +33,9 @@ class TijdelijkeLocale {
 
 class TijdelijkeTijdzone {
  public:
-  explicit TijdelijkeTijdzone(char const* zone) {
-    if (char const* const oud = std::getenv("TZ")) {
-      vorige = oud;
-    }
-    setenv("TZ", zone, 1);
-    tzset();
-  }
+  explicit TijdelijkeTijdzone(char const* zone) : variabele(std::in_place, "TZ", zone) { tzset(); }
   ~TijdelijkeTijdzone() {
-    if (vorige) {
-      setenv("TZ", vorige->c_str(), 1);
-    } else {
-      unsetenv("TZ");
-    }
+    variabele.reset();
     tzset();
   }
   TijdelijkeTijdzone(TijdelijkeTijdzone const&) = delete;
@@ -52,5 +44,5 @@ class TijdelijkeTijdzone {
   TijdelijkeTijdzone& operator=(TijdelijkeTijdzone&&) = delete;
 
  private:
-  std::optional<std::string> vorige;
+  std::optional<OmgevingsWaarde> variabele;
 };

@@ -16,6 +16,7 @@
 #include <wx/weakref.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
@@ -61,12 +62,15 @@ Soort* zoekSoort(wxWindow* ouder, int id) {
 
 }  // namespace
 
+std::string VensterProef::procesPad(std::string const& naam) {
+  static TijdelijkeMap const proces;
+  return proces.pad(naam);
+}
+
 VensterProef::VensterProef() {
   wxSetAssertHandler(meldAssertie);
-  wxFileName::Mkdir(thuis());
-  wxFileName::Mkdir(pad("tmp"));
-  setenv("HOME", thuis().utf8_str(), 1);
-  setenv("TMPDIR", pad("tmp").utf8_str(), 1);
+  std::filesystem::create_directories(map.pad("tmp"));
+  std::filesystem::create_directories(map.pad("thuis"));
   setenv("NO_AT_BRIDGE", "1", 1);
 }
 
@@ -75,7 +79,6 @@ VensterProef::~VensterProef() {
     stop();
   }
   EXPECT_TRUE(antwoorden.isOp()) << "a prepared answer was never asked for";
-  unsetenv("TMPDIR");
 }
 
 std::vector<LogRegel>& VensterProef::log() {

@@ -15,6 +15,7 @@
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "tests/steun/antwoorden.h"
 #include "tests/steun/logboek.h"
+#include "tests/steun/omgevingsWaarde.h"
 #include "tests/steun/tijdelijkeMap.h"
 
 class HoofdVenster;
@@ -97,5 +98,14 @@ class VensterProef : public ::testing::Test {
   Soort* zoek(int id) const;
   void verstuur(wxWindow* bron, wxEventType soort, int waarde);
 
+  // A name in a directory that stays until the process ends.
+  static std::string procesPad(std::string const& naam);
+
+  // The toolkit asks for these places once, and writes there of its own accord, after the test too.
+  OmgevingsWaarde gegevens{"XDG_DATA_HOME", procesPad("data")};
+  OmgevingsWaarde instellingen{"XDG_CONFIG_HOME", procesPad("config")};
+  OmgevingsWaarde voorraad{"XDG_CACHE_HOME", procesPad("cache")};
+  OmgevingsWaarde thuisMap{"HOME", map.pad("thuis")};
+  OmgevingsWaarde tijdelijkeBestanden{"TMPDIR", map.pad("tmp")};
   std::unique_ptr<wxGUIEventLoop> lus;
 };

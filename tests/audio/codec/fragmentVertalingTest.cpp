@@ -3,81 +3,17 @@
 #include <gtest/gtest.h>
 #include <wx/translation.h>
 
-#include <algorithm>
-#include <map>
 #include <string>
-#include <utility>
 
 #include "audio/codec/fragmentTekst.h"
 #include "tests/audio/codec/codecHulp.h"
+#include "tests/steun/catalogusInGebruik.h"
 
 namespace {
 
 std::string const uitlegTekst =
     "\n/* Bytes 0..3: Number of samples (Little Endian)\n    Bytes 4..5: Sampling frequency\n"
     "    Bytes 6..End:Data  */\n\n";
-
-// A compiled catalog: magic, version 0, count, the two tables of lengths and places, no hash table,
-// and then the texts, each closed by a zero byte.
-std::string catalogus(std::map<std::string, std::string> const& vertalingen) {
-  auto const aantal = vertalingen.size();
-  std::size_t const kop = 28;
-  std::string tabellen;
-  std::string teksten;
-  auto voegToe = [&](std::string const& tekst) {
-    for (std::size_t const getal : {tekst.size(), kop + 16 * aantal + teksten.size()}) {
-      Bytes const bytes = laagEerst(getal, 4);
-      tabellen.append(bytes.begin(), bytes.end());
-    }
-    teksten += tekst + '\0';
-  };
-  for (auto const& paar : vertalingen) {
-    voegToe(paar.first);
-  }
-  for (auto const& paar : vertalingen) {
-    voegToe(paar.second);
-  }
-  std::string mo;
-  for (std::size_t const getal : {std::size_t{0x950412DE}, std::size_t{0}, aantal, kop,
-                                  kop + 8 * aantal, std::size_t{0}, kop + 16 * aantal}) {
-    Bytes const bytes = laagEerst(getal, 4);
-    mo.append(bytes.begin(), bytes.end());
-  }
-  return mo + tabellen + teksten;
-}
-
-class UitGeheugen : public wxTranslationsLoader {
- public:
-  explicit UitGeheugen(std::string mo) : inhoud(std::move(mo)) {}
-
-  wxMsgCatalog* LoadCatalog(wxString const& domein, wxString const& /*taal*/) override {
-    wxCharBuffer mo(inhoud.size());
-    std::copy(inhoud.begin(), inhoud.end(), mo.data());
-    return wxMsgCatalog::CreateFromData(mo, domein);
-  }
-  wxArrayString GetAvailableTranslations(wxString const& /*domein*/) const override {
-    wxArrayString talen;
-    talen.Add("nl");
-    return talen;
-  }
-
- private:
-  std::string inhoud;
-};
-
-// A catalog in use for the length of a test.
-class FragmentVertaling : public testing::Test {
- protected:
-  void gebruik(std::map<std::string, std::string> vertalingen) {
-    vertalingen[""] = "Content-Type: text/plain; charset=UTF-8\n";
-    auto* const talen = new wxTranslations;
-    wxTranslations::Set(talen);
-    talen->SetLoader(new UitGeheugen(catalogus(vertalingen)));
-    talen->SetLanguage("nl");
-    ASSERT_TRUE(talen->AddCatalog("proef", wxLANGUAGE_ENGLISH_US));
-  }
-  void TearDown() override { wxTranslations::Set(nullptr); }
-};
 
 template <typename Schrijver>
 std::string geschreven(Schrijver schrijver) {
@@ -87,8 +23,9 @@ std::string geschreven(Schrijver schrijver) {
   return tekstVan(uit);
 }
 
-TEST_F(FragmentVertaling, uitlegKomtUitDeCatalogus) {
-  gebruik({{uitlegTekst, "\n/* Uitleg, h\xC3\xA9 100%s */\n"}});
+TEST(FragmentVertaling, uitlegKomtUitDeCatalogus) {
+  CatalogusInGebruik const catalogus(
+      Vertalingen{{uitlegTekst, "\n/* Uitleg, h\xC3\xA9 100%s */\n"}});
   for (int const taal : {0, 1}) {
     EXPECT_EQ(geschreven([&](FragmentTekst& tekst) {
                 tekst.schrijfHeaderUitleg({taal, "K", "n"});
@@ -97,16 +34,16 @@ TEST_F(FragmentVertaling, uitlegKomtUitDeCatalogus) {
   }
 }
 
-TEST_F(FragmentVertaling, zonderVertalingBlijftDeEngelseTekst) {
-  gebruik({{"something else", "iets anders"}});
+TEST(FragmentVertaling, zonderVertalingBlijftDeEngelseTekst) {
+  CatalogusInGebruik const catalogus(Vertalingen{{"something else", "iets anders"}});
   EXPECT_EQ(geschreven([](FragmentTekst& tekst) {
               tekst.schrijfHeaderUitleg({0, "", "n"});
             }),
             uitlegTekst);
 }
 
-TEST_F(FragmentVertaling, deAndereRegelsWordenNietVertaald) {
-  std::map<std::string, std::string> vertalingen;
+TEST(FragmentVertaling, deAndereRegelsWordenNietVertaald) {
+  Vertalingen vertalingen;
   for (std::string const regel :
        {"/* WAV information :   \t\t*/\n", "/* WAV file : ", "\n/* Encoded on ", "/* Date : ",
         "/* Sampling frequency         : ", "/* Sampling frequency         : %d Hz\t\t*/\n",
@@ -116,7 +53,7 @@ TEST_F(FragmentVertaling, deAndereRegelsWordenNietVertaald) {
         "/* end of encoded WAV file         : ", "nan", "0.00", "unsigned char"}) {
     vertalingen[regel] = "VERTAALD";
   }
-  gebruik(vertalingen);
+  CatalogusInGebruik const catalogus(vertalingen);
   EXPECT_EQ(wxGetTranslation("nan"), "VERTAALD");
   std::string const tekst = geschreven([](FragmentTekst& schrijver) {
     FragmentDoel const doel{0, "", "n"};

@@ -9,8 +9,8 @@
 #include <cstring>
 #include <filesystem>
 
-#include "tests/externals/desktop/catalogusMaker.h"
 #include "tests/externals/desktop/desktopProef.h"
+#include "tests/steun/catalogusMaker.h"
 
 namespace {
 

@@ -35,14 +35,6 @@ class CoderenProef : public WerkProef {
     laad({wav("bel.wav", {32767, -32768, 255, -255, -256, 64, -63})});
     return rijen(codeer());
   }
-  static wxGenericProgressDialog* voortgang() {
-    for (wxWindow* een : wxTopLevelWindows) {
-      if (auto* const gevonden = dynamic_cast<wxGenericProgressDialog*>(een)) {
-        return gevonden;
-      }
-    }
-    return nullptr;
-  }
 };
 
 // Every array starts with the count of 7 and the frequency 8000, which is 0x1f40.

@@ -39,6 +39,8 @@ namespace {
 class SpeexHandvatProef : public WerkProef {
  protected:
   void SetUp() override {
+    gemaakt.clear();
+    vernietigd.clear();
     beginSpeex();
     laad({wav("bel.wav", proefSamples(160)), wav("zoem.wav", proefSamples(160))});
     ASSERT_TRUE(gemaakt.empty());

@@ -3,6 +3,7 @@
 #include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/filefn.h>
+#include <wx/log.h>
 #include <wx/menu.h>
 #include <wx/textctrl.h>
 #include <wx/toplevel.h>
@@ -13,15 +14,6 @@
 
 namespace {
 
-std::string const kopVanDrie =
-    "/* Speex encoding output of 3 audio files \t\t*/\n"
-    "\n"
-    "/* Put these declarations in a header file :*/\n"
-    "// extern const signed char bel[];\n"
-    "// extern const signed char tik[];\n"
-    "// extern const signed char zoem[];\n"
-    "\n"
-    "\n";
 std::string const eersteBegin = "/******* Start encoding file number 1 \t\t*******/\n";
 std::string const tweedeBegin = "/******* Start encoding file number 2 \t\t*******/\n";
 
@@ -52,6 +44,15 @@ class SpeexFoutProef : public SpeexRunProef {
     EXPECT_EQ(gevonden.back(), "Could not encode " + naam);
     EXPECT_EQ(status(), "Encoder error. Please check your settings");
     EXPECT_EQ(tekst(), "");
+  }
+  // The same run with nothing to be logged; the one before it was a good one.
+  void verwachtStilMislukt() {
+    codeer();
+    codeerVerkeerd();
+    EXPECT_TRUE(log().empty());
+    EXPECT_EQ(status(), "Encoder error. Please check your settings");
+    EXPECT_EQ(tekst(), "");
+    EXPECT_EQ(antwoorden.berichten.size(), 1U);
   }
 };
 
@@ -148,6 +149,26 @@ TEST_F(SpeexFoutProef, TheRunAfterAFailedOneHasAFreshEncoderAndAMeanOfItsOwn) {
   EXPECT_EQ(status(), "Audio encoded in Speex embedded format");
   EXPECT_EQ(log().size(), 2U);
   verwachtMelding(36);
+}
+
+TEST_F(SpeexFoutProef, WithTheLogOffTheStatusAloneTellsOfIt) {
+  {
+    wxLogNull const stil;
+    verwachtStilMislukt();
+  }
+  codeerVerkeerd();
+  verwachtMislukt("bel.wav", 8000, 16000);
+  EXPECT_EQ(log().size(), 2U);
+}
+
+TEST_F(SpeexFoutProef, WithErrorsBelowTheLevelOfTheLogTheStatusAloneTellsOfIt) {
+  wxLogLevel const niveau = wxLog::GetLogLevel();
+  wxLog::SetLogLevel(wxLOG_FatalError);
+  verwachtStilMislukt();
+  wxLog::SetLogLevel(niveau);
+  codeerVerkeerd();
+  verwachtMislukt("bel.wav", 8000, 16000);
+  EXPECT_EQ(log().size(), 2U);
 }
 
 TEST_F(SpeexFoutProef, SeveralFailedRunsInARowEachTellOfThemselves) {

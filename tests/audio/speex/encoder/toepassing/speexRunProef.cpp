@@ -19,6 +19,16 @@ std::string const kopVanBel =
     "\n"
     "\n";
 
+std::string const kopVanDrie =
+    "/* Speex encoding output of 3 audio files \t\t*/\n"
+    "\n"
+    "/* Put these declarations in a header file :*/\n"
+    "// extern const signed char bel[];\n"
+    "// extern const signed char tik[];\n"
+    "// extern const signed char zoem[];\n"
+    "\n"
+    "\n";
+
 namespace {
 
 constexpr unsigned int eersteBitrate = 5000;

@@ -38,6 +38,8 @@ std::vector<Frames> framesVan(SpeexFragmenten const& fragmenten, Instelling cons
 std::string blokken(SpeexFragmenten const& fragmenten, SpeexDoel const& doel);
 // The head of a run over one file "bel" in C.
 extern std::string const kopVanBel;
+// The same over those three files.
+extern std::string const kopVanDrie;
 
 class SpeexRunProef : public GereedProef {
  protected:

@@ -11,16 +11,6 @@
 
 namespace {
 
-std::string const kopVanDrieInC =
-    "/* Speex encoding output of 3 audio files \t\t*/\n"
-    "\n"
-    "/* Put these declarations in a header file :*/\n"
-    "// extern const signed char bel[];\n"
-    "// extern const signed char tik[];\n"
-    "// extern const signed char zoem[];\n"
-    "\n"
-    "\n";
-
 class SpeexTekstProef : public SpeexRunProef {
  protected:
   // Gets to the state of being loaded without a file.
@@ -39,7 +29,7 @@ class SpeexTekstProef : public SpeexRunProef {
 TEST_F(SpeexTekstProef, ThreeFilesInCAreShownAndSaved) {
   beginSpeex();
   laadFragmenten(drieFragmenten());
-  std::string const verwacht = kopVanDrieInC + blokken(drieFragmenten(), {eersteInstelling(), ""});
+  std::string const verwacht = kopVanDrie + blokken(drieFragmenten(), {eersteInstelling(), ""});
   EXPECT_TRUE(zelfdeTekst(codeerTekst(), verwacht));
   EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), verwacht));
   EXPECT_EQ(inhoud(pad("uit.c")), tekst());
@@ -121,8 +111,8 @@ TEST_F(SpeexTekstProef, WithoutHeaderTheArraysStartWithTheFirstFrame) {
   beginSpeex();
   laadFragmenten(drieFragmenten());
   zonderHeader();
-  EXPECT_TRUE(zelfdeTekst(
-      codeerTekst(), kopVanDrieInC + blokken(drieFragmenten(), {eersteInstelling(), "", false})));
+  EXPECT_TRUE(zelfdeTekst(codeerTekst(),
+                          kopVanDrie + blokken(drieFragmenten(), {eersteInstelling(), "", false})));
 }
 
 TEST_F(SpeexTekstProef, TheConfigurationCanLeaveTheHeaderOutAndTheBoxBringItBack) {

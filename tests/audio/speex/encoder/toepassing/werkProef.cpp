@@ -3,15 +3,17 @@
 #include <wx/button.h>
 #include <wx/filename.h>
 #include <wx/log.h>
+#include <wx/progdlg.h>
 #include <wx/regex.h>
+#include <wx/toplevel.h>
 
 void WerkProef::begin(int taal, wxString const& vensterRegels, wxString const& speexRegels,
                       wxString const& meer) {
   beginMet(EncoderPCM, taal, vensterRegels, speexRegels, meer);
 }
 
-void WerkProef::beginSpeex(int taal, wxString const& speexRegels) {
-  beginMet(EncoderSpeex, taal, wxEmptyString, speexRegels, wxEmptyString);
+void WerkProef::beginSpeex(int taal, wxString const& speexRegels, wxString const& meer) {
+  beginMet(EncoderSpeex, taal, wxEmptyString, speexRegels, meer);
 }
 
 void WerkProef::beginMet(int soort, int taal, wxString const& vensterRegels,
@@ -60,6 +62,15 @@ bool WerkProef::isGeladen() const {
 }
 bool WerkProef::isGecodeerd() const {
   return knop(wxID_SAVE)->IsEnabled();
+}
+
+wxGenericProgressDialog* WerkProef::voortgang() {
+  for (wxWindow* een : wxTopLevelWindows) {
+    if (auto* const gevonden = dynamic_cast<wxGenericProgressDialog*>(een)) {
+      return gevonden;
+    }
+  }
+  return nullptr;
 }
 
 wxString WerkProef::zonderMoment(wxString const& tekst) {

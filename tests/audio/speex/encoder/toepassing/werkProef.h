@@ -17,6 +17,8 @@ struct BoomBestand {
   wxString formaat = "WAV S16 PCM";
 };
 
+class wxGenericProgressDialog;
+
 class WerkProef : public VensterProef {
  protected:
   // Starts with the PCM encoder, this output language, the class name "Geluid" and everything else
@@ -25,7 +27,8 @@ class WerkProef : public VensterProef {
   void begin(int taal = 0, wxString const& vensterRegels = wxEmptyString,
              wxString const& speexRegels = wxEmptyString, wxString const& meer = wxEmptyString);
   // The same with the Speex encoder.
-  void beginSpeex(int taal = 0, wxString const& speexRegels = wxEmptyString);
+  void beginSpeex(int taal = 0, wxString const& speexRegels = wxEmptyString,
+                  wxString const& meer = wxEmptyString);
 
   // Writes a WAV file of 16-bit samples, or any bytes, under a name (UTF-8) in the test's directory
   // and returns its full path.
@@ -45,6 +48,8 @@ class WerkProef : public VensterProef {
   // What can be seen of the state: audio is loaded; a result fits the settings.
   bool isGeladen() const;
   bool isGecodeerd() const;
+  // The progress of a run, null where none stands.
+  static wxGenericProgressDialog* voortgang();
 
   // The text with the date and time of each fragment replaced by "MOMENT". A moment of another
   // shape than 2020-12-31 : 23:59:59 stays.

@@ -38,6 +38,13 @@ void verwachtNiets(Gedecodeerd const& gevonden, int uitslag) {
   EXPECT_TRUE(gevonden.log.empty());
 }
 
+// What libspeex makes of these frames.
+Luisteraar gehoord(Frames const& frames) {
+  Luisteraar luisteraar(SpeexNarrowband);
+  luisteraar.hoorAlle(frames);
+  return luisteraar;
+}
+
 TEST_F(SpeexDecodeerFouten, BracesInCommentLinesAreNoFragments) {
   verwachtEenFragment(decodeer("/* { */\n// a {\n//{\n\t/* {{ 0x1,0x2,\n/ {\na / b {\n" + tekst +
                                "/* { 0x40,0x1f,0x1,0x0, */\n// {"));
@@ -194,14 +201,37 @@ TEST_F(SpeexDecodeerFouten, ACountOf65535WithoutFramesWritesAsManyBlocksOfSilenc
 }
 
 TEST_F(SpeexDecodeerFouten, AnEndlessCountEndsWithinACountBehindTheText) {
-  for (std::string const woord : {"0xffffffff,0xffffffff,", "0x-1,0x0,", "0xffff,0x1,"}) {
+  for (std::string const woord : {"0xffffffff,0xffffffff,", "0x0,0x-1,", "0xffff,0x1,"}) {
     Gedecodeerd const gevonden =
         decodeer("{0x40,0x1f," + woord + "\n" + frameRegels(frames) + "};\n");
     EXPECT_EQ(gevonden.uitslag, 0);
     EXPECT_EQ(gevonden.fragmenten, 1U);
-    EXPECT_EQ(gevonden.samples.size() % 160, 0U);
+    ASSERT_GE(gevonden.samples.size(), frames.size() * 160);
+    // The frames of the text, and then blocks of the last one.
+    Luisteraar zelfde = gehoord(frames);
+    zelfde.herhaal(gevonden.samples.size() / 160 - frames.size());
+    EXPECT_TRUE(zelfdeSamples(gevonden.samples, zelfde.samples));
     EXPECT_LE(gevonden.samples.size(), std::size_t{5 + 65535} * 160);
   }
+}
+
+TEST_F(SpeexDecodeerFouten, AFrameThatTheLibraryTurnsAwayWritesTheOldBlock) {
+  Bytes const bedorven{0xff, 0xff, 0xff, 0xff};
+  std::vector<short> blok(160);
+  ASSERT_EQ(DirecteDecoder(SpeexNarrowband).decodeer(bedorven, blok), -2);
+  Frames const gemengd{frames[0], bedorven, frames[1]};
+  Gedecodeerd const gevonden = decodeer(arrayTekst(8000, 3, gemengd));
+  EXPECT_EQ(gevonden.uitslag, 0);
+  EXPECT_TRUE(zelfdeSamples(gevonden.samples, gehoord(gemengd).samples));
+}
+
+TEST_F(SpeexDecodeerFouten, ATextThatEndsBetweenTheFieldsOfAHeaderIsAFragmentWithoutFrames) {
+  Gedecodeerd const gevonden = decodeer("{0x40,0x1f,");
+  EXPECT_EQ(gevonden.uitslag, 0);
+  EXPECT_EQ(gevonden.fragmenten, 1U);
+  EXPECT_TRUE(gevonden.samples.empty());
+  ASSERT_EQ(gevonden.log.size(), 1U);
+  EXPECT_EQ(gevonden.log[0].tekst, "Fragment 1: sampling frequency 8000 Hz, number of frames 0");
 }
 
 TEST_F(SpeexDecodeerFouten, BytesThatTheBomRulesOutAreReadPastWhereverTheyStand) {

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdio>
 
 #include "externals/software/extern/speex/speexDesktopDecoder.h"
 #include "externals/software/extern/speex/speexDesktopEncoder.h"
@@ -19,12 +18,6 @@
 namespace {
 
 constexpr int complexiteit = 2;
-
-std::string hexadecimaal(unsigned long long waarde) {
-  std::array<char, 24> tekst{};
-  EXPECT_GT(std::snprintf(tekst.data(), tekst.size(), "0x%llx", waarde), 0);
-  return tekst.data();
-}
 
 wxFileName naam(std::string const& pad) {
   return {wxString::FromUTF8(pad.c_str())};
@@ -43,11 +36,11 @@ std::string declaraties(SpeexRun const& run, std::vector<std::string> const& nam
 }  // namespace
 
 int rateVan(SpeexBandFormaat band) {
-  return std::array{8000, 16000, 32000}.at(static_cast<std::size_t>(band));
+  return bandRates.at(static_cast<std::size_t>(band));
 }
 
 std::size_t blokVan(SpeexBandFormaat band) {
-  return std::array<std::size_t, 3>{160, 320, 640}.at(static_cast<std::size_t>(band));
+  return bandFrames.at(static_cast<std::size_t>(band));
 }
 
 Samples ruis(std::size_t aantal) {
@@ -88,40 +81,12 @@ void Luisteraar::herhaal(std::size_t keer) {
   }
 }
 
-std::string headerRegel(int rate, unsigned int telling) {
-  std::string regel = "\t";
-  for (unsigned int const waarde : {static_cast<unsigned int>(rate), telling}) {
-    regel += "(signed char)" + hexadecimaal(waarde % 256) + ",";
-    regel += "(signed char)" + hexadecimaal(waarde / 256 % 256) + ",";
-  }
-  return regel + "\n";
-}
-
-std::string frameRegels(Frames const& frames) {
-  std::string tekst;
-  for (std::size_t nummer = 0; nummer < frames.size(); ++nummer) {
-    Bytes const& frame = frames[nummer];
-    tekst += "\t" + hexadecimaal(frame.size()) + ",  /* Encoded Frame [" + std::to_string(nummer) +
-             "] Size */\n\t";
-    for (std::size_t i = 0; i < frame.size(); ++i) {
-      tekst += std::to_string(frame[i] < 128 ? frame[i] : frame[i] - 256) + ",";
-      tekst += i % 8 == 7 ? "\n\t" : "";
-    }
-    tekst += "\n";
-  }
-  return tekst;
-}
-
 std::string arrayMet(std::string const& inhoud) {
-  return "const signed char toon[] = \n{\n" + inhoud +
-         "};\n\n/* end of encoded WAV file         : toon.wav         */\n";
+  return "const signed char toon[] = \n{\n" + inhoud + slotRegels("toon.wav");
 }
 
 std::string arrayTekst(int rate, unsigned int telling, Frames const& frames) {
-  return arrayMet(
-      "\t/* Header: Sampling Freq (Lower + Higher Byte), Number of Frames (Lower + Higher Byte) "
-      "*/\n" +
-      headerRegel(rate, telling) + frameRegels(frames));
+  return arrayMet(uitlegRegel + headerRegel(rate, telling) + frameRegels(frames));
 }
 
 std::string runTekst(SpeexRun const& run, std::vector<Samples> const& fragmenten) {

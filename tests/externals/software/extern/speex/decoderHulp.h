@@ -11,12 +11,11 @@
 #include <vector>
 
 #include "externals/software/extern/speex/speexFormaten.h"
-#include "tests/externals/software/extern/speex/speexRechtstreeks.h"
+#include "tests/externals/software/extern/speex/arrayRegels.h"
 #include "tests/steun/bytes.h"
 #include "tests/steun/logboek.h"
 
 using Samples = std::vector<short>;
-using Frames = std::vector<Bytes>;
 
 // Of a band, as the definition of Speex has them.
 int rateVan(SpeexBandFormaat band);
@@ -48,9 +47,6 @@ class Luisteraar {
   Samples blok;
 };
 
-// The line of the four header bytes, and the lines of frames, numbered from 0.
-std::string headerRegel(int rate, unsigned int telling);
-std::string frameRegels(Frames const& frames);
 // One array with its header, in C, from its first line to the comment behind it.
 std::string arrayTekst(int rate, unsigned int telling, Frames const& frames);
 // One array of the lines in `inhoud`.

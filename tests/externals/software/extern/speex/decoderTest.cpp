@@ -7,6 +7,7 @@
 #include <string>
 
 #include "tests/externals/software/extern/speex/decoderHulp.h"
+#include "tests/externals/software/extern/speex/oggLezer.h"
 #include "tests/steun/opdracht.h"
 #include "tests/steun/tijdelijkeMap.h"
 #include "tests/steun/wavMaker.h"
@@ -233,28 +234,6 @@ TEST(SpeexDecodeer, TextOf32000HzEditedToTwoDigitsIsHeard) {
                  gehoord(SpeexUltraWideband, samples, 1280));
 }
 
-// The packets of an Ogg stream behind its two headers.
-Frames oggFrames(Bytes const& ogg) {
-  constexpr std::size_t kop = 27;
-  Frames pakketten(1);
-  for (std::size_t pagina = 0; pagina + kop <= ogg.size();) {
-    std::size_t const delen = ogg[pagina + kop - 1];
-    std::size_t data = pagina + kop + delen;
-    for (std::size_t deel = 0; deel < delen; ++deel) {
-      std::size_t const lengte = ogg.at(pagina + kop + deel);
-      auto const van = ogg.begin() + static_cast<std::ptrdiff_t>(data);
-      pakketten.back().insert(pakketten.back().end(), van,
-                              van + static_cast<std::ptrdiff_t>(lengte));
-      data += lengte;
-      if (lengte < 255) {
-        pakketten.emplace_back();
-      }
-    }
-    pagina = data;
-  }
-  return {pakketten.begin() + 2, pakketten.end() - 1};
-}
-
 // As the library's own tools hear it, which leave out the samples before the first of the source.
 TEST(SpeexDecodeer, FramesOfSpeexencSoundAsSpeexdecPlaysThem) {
   TijdelijkeMap const map;
@@ -271,7 +250,10 @@ TEST(SpeexDecodeer, FramesOfSpeexencSoundAsSpeexdecPlaysThem) {
     }
     ASSERT_GT(gespeeld.size(), 15 * blokVan(band));
 
-    Frames const frames = oggFrames(leesBytes(map.pad("a.spx")));
+    // Behind the two headers.
+    Frames const pakketten = oggPakketten(leesBytes(map.pad("a.spx")));
+    ASSERT_GT(pakketten.size(), 2U);
+    Frames const frames(pakketten.begin() + 2, pakketten.end());
     ASSERT_GE(frames.size(), 20U);
     Gedecodeerd const gevonden =
         decodeer(arrayTekst(rateVan(band), static_cast<unsigned int>(frames.size()), frames), band);

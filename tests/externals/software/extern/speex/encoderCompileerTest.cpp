@@ -10,6 +10,7 @@
 
 #include "externals/software/extern/speex/speexAudioPakket.h"
 #include "tests/externals/software/extern/speex/encoderTekstHulp.h"
+#include "tests/externals/software/extern/speex/oggLezer.h"
 #include "tests/steun/opdracht.h"
 #include "tests/steun/wavLezer.h"
 
@@ -74,35 +75,6 @@ class EncoderCompileer : public EncoderProef, public testing::WithParamInterface
   Instelling instelling = GetParam().instelling;
   std::vector<int> samples = spraak(frames * instelling.frame(), instelling.rate());
 };
-
-// The packets of an Ogg file with one stream: pages of a head of 27 bytes, the lengths of their
-// segments, and the segments. A segment shorter than 255 bytes ends a packet.
-Frames oggPakketten(Bytes const& bestand) {
-  constexpr std::size_t kopBytes = 27;
-  constexpr std::size_t vol = 255;
-  Frames pakketten;
-  Bytes pakket;
-  std::size_t plaats = 0;
-  while (plaats + kopBytes <= bestand.size()) {
-    EXPECT_EQ(std::string(bestand.begin() + static_cast<std::ptrdiff_t>(plaats),
-                          bestand.begin() + static_cast<std::ptrdiff_t>(plaats) + 4),
-              "OggS");
-    std::size_t const tabel = plaats + kopBytes;
-    std::size_t const segmenten = bestand[tabel - 1];
-    plaats = tabel + segmenten;
-    for (std::size_t segment = 0; segment < segmenten; ++segment) {
-      std::size_t const lengte = bestand.at(tabel + segment);
-      auto const begin = bestand.begin() + static_cast<std::ptrdiff_t>(plaats);
-      pakket.insert(pakket.end(), begin, begin + static_cast<std::ptrdiff_t>(lengte));
-      plaats += lengte;
-      if (lengte < vol) {
-        pakketten.push_back(pakket);
-        pakket.clear();
-      }
-    }
-  }
-  return pakketten;
-}
 
 // The frames that firmware finds from behind the header to the end of the array.
 Frames gelopen(SpeexAudioPakket& pakket, std::vector<signed char> const& array) {

@@ -176,28 +176,55 @@ TEST_F(EncoderOmvang, LargestFrameAndTotalAreCountedOverAllFrames) {
 }
 
 TEST_F(EncoderOmvang, HeaderHoldsTheLowSixteenBitsOfTheSampleCount) {
-  std::string const tekst = inC(Instelling(), wav("toon.wav", golf(65536 + 5)));
-  EXPECT_NE(tekst.find("/* Original size              : 65541 frames\t\t*/\n"), std::string::npos);
-  EXPECT_NE(tekst.find(uitlegRegel + headerRegel("0x40", "0x1f", "0x5", "0x0") + "\t0x26,  "),
-            std::string::npos);
+  std::vector<int> const samples = golf(65536 + 5);
+  Frames const frames = LosseEncoder(Instelling()).bestand(samples);
+  ASSERT_EQ(frames.size(), 410U);
   // 410 frames of 38 bytes.
-  EXPECT_NE(tekst.find(omvangRegels("15990", "24", "38")), std::string::npos);
-  EXPECT_EQ(framesIn(tekst).size(), 410U);
+  EXPECT_TRUE(
+      zelfdeTekst(inC(Instelling(), wav("toon.wav", samples)),
+                  toonInC(bestandRegels("toon.wav", "8000", "65541", "8.19"), {},
+                          omvangRegels("15990", "24", "38"),
+                          uitlegRegel + headerRegel("0x40", "0x1f", "0x5", "0x0"), frames)));
+}
+
+TEST_F(EncoderOmvang, TotalIsCountedBeyondSixteenBits) {
+  Instelling instelling;
+  instelling.band = 2;
+  instelling.kwaliteit = 10;
+  std::vector<int> const samples = golf(std::size_t{640} * 620);
+  Frames const frames = LosseEncoder(instelling).bestand(samples);
+  InstelRegels regels;
+  regels.frame = "640";
+  regels.band = "Ultra Wideband";
+  regels.kwaliteit = "10";
+  // 620 frames of 110 bytes, 44 kbit/s; 396800 samples are 0x60e00.
+  EXPECT_TRUE(zelfdeTekst(inC(instelling, wav("toon.wav", samples, 32000)),
+                          toonInC(bestandRegels("toon.wav", "32000", "396800", "12.40"), regels,
+                                  omvangRegels("68820", "17", "110"),
+                                  uitlegRegel + headerRegel("0x0", "0x7d", "0x0", "0xe"), frames)));
 }
 
 TEST_F(EncoderOmvang, RatioIsCutOffToAWholeNumber) {
   // Two frames of 38 bytes: 7800 / 201 is 38.8.
-  std::string const pad = wav("toon.wav", golf(201));
+  std::vector<int> const samples = golf(201);
+  std::string const pad = wav("toon.wav", samples);
   EXPECT_EQ(codeer(Instelling(), pad).verhouding, 38.0);
-  EXPECT_NE(inC(Instelling(), pad).find(omvangRegels("78", "38", "38")), std::string::npos);
+  EXPECT_TRUE(zelfdeTekst(
+      inC(Instelling(), pad, false),
+      toonInC(bestandRegels("toon.wav", "8000", "201", "0.03"), {}, omvangRegels("78", "38", "38"),
+              "", LosseEncoder(Instelling()).bestand(samples))));
 }
 
 TEST_F(EncoderOmvang, RatioIsAHundredAtTheMost) {
   // A frame of 38 bytes for a single sample would be 3900 per cent, and 39 samples come to 100.
   for (std::size_t const lengte : {1U, 38U, 39U}) {
-    std::string const pad = wav("toon.wav", golf(lengte));
+    std::vector<int> const samples = golf(lengte);
+    std::string const pad = wav("toon.wav", samples);
     EXPECT_EQ(codeer(Instelling(), pad).verhouding, 100.0);
-    EXPECT_NE(inC(Instelling(), pad).find(omvangRegels("39", "100", "38")), std::string::npos);
+    EXPECT_TRUE(zelfdeTekst(
+        inC(Instelling(), pad, false),
+        toonInC(bestandRegels("toon.wav", "8000", std::to_string(lengte), "0.00"), {},
+                omvangRegels("39", "100", "38"), "", LosseEncoder(Instelling()).bestand(samples))));
   }
   EXPECT_EQ(codeer(Instelling(), wav("toon.wav", golf(40))).verhouding, 97.0);
 }
@@ -214,10 +241,14 @@ TEST_F(EncoderOmvang, FileWithoutSamplesGivesAnArrayOfTheHeaderAlone) {
 }
 
 TEST_F(EncoderOmvang, SizesAreTheSameWithoutHeader) {
-  std::string const pad = wav("toon.wav", golf(500));
+  std::vector<int> const samples = golf(500);
+  std::string const pad = wav("toon.wav", samples);
+  Frames const frames = LosseEncoder(Instelling()).bestand(samples);
+  std::string const bestand = bestandRegels("toon.wav", "8000", "500", "0.06");
   std::string const sizes = omvangRegels("156", "31", "38");
-  EXPECT_NE(inC(Instelling(), pad, true).find(sizes), std::string::npos);
-  EXPECT_NE(inC(Instelling(), pad, false).find(sizes), std::string::npos);
+  std::string const header = uitlegRegel + headerRegel("0x40", "0x1f", "0xf4", "0x1");
+  EXPECT_TRUE(zelfdeTekst(inC(Instelling(), pad), toonInC(bestand, {}, sizes, header, frames)));
+  EXPECT_TRUE(zelfdeTekst(inC(Instelling(), pad, false), toonInC(bestand, {}, sizes, "", frames)));
 }
 
 }  // namespace

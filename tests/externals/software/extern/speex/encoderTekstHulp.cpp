@@ -5,9 +5,6 @@
 
 #include "tests/audio/codec/codecHulp.h"
 
-std::string const uitlegRegel =
-    "\t/* Header: Sampling Freq (Lower + Higher Byte), Number of Frames (Lower + Higher Byte) */\n";
-
 std::string bestandRegels(std::string const& bestand, std::string const& rate,
                           std::string const& frames, std::string const& duur) {
   return "\n/* Encoded on Linux (64 bit)\t\t*/\n" + momentRegel + "/* WAV file : " + bestand +
@@ -66,26 +63,6 @@ std::string omvangRegels(std::string const& totaal, std::string const& verhoudin
          grootste + " bytes\t\t*/\n\n";
 }
 
-std::string slotRegels(std::string const& bestand) {
-  return "};\n\n/* end of encoded WAV file         : " + bestand + "         */\n";
-}
-
-std::string frameRegels(Frames const& frames) {
-  std::string tekst;
-  for (std::size_t nummer = 0; nummer < frames.size(); ++nummer) {
-    Bytes const& frame = frames[nummer];
-    std::string const maat = verwachteRijen({static_cast<unsigned char>(frame.size())});
-    tekst += maat.substr(0, maat.size() - 1) + "  /* Encoded Frame [" + std::to_string(nummer) +
-             "] Size */\n\t";
-    for (std::size_t i = 0; i < frame.size(); ++i) {
-      tekst += std::to_string(frame[i] < 128 ? frame[i] : frame[i] - 256);
-      tekst += i % 8 == 7 ? ",\n\t" : ",";
-    }
-    tekst += "\n";
-  }
-  return tekst;
-}
-
 std::string omvangRegels(Frames const& frames, std::size_t wavFrames) {
   std::size_t const totaal =
       std::accumulate(frames.begin(), frames.end(), std::size_t{0},
@@ -101,6 +78,12 @@ std::string headerRegel(std::string const& b0, std::string const& b1, std::strin
                         std::string const& b3) {
   return "\t(signed char)" + b0 + ",(signed char)" + b1 + ",(signed char)" + b2 + ",(signed char)" +
          b3 + ",\n";
+}
+
+std::string toonInC(std::string const& bestand, InstelRegels const& regels,
+                    std::string const& omvang, std::string const& header, Frames const& frames) {
+  return bestand + regels.tekst() + omvang + "const signed char toon[] = \n{\n" + header +
+         frameRegels(frames) + slotRegels("toon.wav");
 }
 
 std::string EncoderProef::wav(std::string const& naam, std::vector<int> const& waarden, int rate,

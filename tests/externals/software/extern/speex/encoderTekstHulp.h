@@ -6,11 +6,9 @@
 #include <string>
 #include <vector>
 
+#include "tests/externals/software/extern/speex/arrayRegels.h"
 #include "tests/externals/software/extern/speex/speexHulp.h"
 #include "tests/steun/tijdelijkeMap.h"
-
-// The comment on the header bytes.
-extern std::string const uitlegRegel;
 
 // The lines about the file, with momentRegel among them.
 std::string bestandRegels(std::string const& bestand, std::string const& rate,
@@ -41,9 +39,10 @@ std::string omvangRegels(Frames const& frames, std::size_t wavFrames);
 std::string headerRegel(std::string const& b0, std::string const& b1, std::string const& b2,
                         std::string const& b3);
 
-// The frames of an array, and what closes it.
-std::string frameRegels(Frames const& frames);
-std::string slotRegels(std::string const& bestand);
+// The whole text of toon.wav in C: these lines about the file, the settings and the sizes, then the
+// array, with these lines about its header.
+std::string toonInC(std::string const& bestand, InstelRegels const& regels,
+                    std::string const& omvang, std::string const& header, Frames const& frames);
 
 // A test has a directory of its own for its WAV files.
 class EncoderProef : public testing::Test {

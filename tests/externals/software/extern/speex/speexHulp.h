@@ -10,12 +10,6 @@
 #include "tests/externals/software/extern/speex/speexRechtstreeks.h"
 #include "tests/steun/bytes.h"
 
-using Frames = std::vector<Bytes>;
-
-// By band.
-constexpr std::array<int, 3> bandRates{8000, 16000, 32000};
-constexpr std::array<std::size_t, 3> bandFrames{160, 320, 640};
-
 struct Instelling {
   int band = 0;
   unsigned int kwaliteit = 8;

@@ -3,11 +3,19 @@
 
 #include <speex/speex.h>
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <vector>
 
 #include "tests/steun/bytes.h"
+
+using Frames = std::vector<Bytes>;
+
+// By band: the sampling frequency in Hz, and the samples in a frame.
+constexpr std::array<int, 3> bandRates{8000, 16000, 32000};
+constexpr std::array<std::size_t, 3> bandFrames{160, 320, 640};
 
 // 0 is narrowband, 1 wideband, 2 ultra wideband.
 SpeexMode const* directeModus(int band);

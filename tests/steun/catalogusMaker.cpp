@@ -1,4 +1,4 @@
-#include "tests/externals/desktop/catalogusMaker.h"
+#include "tests/steun/catalogusMaker.h"
 
 #include <cstdint>
 #include <filesystem>

@@ -1,64 +1,39 @@
-// The two translated texts of the encoder: the comment on the header in the array, and the line in
-// the log about a file that does not fit. All else is the same in every language.
+// The translated texts: the comment on the header in the array, and the lines in the log about a
+// file that does not fit and about a fragment that was read back. All else is the same in every
+// language.
 #include <gtest/gtest.h>
+#include <sndfile.h>
+#include <wx/filename.h>
 #include <wx/translation.h>
 
-#include <map>
 #include <string>
-#include <utility>
 
+#include "externals/software/extern/speex/speexDesktopDecoder.h"
 #include "tests/audio/codec/codecHulp.h"
-#include "tests/externals/desktop/catalogusMaker.h"
 #include "tests/externals/software/extern/speex/encoderTekstHulp.h"
+#include "tests/steun/catalogusInGebruik.h"
+#include "tests/steun/wavMaker.h"
 #include "tests/steun/wxMain.h"
 
 namespace {
 
-class UitBestand : public wxTranslationsLoader {
- public:
-  explicit UitBestand(std::string mo) : pad(std::move(mo)) {}
+using SpeexVertaling = EncoderProef;
 
-  wxMsgCatalog* LoadCatalog(wxString const& domein, wxString const& /*taal*/) override {
-    return wxMsgCatalog::CreateFromFile(wxTekst(pad), domein);
-  }
-  wxArrayString GetAvailableTranslations(wxString const& /*domein*/) const override {
-    wxArrayString talen;
-    talen.Add("nl");
-    return talen;
-  }
-
- private:
-  std::string pad;
-};
-
-// A catalog in use for the length of a test.
-class EncoderVertaling : public EncoderProef {
- protected:
-  void gebruik(std::map<std::string, std::string> const& vertalingen) {
-    maakCatalogus(map.pad("nl.mo"), vertalingen);
-    auto* const talen = new wxTranslations;
-    wxTranslations::Set(talen);
-    talen->SetLoader(new UitBestand(map.pad("nl.mo")));
-    talen->SetLanguage("nl");
-    ASSERT_TRUE(talen->AddCatalog("proef", wxLANGUAGE_ENGLISH_US));
-  }
-  void TearDown() override { wxTranslations::Set(nullptr); }
-};
-
-TEST_F(EncoderVertaling, CommentOnTheHeaderComesFromTheCatalog) {
+TEST_F(SpeexVertaling, CommentOnTheHeaderComesFromTheCatalog) {
   std::string const pad = wav("toon.wav", golf(160));
   std::string verwacht = inC(Instelling(), pad);
   std::size_t const plaats = verwacht.find(uitlegRegel);
   ASSERT_NE(plaats, std::string::npos);
   std::string const vertaling = "\t/* Kop: h\xC3\xA9 100%s%n */\n";
   verwacht.replace(plaats, uitlegRegel.size(), vertaling);
-  gebruik({{uitlegRegel, vertaling}});
+  CatalogusInGebruik const catalogus(Vertalingen{{uitlegRegel, vertaling}});
   EXPECT_TRUE(zelfdeTekst(inC(Instelling(), pad), verwacht));
 }
 
-TEST_F(EncoderVertaling, LineAboutTheFrequencyComesFromTheCatalog) {
-  gebruik({{" has a different sampling frequency (%d)\nthan the encoder (%d)",
-            " heeft een andere frequentie (%d)\ndan de h\xC3\xA9ld (%d)"}});
+TEST_F(SpeexVertaling, LineAboutTheFrequencyComesFromTheCatalog) {
+  CatalogusInGebruik const catalogus(
+      Vertalingen{{" has a different sampling frequency (%d)\nthan the encoder (%d)",
+                   " heeft een andere frequentie (%d)\ndan de h\xC3\xA9ld (%d)"}});
   EXPECT_EQ(codeer(Instelling(), wav("toon.wav", golf(160), 16000)).resultaat, 2);
   std::vector<LogRegel> const log = neemLog();
   ASSERT_EQ(log.size(), 1U);
@@ -66,9 +41,25 @@ TEST_F(EncoderVertaling, LineAboutTheFrequencyComesFromTheCatalog) {
                                   "dan de h\xC3\xA9ld (8000)"));
 }
 
-TEST_F(EncoderVertaling, NothingElseIsTranslated) {
+TEST_F(SpeexVertaling, MessageAboutAFragmentComesFromTheCatalog) {
+  CatalogusInGebruik const catalogus(
+      Vertalingen{{"Fragment %d: sampling frequency %ld Hz, number of frames %ld",
+                   "Stuk %d: h\xC3\xA9 %ld Hz, %ld frames"}});
+  maakBestand(map.pad("in.c"), "{0x40,0x1f,0x00,0x00,\n};\n");
+  SpeexDesktopDecoder decoder(SpeexNarrowband, nullptr);
+  unsigned long long fragmenten = 0;
+  EXPECT_EQ(
+      decoder.decode(wxFileName(wxTekst(map.pad("in.c"))), wxFileName(wxTekst(map.pad("uit.wav"))),
+                     fragmenten, SF_FORMAT_WAV | SF_FORMAT_PCM_16),
+      0);
+  std::vector<LogRegel> const log = neemLog();
+  ASSERT_EQ(log.size(), 1U);
+  EXPECT_EQ(log[0].tekst, wxTekst("Stuk 1: h\xC3\xA9 8000 Hz, 0 frames"));
+}
+
+TEST_F(SpeexVertaling, NothingElseIsTranslated) {
   std::string const pad = wav("toon.wav", golf(160));
-  std::map<std::string, std::string> vertalingen;
+  Vertalingen vertalingen;
   for (std::string const tekst :
        {"false",
         "true",
@@ -100,7 +91,7 @@ TEST_F(EncoderVertaling, NothingElseIsTranslated) {
     vertalingen[tekst] = "VERTAALD";
   }
   std::string const verwacht = inC(Instelling(), pad);
-  gebruik(vertalingen);
+  CatalogusInGebruik const catalogus(vertalingen);
   ASSERT_EQ(wxGetTranslation("Narrowband"), "VERTAALD");
   EXPECT_TRUE(zelfdeTekst(inC(Instelling(), pad), verwacht));
 }
