@@ -21,8 +21,8 @@ std::vector<std::string> teksten(std::vector<Oproep> const& oproepen);
 // Those of which the text begins like this.
 std::vector<Oproep> metBegin(std::vector<Oproep> const& oproepen, std::string const& begin);
 
-// While it lives, every control call answers that it failed, and every frame size is said to be
-// 9999.
+// While it lives, every control call and every encoding answers that it failed although it did not,
+// and every frame size is said to be 9999.
 class LiegendeBibliotheek {
  public:
   LiegendeBibliotheek();
@@ -31,4 +31,15 @@ class LiegendeBibliotheek {
   LiegendeBibliotheek& operator=(LiegendeBibliotheek const&) = delete;
   LiegendeBibliotheek(LiegendeBibliotheek&&) = delete;
   LiegendeBibliotheek& operator=(LiegendeBibliotheek&&) = delete;
+};
+
+// While it lives, no frame is decoded: each is said to be corrupt, and none is recorded.
+class StommeBibliotheek {
+ public:
+  StommeBibliotheek();
+  ~StommeBibliotheek();
+  StommeBibliotheek(StommeBibliotheek const&) = delete;
+  StommeBibliotheek& operator=(StommeBibliotheek const&) = delete;
+  StommeBibliotheek(StommeBibliotheek&&) = delete;
+  StommeBibliotheek& operator=(StommeBibliotheek&&) = delete;
 };
