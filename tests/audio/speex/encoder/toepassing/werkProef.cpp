@@ -3,6 +3,7 @@
 #include <wx/button.h>
 #include <wx/filename.h>
 #include <wx/log.h>
+#include <wx/menu.h>
 #include <wx/progdlg.h>
 #include <wx/regex.h>
 #include <wx/toplevel.h>
@@ -62,6 +63,25 @@ bool WerkProef::isGeladen() const {
 }
 bool WerkProef::isGecodeerd() const {
   return knop(wxID_SAVE)->IsEnabled();
+}
+
+void WerkProef::verwachtGevolgNaMelding(wxString const& statusNa) {
+  wxString statusTijdens;
+  wxString tekstTijdens;
+  antwoorden.opBericht(wxID_OK, [&] {
+    statusTijdens = status();
+    tekstTijdens = tekst();
+  });
+  klik(ID_CODEER);
+  EXPECT_EQ(statusTijdens, "Audio files loaded");
+  EXPECT_EQ(tekstTijdens, tekst());
+  EXPECT_FALSE(tekst().empty());
+  EXPECT_EQ(status(), statusNa);
+  EXPECT_TRUE(isGecodeerd());
+  EXPECT_TRUE(menuItem(wxID_SAVE)->IsEnabled());
+  EXPECT_TRUE(knop(ID_SPEEL_RESULTAAT)->IsEnabled());
+  EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
+  EXPECT_FALSE(menuItem(ID_CODEER)->IsEnabled());
 }
 
 wxGenericProgressDialog* WerkProef::voortgang() {

@@ -48,6 +48,8 @@ class WerkProef : public VensterProef {
   // What can be seen of the state: audio is loaded; a result fits the settings.
   bool isGeladen() const;
   bool isGecodeerd() const;
+  // Encodes what is loaded; the result, its text apart, takes effect only after the message.
+  void verwachtGevolgNaMelding(wxString const& statusNa);
   // The progress of a run, null where none stands.
   static wxGenericProgressDialog* voortgang();
 
