@@ -9,6 +9,7 @@
 #include <fstream>
 #include <iostream>
 #include <iterator>
+#include <memory>
 #include <vector>
 
 #include "audio/codec/sndBestand.h"
@@ -52,30 +53,48 @@ std::string encodeer(Band const& band, std::string const& wav) {
   return tekst;
 }
 
+class LosseBits {
+ public:
+  LosseBits() { speex_bits_init(&bits); }
+  ~LosseBits() { speex_bits_destroy(&bits); }
+  LosseBits(LosseBits const&) = delete;
+  LosseBits& operator=(LosseBits const&) = delete;
+  LosseBits(LosseBits&&) = delete;
+  LosseBits& operator=(LosseBits&&) = delete;
+
+  SpeexBits* geef() { return &bits; }
+
+ private:
+  SpeexBits bits{};
+};
+
+struct EncoderEinde {
+  void operator()(void* toestand) const { speex_encoder_destroy(toestand); }
+};
+
 // Encodes frames that lie ready in memory, and keeps nothing of them.
 int draaiLus(Band const& band, std::vector<short> const& samples) {
-  void* const encoder = speex_encoder_init(
-      band.formaat == SpeexNarrowband ? &speex_nb_mode : speex_lib_get_mode(band.formaat));
+  std::unique_ptr<void, EncoderEinde> const houder(speex_encoder_init(
+      band.formaat == SpeexNarrowband ? &speex_nb_mode : speex_lib_get_mode(band.formaat)));
+  void* const encoder = houder.get();
   int waarde = kwaliteit;
   speex_encoder_ctl(encoder, SPEEX_SET_QUALITY, &waarde);
   waarde = complexiteit;
   speex_encoder_ctl(encoder, SPEEX_SET_COMPLEXITY, &waarde);
   waarde = 1;
   speex_encoder_ctl(encoder, SPEEX_SET_VAD, &waarde);
-  SpeexBits bits;
-  speex_bits_init(&bits);
+  LosseBits houderVanBits;
+  SpeexBits* const bits = houderVanBits.geef();
   auto const n = SpeexBasis::frameSize[static_cast<std::size_t>(band.formaat)];
   std::vector<float> blok(n);
-  std::array<char, 200> uit{};
+  std::array<char, SpeexBasis::maxFrameBytes> uit{};
   int totaal = 0;
   for (auto frame = samples.begin(); frame != samples.end(); frame += n) {
     std::copy_n(frame, n, blok.begin());
-    speex_bits_reset(&bits);
-    speex_encode(encoder, blok.data(), &bits);
-    totaal += speex_bits_write(&bits, uit.data(), static_cast<int>(uit.size()));
+    speex_bits_reset(bits);
+    speex_encode(encoder, blok.data(), bits);
+    totaal += speex_bits_write(bits, uit.data(), static_cast<int>(uit.size()));
   }
-  speex_bits_destroy(&bits);
-  speex_encoder_destroy(encoder);
   return totaal > 0 ? 0 : 1;
 }
 

@@ -35,7 +35,9 @@ TEST(SpeexGeheugen, DecodeWithoutMemoryForItsOutputGives2AndLeavesTheCount) {
   std::ptrdiff_t const voor = openBestanden();
   unsigned long long fragmenten = 99;
   {
-    MetSndStoring const storing({true, std::nullopt, false});
+    SndStoring storing;
+    storing.krapNaOpen = true;
+    MetSndStoring const met(storing);
     EXPECT_EQ(decoder.decode(in, uit, fragmenten, SF_FORMAT_WAV | SF_FORMAT_PCM_16), 2);
     EXPECT_TRUE(KrapGeheugen::isGebleken());
   }

@@ -24,6 +24,13 @@ TEST(SpeexStoring, AnEncodingThatTheLibraryCallsFailedGoesIntoTheText) {
   EXPECT_TRUE(zelfdeTekst(zonderMoment(gelogen.tekst), zonderMoment(eerlijk.tekst)));
 }
 
+// Reads that fail from the one behind the first `aantal` on.
+SndStoring naReads(int aantal) {
+  SndStoring storing;
+  storing.gelukteReads = aantal;
+  return storing;
+}
+
 TEST(SpeexStoring, AFailedReadEncodesTheBlockBeforeItAgain) {
   TijdelijkeMap const map;
   std::vector<int> const samples = golf(640);
@@ -36,7 +43,7 @@ TEST(SpeexStoring, AFailedReadEncodesTheBlockBeforeItAgain) {
   }
   Codering gevonden;
   {
-    MetSndStoring const storing({false, 1, false});
+    MetSndStoring const met(naReads(1));
     gevonden = codeer(Instelling(), map.pad("toon.wav"));
   }
   EXPECT_EQ(gevonden.resultaat, 0);
@@ -48,7 +55,7 @@ TEST(SpeexStoring, AFirstReadThatFailsEncodesSilence) {
   TijdelijkeMap const map;
   schrijfWav(map.pad("toon.wav"), golf(160));
   Frames const verwacht{LosseEncoder(Instelling()).encode(std::vector<int>(160, 0))};
-  MetSndStoring const storing({false, 0, false});
+  MetSndStoring const met(naReads(0));
   EXPECT_EQ(framesIn(codeer(Instelling(), map.pad("toon.wav")).tekst), verwacht);
 }
 
@@ -64,7 +71,9 @@ TEST(SpeexStoring, DecodingEndsWhereTheSizesOfTheWavFileAreFull) {
   SpeexDesktopDecoder decoder(SpeexUltraWideband, nullptr);
   unsigned long long fragmenten = 0;
   StommeBibliotheek const stom;
-  MetSndStoring const storing({false, std::nullopt, true});
+  SndStoring storing;
+  storing.schijfLoos = true;
+  MetSndStoring const met(storing);
   EXPECT_EQ(decoder.decode(bestandsnaam(map.pad("in.c")), bestandsnaam(map.pad("uit.wav")),
                            fragmenten, SF_FORMAT_WAV | SF_FORMAT_PCM_16),
             0);
