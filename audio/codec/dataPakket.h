@@ -3,10 +3,14 @@
 #pragma once
 
 #include <cstring>
+#include <memory>
 
 // A packet either owns its block (it allocated it) or lies over memory of its caller, who then
 // keeps that memory alive for the packet's whole life. There is no deep copy, nothing is virtual,
 // and no operation checks a bound.
+//
+// A packet is a handle on its block: a const packet keeps its place and size, but its samples can
+// be written. The coder fills the packets that it gets that way.
 template <typename T>
 class VelmoraDataPakket {
  public:
@@ -17,11 +21,17 @@ class VelmoraDataPakket {
 
   // The payload, and its size in bytes. The payload of a packet over raw bytes may lie at an odd
   // address: go through geefElement there.
-  T* geefData() { return data; }
-  T const* geefData() const { return data; }
+  T* geefData() const { return data; }
   unsigned long long geefAantalBytes() const { return aantalBytes; }
   // The size of one element in bytes; 0 in a packet built without arguments.
   unsigned long long geefElementGrootte() const { return elementGrootte; }
+  // The number of elements in the block, for the element sizes 1 and 2, the only two in use: a
+  // shift by the size less 1. The mask keeps the size 0 of an empty packet a defined shift of its 0
+  // bytes.
+  unsigned long long geefAantalElementen() const {
+    constexpr unsigned long long masker = 63;
+    return aantalBytes >> ((elementGrootte - 1) & masker);
+  }
   bool isEigenaar() const { return eigenaar; }
   // The next packet of the chain, or null. Not owned.
   VelmoraDataPakket* geefVolgende() const { return volgende; }
@@ -33,7 +43,7 @@ class VelmoraDataPakket {
     std::memcpy(&waarde, bytes() + i * elementGrootte, sizeof waarde);
     return waarde;
   }
-  void zetElement(unsigned long long i, T waarde) {
+  void zetElement(unsigned long long i, T waarde) const {
     std::memcpy(bytes() + i * elementGrootte, &waarde, sizeof waarde);
   }
 
@@ -44,18 +54,24 @@ class VelmoraDataPakket {
       : data(blok),
         aantalBytes(grootteInBytes),
         elementGrootte(elementBytes),
-        eigenaar(neemtOver) {}
-  ~VelmoraDataPakket() {
-    if (eigenaar) {
-      delete[] data;
-    }
-  }
+        eigenaar(neemtOver),
+        bezit(neemtOver ? std::shared_ptr<T[]>(blok) : std::shared_ptr<T[]>()) {}
+  // Copies all fields of `ander`, the flag of ownership too. Two owners of one block share it: the
+  // last one to go releases it.
+  struct OverHetzelfdeBlok {};
+  VelmoraDataPakket(OverHetzelfdeBlok /*keuze*/, VelmoraDataPakket const& ander)
+      : data(ander.data),
+        aantalBytes(ander.aantalBytes),
+        elementGrootte(ander.elementGrootte),
+        eigenaar(ander.eigenaar),
+        volgende(ander.volgende),
+        bezit(ander.bezit) {}
+  ~VelmoraDataPakket() = default;
 
   void zetVolgende(VelmoraDataPakket* pakket) { volgende = pakket; }
 
   // The payload as plain bytes.
-  unsigned char* bytes() { return reinterpret_cast<unsigned char*>(data); }
-  unsigned char const* bytes() const { return reinterpret_cast<unsigned char const*>(data); }
+  unsigned char* bytes() const { return reinterpret_cast<unsigned char*>(data); }
 
  private:
   T* data = nullptr;
@@ -63,4 +79,5 @@ class VelmoraDataPakket {
   unsigned long long elementGrootte = 0;
   bool eigenaar = false;
   VelmoraDataPakket* volgende = nullptr;
+  std::shared_ptr<T[]> bezit;  // the block, where the packet owns it
 };

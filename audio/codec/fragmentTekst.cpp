@@ -88,14 +88,29 @@ void FragmentTekst::schrijfKop(wxFileName const& wav, SF_INFO const& info) {
           " s\t\t*/\n");
 }
 
-void FragmentTekst::schrijfTelling(FragmentDoel const& doel, wxString const& achtervoegsel,
-                                   unsigned long long aantal) {
-  wxString const getal = wxString::Format("%d", laagsteBits(aantal));
+void FragmentTekst::schrijfFragment(wxFileName const& wav, SF_INFO const& info,
+                                    FragmentDoel const& doel,
+                                    std::initializer_list<FragmentTelling> tellingen,
+                                    VelmoraArray<unsigned char> const& array, bool metHeader) {
+  schrijfKop(wav, info);
+  for (FragmentTelling const& telling : tellingen) {
+    schrijfTelling(doel, telling);
+  }
+  if (metHeader) {
+    schrijfHeaderUitleg(doel);
+  }
+  schrijfArrayKop(doel, "unsigned char");
+  schrijfRijen(array);
+  schrijfEinde(wav);
+}
+
+void FragmentTekst::schrijfTelling(FragmentDoel const& doel, FragmentTelling const& telling) {
+  wxString const waarde =
+      telling.achtervoegsel + wxString::Format("=%d;", laagsteBits(telling.aantal));
   if (doel.taal == UitvoerTaalC) {
-    schrijf("/* const unsigned int " + doel.naam + achtervoegsel + "=" + getal + "; */\n");
+    schrijf("/* const unsigned int " + doel.naam + waarde + " */\n");
   } else if (doel.taal == UitvoerTaalCPP) {
-    schrijf("//const unsigned int " + doel.klasse + "::" + doel.naam + achtervoegsel + "=" + getal +
-            ";\n");
+    schrijf("//const unsigned int " + doel.klasse + "::" + doel.naam + waarde + "\n");
   }
 }
 

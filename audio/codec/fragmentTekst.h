@@ -7,6 +7,8 @@
 #include <wx/string.h>
 #include <wx/txtstrm.h>
 
+#include <initializer_list>
+
 #include "audio/codec/array.h"
 
 class wxFileName;
@@ -20,6 +22,13 @@ struct FragmentDoel {
   wxString naam;    // the array: the file's name without path and extension
 };
 
+// A count that stands in a line of its own, under the name of the array with `achtervoegsel` behind
+// it.
+struct FragmentTelling {
+  wxString achtervoegsel;
+  unsigned long long aantal;
+};
+
 class FragmentTekst {
  public:
   // Appends to `uit`, which must outlive this object, as UTF-8 with "\n" line ends.
@@ -31,12 +40,17 @@ class FragmentTekst {
   // of it, and all zeros for a file that is not there.
   void schrijfKop(wxFileName const& wav, SF_INFO const& info);
 
-  // The line that tells a count under the name of the array with `achtervoegsel` behind it.
-  void schrijfTelling(FragmentDoel const& doel, wxString const& achtervoegsel,
-                      unsigned long long aantal);
+  // The whole text of a fragment that is printed byte by byte. With `metHeader` a comment on the
+  // header stands before the array.
+  void schrijfFragment(wxFileName const& wav, SF_INFO const& info, FragmentDoel const& doel,
+                       std::initializer_list<FragmentTelling> tellingen,
+                       VelmoraArray<unsigned char> const& array, bool metHeader);
+
+  void schrijfTelling(FragmentDoel const& doel, FragmentTelling const& telling);
 
   // The comment on the header bytes, translated. It tells the PCM layout, and stands before ADPCM
-  // arrays too.
+  // arrays too, where it is wrong: their count is one of bytes, and their data starts at byte 9. It
+  // stays, since what is generated must not change under the projects that hold it.
   void schrijfHeaderUitleg(FragmentDoel const& doel);
 
   // The line that opens the array, with elements of `elementType`.

@@ -41,16 +41,9 @@ void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
   VelmoraArray<unsigned char> array(pakket->serieelGeefAantalBytes());
   pakket->maakSerieel(array, metHeader);
 
-  FragmentDoel const doel{taal, klasseNaam, wav.GetName()};
-  FragmentTekst tekst(uit);
-  tekst.schrijfKop(wav, bestand.info());
-  tekst.schrijfTelling(doel, "_pcmNumberOfEncSamples", pakket->geefAantalSamples());
-  if (metHeader) {
-    tekst.schrijfHeaderUitleg(doel);
-  }
-  tekst.schrijfArrayKop(doel, "unsigned char");
-  tekst.schrijfRijen(array);
-  tekst.schrijfEinde(wav);
+  FragmentTekst(uit).schrijfFragment(wav, bestand.info(), {taal, klasseNaam, wav.GetName()},
+                                     {{"_pcmNumberOfEncSamples", pakket->geefAantalSamples()}},
+                                     array, metHeader);
   // A memory stream takes more text after this.
   uit.Close();
 }
@@ -87,7 +80,7 @@ void PCMDesktopConverter::decodeerBestand(wxFileName const& bron, wxFileName con
     wxDataInputStream(stroom).Read16(waarden.data(), waarden.size());
   }
 
-  SndBestand wav = SndBestand::schrijf(doel, freq, 1, SF_FORMAT_WAV | SF_FORMAT_PCM_16);
+  SndBestand wav = SndBestand::schrijfMono(doel, freq);
   wav.schrijfItems(reinterpret_cast<short const*>(waarden.data()),
                    static_cast<sf_count_t>(waarden.size()));
 }

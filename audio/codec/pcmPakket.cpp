@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "audio/codec/dacDeler.h"
+#include "audio/codec/serieleKop.h"
 #include "numeriek/byteGereedschap.h"
 
 static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__,
@@ -12,10 +14,6 @@ namespace {
 constexpr unsigned long long sampleBytes = 2;
 // Where a raw block keeps its samples.
 constexpr unsigned long long ruwePayload = 12;
-
-unsigned int leesAantal(unsigned char const* bytes) {
-  return MaakWoord(bytes[3], bytes[2], bytes[1], bytes[0]);
-}
 
 // A packet over somebody else's samples holds them behind the one pointer type that it has; the
 // caller decides whether the two operations that write are called on it.
@@ -42,8 +40,8 @@ VelmoraPCMPakket::VelmoraPCMPakket(short const* samples, unsigned long long aant
       sampFreq(freq) {}
 
 VelmoraPCMPakket::VelmoraPCMPakket(unsigned char const* ruw, VelmoraPCMPakket* vorige)
-    : VelmoraDataPakket(alsSamples(ruw + ruwePayload), sampleBytes * leesAantal(ruw), sampleBytes,
-                        false),
+    : VelmoraDataPakket(alsSamples(ruw + ruwePayload), sampleBytes * leesSerieelAantal(ruw),
+                        sampleBytes, false),
       sampFreq(MaakShort(ruw[5], ruw[4]), 1) {
   if (vorige != nullptr) {
     vorige->zetVolgende(this);
@@ -51,10 +49,7 @@ VelmoraPCMPakket::VelmoraPCMPakket(unsigned char const* ruw, VelmoraPCMPakket* v
 }
 
 unsigned long long VelmoraPCMPakket::geefAantalSamples() const {
-  // Right for element sizes 1 and 2, the only two in use. The mask keeps the size 0 of an empty
-  // packet a defined shift of its 0 bytes.
-  constexpr unsigned long long masker = 63;
-  return geefAantalBytes() >> ((geefElementGrootte() - 1) & masker);
+  return geefAantalElementen();
 }
 
 unsigned long long VelmoraPCMPakket::serieelGeefAantalBytes() const {
@@ -62,8 +57,7 @@ unsigned long long VelmoraPCMPakket::serieelGeefAantalBytes() const {
 }
 
 void VelmoraPCMPakket::vlakAf(unsigned long long bitShift) {
-  constexpr unsigned long long masker = 31;
-  int const deler = static_cast<int>(1U << (bitShift & masker));
+  int const deler = dacDeler(bitShift);
   unsigned long long const aantal = geefAantalSamples();
   for (unsigned long long i = 0; i < aantal; ++i) {
     zetElement(i, static_cast<short>(geefElement(i) / deler));
@@ -73,13 +67,7 @@ void VelmoraPCMPakket::vlakAf(unsigned long long bitShift) {
 void VelmoraPCMPakket::maakSerieel(VelmoraArray<unsigned char>& doel, bool metHeader) const {
   unsigned char* uit = doel.geefElementen();
   if (metHeader) {
-    auto const aantal = static_cast<unsigned int>(geefAantalSamples());
-    auto const freq = static_cast<unsigned short>(sampFreq.teller());
-    for (unsigned long long i = 0; i < sizeof aantal; ++i) {
-      *uit++ = byteInLong(aantal, i);
-    }
-    *uit++ = LaagByte(freq);
-    *uit++ = HoogByte(freq);
+    uit = schrijfSerieleKop(uit, geefAantalSamples(), sampFreq);
   }
   std::copy_n(bytes(), geefAantalBytes(), uit);
 }
@@ -88,9 +76,9 @@ void VelmoraPCMPakket::leesInSerieel(VelmoraArray<unsigned char> const& bron) {
   if (bron.geefAantal() < SerieeleOverhead) {
     return;
   }
-  sampFreq = Breuk(MaakWoord(static_cast<unsigned short>(bron[5]), bron[4]), 1);
+  sampFreq = leesSerieleFreq(bron.geefElementen());
   unsigned long long const aantal =
-      std::min({static_cast<unsigned long long>(leesAantal(bron.geefElementen())),
+      std::min({static_cast<unsigned long long>(leesSerieelAantal(bron.geefElementen())),
                 bron.geefAantal() - SerieeleOverhead, geefAantalBytes()});
   std::copy_n(bron.geefElementen() + SerieeleOverhead, aantal, bytes());
 }

@@ -38,7 +38,7 @@ std::string kop(std::string const& pad, SF_INFO const& info) {
 std::string telling(int taal, std::string const& klasse, std::string const& naam,
                     unsigned long long aantal) {
   return geschreven([&](FragmentTekst& tekst) {
-    tekst.schrijfTelling({taal, wxTekst(klasse), wxTekst(naam)}, "_teller", aantal);
+    tekst.schrijfTelling({taal, wxTekst(klasse), wxTekst(naam)}, {"_teller", aantal});
   });
 }
 

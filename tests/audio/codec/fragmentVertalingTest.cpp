@@ -59,7 +59,7 @@ TEST(FragmentVertaling, deAndereRegelsWordenNietVertaald) {
     FragmentDoel const doel{0, "", "n"};
     SF_INFO info{};
     schrijver.schrijfKop(wxFileName("n.wav"), info);
-    schrijver.schrijfTelling(doel, "_x", 1);
+    schrijver.schrijfTelling(doel, {"_x", 1});
     schrijver.schrijfArrayKop(doel, "unsigned char");
     schrijver.schrijfRijen(VelmoraArray<unsigned char>(1));
     schrijver.schrijfEinde(wxFileName("n.wav"));
