@@ -55,7 +55,7 @@ class VelmoraDataPakket {
         aantalBytes(grootteInBytes),
         elementGrootte(elementBytes),
         eigenaar(neemtOver),
-        bezit(neemtOver ? std::shared_ptr<T[]>(blok) : std::shared_ptr<T[]>()) {}
+        bezit(neemtOver ? Bezit(blok) : Bezit()) {}
   // Copies all fields of `ander`, the flag of ownership too. Two owners of one block share it: the
   // last one to go releases it.
   struct OverHetzelfdeBlok {};
@@ -74,10 +74,12 @@ class VelmoraDataPakket {
   unsigned char* bytes() const { return reinterpret_cast<unsigned char*>(data); }
 
  private:
+  using Bezit = std::shared_ptr<T[]>;  // NOLINT(modernize-avoid-c-arrays): of any length
+
   T* data = nullptr;
   unsigned long long aantalBytes = 0;
   unsigned long long elementGrootte = 0;
   bool eigenaar = false;
   VelmoraDataPakket* volgende = nullptr;
-  std::shared_ptr<T[]> bezit;  // the block, where the packet owns it
+  Bezit bezit;  // the block, where the packet owns it
 };

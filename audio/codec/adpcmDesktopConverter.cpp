@@ -1,0 +1,107 @@
+#include "audio/codec/adpcmDesktopConverter.h"
+
+#include <wx/filename.h>
+#include <wx/mstream.h>
+#include <wx/wfstream.h>
+
+#include <array>
+#include <memory>
+#include <vector>
+
+#include "audio/codec/adpcmPakket.h"
+#include "audio/codec/fragmentTekst.h"
+#include "audio/codec/pcmPakket.h"
+#include "audio/codec/sndBestand.h"
+#include "numeriek/byteGereedschap.h"
+
+namespace {
+
+// The size that a binary image gives for itself: all of its first eight bytes, little-endian. What
+// a shorter file lacks counts as zero.
+unsigned long long leesGrootte(wxInputStream& stroom) {
+  std::array<unsigned char, 8> b{};
+  stroom.Read(b.data(), b.size());
+  constexpr unsigned int woordBits = 32;
+  return (static_cast<unsigned long long>(MaakWoord(b[7], b[6], b[5], b[4])) << woordBits) |
+         MaakWoord(b[3], b[2], b[1], b[0]);
+}
+
+}  // namespace
+
+ADPCMDesktopConverter::ADPCMDesktopConverter(ADPCMEncoderOpties const& opties)
+    : taal(opties.taal), klasseNaam(opties.klasseNaam), optieBitShift(opties.bitShift) {}
+
+void ADPCMDesktopConverter::zetOpties(ADPCMEncoderOpties const& opties) {
+  taal = opties.taal;
+  klasseNaam = opties.klasseNaam;
+  optieBitShift = opties.bitShift;
+  zetBitShift(optieBitShift);
+}
+
+VelmoraADPCMPakket* ADPCMDesktopConverter::codeerBestand(wxFileName const& wav) {
+  SndBestand bestand = SndBestand::lees(wav);
+  auto const frames = static_cast<std::size_t>(bestand.info().frames);
+  Breuk const freq(bestand.info().samplerate, 1);
+  auto pakket = std::make_unique<VelmoraADPCMPakket>(frames >> 1U, freq);
+  std::vector<short> samples(frames);
+  bestand.leesItems(samples.data(), bestand.info().frames);
+  encodeer(VelmoraPCMPakket(samples.data(), frames, freq), *pakket);
+  return pakket.release();
+}
+
+void ADPCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
+                                          wxMemoryOutputStream& uit) {
+  std::unique_ptr<VelmoraADPCMPakket> const pakket(codeerBestand(wav));
+  // The lines about the file tell what it is now, the array what was read from it.
+  SndBestand const bestand = SndBestand::lees(wav);
+  VelmoraArray<unsigned char> array(pakket->serieelGeefAantalBytes());
+  pakket->maakSerieel(array, metHeader);
+
+  // The first count is one of bytes, two samples each, whatever its name says.
+  FragmentTekst(uit).schrijfFragment(wav, bestand.info(), {taal, klasseNaam, wav.GetName()},
+                                     {{"_adpcmNumberOfEncSamples", pakket->geefAantalElementen()},
+                                      {"_pcmNumberOfSamples", pakket->geefAantalSamples()}},
+                                     array, metHeader);
+  // A memory stream takes more text after this.
+  uit.Close();
+}
+
+void ADPCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
+                                          wxFileName const& uitvoer) {
+  std::unique_ptr<VelmoraADPCMPakket> const pakket(codeerBestand(wav));
+  VelmoraArray<unsigned char> array(pakket->serieelGeefAantalBytes());
+  pakket->maakSerieel(array, metHeader);
+  wxFileOutputStream bestand(uitvoer.GetFullPath());
+  if (bestand.IsOk()) {
+    bestand.Write(array.geefElementen(), array.geefAantal());
+  }
+}
+
+VelmoraPCMPakket* ADPCMDesktopConverter::decodeerBestand(wxFileName const& bron) {
+  wxFileInputStream stroom(bron.GetFullPath());
+  unsigned long long grootte = 0;
+  if (stroom.IsOk()) {
+    grootte = leesGrootte(stroom);
+    stroom.SeekI(0);
+  }
+  VelmoraArray<unsigned char> array(grootte);
+  if (array.geefAantal() != 0) {
+    stroom.Read(array.geefElementen(), array.geefAantal());
+  }
+  constexpr int beginFreq = 8000;  // until the image tells
+  VelmoraADPCMPakket pakket(grootte, Breuk(beginFreq, 1));
+  pakket.leesInSerieel(array);
+  auto pcm = std::make_unique<VelmoraPCMPakket>(pakket.geefAantalSamples(), pakket.geefSampFreq());
+  decodeer(pakket, *pcm);
+  return pcm.release();
+}
+
+void ADPCMDesktopConverter::decodeerBestand(wxFileName const& bron, wxFileName const& doel) {
+  wxFileInputStream const stroom(bron.GetFullPath());
+  if (!stroom.IsOk()) {
+    return;
+  }
+  std::unique_ptr<VelmoraPCMPakket> const pakket(decodeerBestand(bron));
+  SndBestand::schrijfMono(doel, static_cast<int>(pakket->geefSampFreq().rondAf(false)))
+      .schrijfItems(pakket->geefData(), static_cast<sf_count_t>(pakket->geefAantalSamples()));
+}
