@@ -92,6 +92,7 @@ HoofdVenster::HoofdVenster(wxWindow* parent, int id, wxString const& title, wxPo
       instellingen(&wxGetApp().geefInstellingen()),
       config(wxGetApp().geefAppConfig()),
       bestandGeschiedenis(geschiedenisLengte, wxID_FILE1),
+      adpcmConverter(ADPCMEncoderOpties(ADPCMTaalC, 0)),
       pcmConverter(PCMEncoderOpties(PCMTaalC, 0)) {
   paneel =
       new wxPanel(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL | wxNO_BORDER);

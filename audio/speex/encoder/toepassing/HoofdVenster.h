@@ -16,6 +16,7 @@
 #include <memory>
 #include <vector>
 
+#include "audio/codec/adpcmDesktopConverter.h"
 #include "audio/codec/pcmDesktopConverter.h"
 #include "audio/speex/encoder/toepassing/kestrolinConfig.h"
 
@@ -123,6 +124,12 @@ class HoofdVenster : public wxFrame {
   bool neemBandOver(std::size_t index, int samplerate);
 
   unsigned long long geefBitShift() const;
+  // The settings as the options of one of the converters below.
+  template <typename Opties>
+  Opties maakOpties() const;
+  // Completes the run of such a converter, and carries it out.
+  template <typename Opties, typename Converter>
+  void voerConverterRunUit(Converter& converter, CoderingsRun run);
   void maakSpeexEncoder();
   void meldCoderenMislukt(wxFileName const& wav);
   // False when the run ended before its last file.
@@ -169,6 +176,8 @@ class HoofdVenster : public wxFrame {
   wxFileHistory bestandGeschiedenis;
   wxFileName embedBestand;  // the last path saved as embedded WAV images
   wxFileName speexBestand;  // the last path saved as generated text
+  // Its coder's state goes on from run to run.
+  ADPCMDesktopConverter adpcmConverter;
   PCMDesktopConverter pcmConverter;
   // The encoder of the run that is on. A run ends its own encoder and never one that another run
   // left: that of a failed run stays until the next run takes its place, and then waits for the

@@ -65,29 +65,45 @@ void HoofdVenster::encodeSpeex(wxCommandEvent& /*event*/) {
   }
 }
 
-// The ADPCM run comes with its encoder.
-void HoofdVenster::encodeADPCM(wxCommandEvent& /*event*/) {}
+void HoofdVenster::encodeADPCM(wxCommandEvent& /*event*/) {
+  CoderingsRun run;
+  run.encoder = "ADPCM";
+  run.berichtStaart = [] {
+    return wxString::Format(veiligFormaat(_("\nwas successfully encoded to ADPCM.")));
+  };
+  run.titel = "ADPCM encoding succeeded";
+  run.status = _("Audio encoded in ADPCM embedded format");
+  voerConverterRunUit<ADPCMEncoderOpties>(adpcmConverter, run);
+}
 
 void HoofdVenster::encodePCM(wxCommandEvent& /*event*/) {
   CoderingsRun run;
   run.encoder = "PCM";
-  run.typen = {"// extern const unsigned char ", "// static const unsigned char "};
-  run.bereidVoor = [this] {
-    int const taal = instellingen->speexOutputLanguage;
-    pcmConverter.zetOpties(
-        taal == UitvoerTaalC
-            ? PCMEncoderOpties(PCMTaalC, geefBitShift())
-            : PCMEncoderOpties(static_cast<PCMEncoderTaal>(taal), klasseNaam, geefBitShift()));
-  };
-  run.codeer = [this](wxFileName const& wav, bool metHeader) {
-    pcmConverter.codeerBestand(wav, metHeader, uitvoerStroom);
-    return true;
-  };
   run.berichtStaart = [] {
     return wxString::Format(veiligFormaat(_("\nwas successfully encoded to PCM.")));
   };
   run.titel = "PCM encoding succeeded";
   run.status = _("Audio encoded in PCM embedded format");
+  voerConverterRunUit<PCMEncoderOpties>(pcmConverter, run);
+}
+
+template <typename Opties>
+Opties HoofdVenster::maakOpties() const {
+  auto const taal = static_cast<decltype(Opties::taal)>(instellingen->speexOutputLanguage);
+  return instellingen->speexOutputLanguage == UitvoerTaalC
+             ? Opties(taal, geefBitShift())
+             : Opties(taal, klasseNaam, geefBitShift());
+}
+
+// Of the converter nothing is made anew: what it remembers of earlier runs counts in this one.
+template <typename Opties, typename Converter>
+void HoofdVenster::voerConverterRunUit(Converter& converter, CoderingsRun run) {
+  run.typen = {"// extern const unsigned char ", "// static const unsigned char "};
+  run.bereidVoor = [&] { converter.zetOpties(maakOpties<Opties>()); };
+  run.codeer = [&](wxFileName const& wav, bool metHeader) {
+    converter.codeerBestand(wav, metHeader, uitvoerStroom);
+    return true;
+  };
   voerRunUit(run);
 }
 

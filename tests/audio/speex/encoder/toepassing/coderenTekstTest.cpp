@@ -24,11 +24,6 @@ constexpr char const* headerUitleg =
 
 class CoderenTekstProef : public WerkProef {
  protected:
-  // Unchecks the header box and says yes to the question.
-  void zonderHeader() {
-    antwoorden.opBericht(wxID_YES);
-    zet(vakje(ID_INCL_HEADER), false);
-  }
   // Gets to the state of being loaded without a file.
   void laadNiets() {
     laad({wav("bel.wav")});

@@ -143,11 +143,6 @@ void SpeexRunProef::laadFragmenten(SpeexFragmenten const& fragmenten, int rate) 
   ASSERT_EQ(laad(paden).size(), fragmenten.size());
 }
 
-void SpeexRunProef::zonderHeader() {
-  antwoorden.opBericht(wxID_YES);
-  zet(vakje(ID_INCL_HEADER), false);
-}
-
 std::string SpeexRunProef::codeerTekst() {
   return metMomentRegel(codeer());
 }

@@ -45,8 +45,6 @@ class SpeexRunProef : public GereedProef {
  protected:
   // Writes and loads these files, the last one first.
   void laadFragmenten(SpeexFragmenten const& fragmenten, int rate = 8000);
-  // Unchecks the header box and says yes to the question.
-  void zonderHeader();
 
   // Encodes, and returns the text field in UTF-8 with momentRegel in it.
   std::string codeerTekst();

@@ -13,6 +13,10 @@ void WerkProef::begin(int taal, wxString const& vensterRegels, wxString const& s
   beginMet(EncoderPCM, taal, vensterRegels, speexRegels, meer);
 }
 
+void WerkProef::beginAdpcm(int taal, wxString const& speexRegels, wxString const& meer) {
+  beginMet(EncoderADPCM, taal, wxEmptyString, speexRegels, meer);
+}
+
 void WerkProef::beginSpeex(int taal, wxString const& speexRegels, wxString const& meer) {
   beginMet(EncoderSpeex, taal, wxEmptyString, speexRegels, meer);
 }
@@ -39,6 +43,11 @@ wxString WerkProef::submap(std::string const& naam) {
   wxString const volledig = pad(wxString::FromUTF8(naam.c_str()));
   EXPECT_TRUE(wxFileName::Mkdir(volledig, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL));
   return volledig;
+}
+
+void WerkProef::zonderHeader() {
+  antwoorden.opBericht(wxID_YES);
+  zet(vakje(ID_INCL_HEADER), false);
 }
 
 wxString WerkProef::codeer() {

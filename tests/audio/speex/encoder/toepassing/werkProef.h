@@ -26,6 +26,9 @@ class WerkProef : public VensterProef {
   // that of the encoder settings, and groups of their own.
   void begin(int taal = 0, wxString const& vensterRegels = wxEmptyString,
              wxString const& speexRegels = wxEmptyString, wxString const& meer = wxEmptyString);
+  // The same with the ADPCM encoder.
+  void beginAdpcm(int taal = 0, wxString const& speexRegels = wxEmptyString,
+                  wxString const& meer = wxEmptyString);
   // The same with the Speex encoder.
   void beginSpeex(int taal = 0, wxString const& speexRegels = wxEmptyString,
                   wxString const& meer = wxEmptyString);
@@ -38,6 +41,8 @@ class WerkProef : public VensterProef {
   // Makes a directory in the test's own and returns its full path.
   wxString submap(std::string const& naam);
 
+  // Unchecks the header box and says yes to the question.
+  void zonderHeader();
   // Clicks Encode, closes the message, and returns the text field with the moment taken out.
   wxString codeer();
   // Clicks Save and chooses this path, which no file may have yet.
