@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <string>
 
+#include "bench/adpcmTekst.h"
 #include "bench/pcmTekst.h"
 #include "bench/speexTekst.h"
 
@@ -19,7 +20,8 @@ int main() {
   }
   wxLog::SetLogLevel(wxLOG_Warning);
   bool const pcm = meetPcm(map);
+  bool const adpcm = meetAdpcm(map);
   bool const speex = meetSpeex(map);
   wxFileName::Rmdir(map, wxPATH_RMDIR_RECURSIVE);
-  return pcm && speex ? 0 : 1;
+  return pcm && adpcm && speex ? 0 : 1;
 }
