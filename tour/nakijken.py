@@ -2,10 +2,12 @@
 
 from __future__ import annotations
 
+import audioop
 import re
 import struct
 import subprocess
 import wave
+from array import array
 from pathlib import Path
 
 
@@ -106,3 +108,35 @@ def keur_speex(bron: Path, fragmenten: list[Path]) -> None:
             raise Afgekeurd(f"{bron.name}: {wav.stem} has {len(frames)} frames")
         if not all(frames):
             raise Afgekeurd(f"{bron.name}: {wav.stem} has an empty frame")
+
+
+def smalle_samples(wav: Path) -> bytes:
+    """What of a fragment reaches the ADPCM coder for a DAC of 16 bits: the low byte of each sample
+    with its sign, in 16 bits again, without an odd last one."""
+    with wave.open(str(wav), "rb") as bron:
+        samples = bron.readframes(bron.getnframes() & ~1)
+    return array("h", array("b", samples[::2])).tobytes()
+
+
+# Where an ADPCM coder stands: its prediction and index. None before its first code.
+Stand = tuple[int, int] | None
+
+
+def codes_van(wav: Path, stand: Stand) -> tuple[bytes, Stand]:
+    """The codes of a fragment by another coder, and where it then stands."""
+    codes, stand = audioop.lin2adpcm(smalle_samples(wav), 2, stand)
+    # That coder puts the earlier code in the high half of a byte.
+    return bytes((b & 0x0F) << 4 | b >> 4 for b in codes), stand
+
+
+def keur_adpcm(bron: Path, fragmenten: list[Path], stand: Stand = None) -> Stand:
+    """Each array is the header of nine bytes, with a start from 0 and 0, and the codes of a coder
+    that runs on from fragment to fragment. Returns where it stands behind the last one."""
+    gevonden = _arrays_van(bron, fragmenten)
+    for wav in sorted(fragmenten):
+        codes, stand = codes_van(wav, stand)
+        with wave.open(str(wav), "rb") as geluid:
+            kop = struct.pack("<IHhB", len(codes), geluid.getframerate(), 0, 0)
+        if gevonden[wav.stem] != kop + codes:
+            raise Afgekeurd(f"{bron.name}: {wav.stem} does not hold the codes of the fragment")
+    return stand

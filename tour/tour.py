@@ -20,7 +20,9 @@ from toegang import Fout
 FRAGMENTEN = Path(__file__).resolve().parent.parent / "fragmenten"
 BESTANDEN = ("ready.wav", "warning.wav")
 KLASSE = "Sounds"
+SOORTEN = ("Speex", "Adpcm", "Pcm")
 MELDING_SPEEX = "% of the original size"
+MELDING_ADPCM = "was successfully encoded to ADPCM."
 MELDING_PCM = "was successfully encoded to PCM."
 
 
@@ -45,6 +47,7 @@ class Tour:
             ("settings: a class name, and Speex as it stands", self._stel_in),
             ("speex: encoded to C++ arrays of Speex frames", self._codeer_speex),
             ("save: the C++ source gets its name", self._bewaar_speex),
+            ("adpcm: the same class with ADPCM arrays, saved", self._bewaar_adpcm),
             ("pcm: the same class with PCM arrays, saved", self._bewaar_pcm),
             ("c: encoded again in C, and saved", self._bewaar_c),
             ("exit: through the menu", self._verlaat),
@@ -89,14 +92,12 @@ class Tour:
         self._compileer_klasse(doel)
         nakijken.keur_speex(doel, self._bronnen())
 
+    def _bewaar_adpcm(self) -> None:
+        doel = self._codeer_klasse("ADPCM", MELDING_ADPCM, "7-adpcm")
+        nakijken.keur_adpcm(doel, self._bronnen())
+
     def _bewaar_pcm(self) -> None:
-        doel = self._firmware / f"{KLASSE}.cpp"
-        self._p.keuzerondje("PCM")
-        self._p.codeer(MELDING_PCM)
-        self._p.sluit_melding()
-        self.foto("7-pcm")
-        self._p.bewaar(doel)
-        self._compileer_klasse(doel)
+        doel = self._codeer_klasse("PCM", MELDING_PCM, "8-pcm")
         nakijken.keur_arrays(doel, self._bronnen())
 
     def _bewaar_c(self) -> None:
@@ -105,14 +106,14 @@ class Tour:
         self._p.codeer(MELDING_PCM)
         self._p.sluit_melding()
         self._p.bewaar(doel)
-        self.foto("8-c")
+        self.foto("9-c")
         self._neem_over(doel)
         nakijken.compileer_c(doel)
         nakijken.keur_arrays(doel, self._bronnen())
 
     def _verlaat(self) -> None:
         self._p.open_bestandsmenu()
-        self.foto("9-exit")
+        self.foto("10-exit")
         status = self._p.kies_exit()
         if status:
             raise nakijken.Afgekeurd(f"the program ended with status {status}")
@@ -121,6 +122,17 @@ class Tour:
 
     def _neem_over(self, bestand: Path) -> None:
         shutil.copy(bestand, self._resultaten)
+
+    def _codeer_klasse(self, encoder: str, melding: str, foto: str) -> Path:
+        """Encodes the class with another encoder, and saves it in a source of its own."""
+        doel = self._firmware / f"{KLASSE}{encoder.capitalize()}.cpp"
+        self._p.keuzerondje(encoder)
+        self._p.codeer(melding)
+        self._p.sluit_melding()
+        self.foto(foto)
+        self._p.bewaar(doel)
+        self._compileer_klasse(doel)
+        return doel
 
     def _compileer_klasse(self, bron: Path) -> None:
         self._neem_over(bron)
@@ -135,8 +147,8 @@ class Tour:
 def maak_leeg(resultaten: Path) -> None:
     """Makes the folder and takes an earlier tour's results out of it, but nothing else."""
     resultaten.mkdir(parents=True, exist_ok=True)
-    bronnen = (f"{KLASSE}{soort}.{uitgang}" for soort in ("", "Speex") for uitgang in ("cpp", "h"))
-    for patroon in ("[1-9]-*.png", "failed.png", "sounds.c", *bronnen):
+    bronnen = (f"{KLASSE}{soort}.{uitgang}" for soort in SOORTEN for uitgang in ("cpp", "h"))
+    for patroon in ("[0-9]*-*.png", "failed.png", "sounds.c", *bronnen):
         for oud in resultaten.glob(patroon):
             oud.unlink()
 
@@ -157,8 +169,8 @@ def loop(programma: Path, resultaten: Path) -> int:
                 print("\n".join(p.foutregels()), file=sys.stderr)
                 print(f"Screenshots so far: {resultaten}", file=sys.stderr)
                 return 1
-    print("All sources compile. The PCM arrays hold the fragments byte for byte, the Speex arrays\n"
-          "all their frames.")
+    print("All sources compile. The PCM arrays hold the fragments byte for byte, the ADPCM arrays\n"
+          "the codes that another coder gives, the Speex arrays all their frames.")
     print(f"Screenshots and sources: {resultaten}")
     return 0
 

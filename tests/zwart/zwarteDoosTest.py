@@ -160,6 +160,28 @@ def speex(programma: Path, thuis: Path) -> None:
     gelijk(gevonden["Gebruikersinstellingen/Speex"]["speexOutputLanguage"], "0", "language")
 
 
+def adpcm(programma: Path, thuis: Path) -> None:
+    """Load, encode to ADPCM in C, and again: the coder goes on where the first run ended."""
+    runs = [thuis / "eerste.c", thuis / "tweede.c"]
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        wavs = laad(p, thuis / "geluid", ("ready.wav", "warning.wav"))
+        p.keuzerondje("C")
+        for doel in runs:
+            # Another encoder in between gives the result up, so that Encode comes back.
+            p.keuzerondje("PCM")
+            p.keuzerondje("ADPCM")
+            p.codeer("was successfully encoded to ADPCM.")
+            p.sluit_melding()
+            p.bewaar(doel)
+        keur_einde(p, p.verlaat())
+    stand = None
+    for doel in runs:
+        nakijken.compileer_c(doel)
+        stand = nakijken.keur_adpcm(doel, wavs, stand)
+    gelijk(lees_instellingen(thuis)["Configuratie"]["Convertertype"], "1", "Convertertype")
+
+
 def tweede(programma: Path, thuis: Path) -> None:
     with Programma(programma, thuis) as een:
         wacht_op_rust(een)
@@ -195,6 +217,7 @@ GEVALLEN: dict[str, Callable[[Path, Path], None]] = {
     "eersteStart": eerste_start,
     "weg": weg,
     "speex": speex,
+    "adpcm": adpcm,
     "tweede": tweede,
     "kleinScherm": klein_scherm,
     "sluitvak": sluitvak,
