@@ -98,7 +98,8 @@ VelmoraPCMPakket* ADPCMDesktopConverter::decodeerBestand(wxFileName const& bron)
 
 void ADPCMDesktopConverter::decodeerBestand(wxFileName const& bron, wxFileName const& doel) {
   wxFileInputStream const stroom(bron.GetFullPath());
-  if (!stroom.IsOk()) {
+  // A folder opens too.
+  if (!stroom.IsOk() || !bron.FileExists()) {
     return;
   }
   std::unique_ptr<VelmoraPCMPakket> const pakket(decodeerBestand(bron));

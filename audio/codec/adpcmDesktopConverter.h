@@ -61,7 +61,7 @@ class ADPCMDesktopConverter : public ADPCMConverter {
   VelmoraPCMPakket* decodeerBestand(wxFileName const& bron);
 
   // The same to a mono 16-bit WAV file. A frequency that libsndfile refuses, as it does 0, leaves
-  // there what libsndfile leaves: no samples. A `bron` that cannot be opened leaves `doel` alone.
+  // there what libsndfile leaves: no samples. A `bron` that is no file leaves `doel` alone.
   void decodeerBestand(wxFileName const& bron, wxFileName const& doel);
 
   // Decodes a packet to a temporary WAV file and plays that, returning when the sound has ended.

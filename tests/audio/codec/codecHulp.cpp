@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdio>
 
+#include "tests/steun/opdracht.h"
+
 std::string const momentRegel = "/* Date : DATE : TIME\t\t*/\n";
 
 namespace {
@@ -19,6 +21,24 @@ std::string hexadecimaal(unsigned int waarde) {
 std::string tweeDecimalen(int honderdsten) {
   int const rest = honderdsten % 100;
   return std::to_string(honderdsten / 100) + (rest < 10 ? ".0" : ".") + std::to_string(rest);
+}
+
+// In whole hundredths of a second, with the half going up: no test here has a tie.
+std::string verwachteDuur(VerwachteTekst const& gegevens) {
+  if (gegevens.rate == 0) {
+    return "nan";
+  }
+  return tweeDecimalen((gegevens.frames * 200 / gegevens.rate + 1) / 2);
+}
+
+// Empty in a language that has no such line.
+std::string tellingRegel(VerwachteTekst const& gegevens, VerwachteTelling const& telling) {
+  std::string const waarde =
+      gegevens.naam + telling.achtervoegsel + "=" + std::to_string(telling.aantal) + ";";
+  if (gegevens.taal == 0) {
+    return "/* const unsigned int " + waarde + " */\n";
+  }
+  return gegevens.taal == 1 ? "//const unsigned int " + gegevens.klasse + "::" + waarde + "\n" : "";
 }
 
 std::string regelVan(std::string const& tekst, std::size_t plaats) {
@@ -108,6 +128,13 @@ Bytes verwachtBeeld(std::vector<int> const& samples, int rate, bool metHeader) {
   return beeld;
 }
 
+testing::AssertionResult luktIn(std::string const& map, std::string const& opdracht) {
+  if (voerUit("cd '" + map + "' && { " + opdracht + "; } > uitvoer.txt 2>&1") == 0) {
+    return testing::AssertionSuccess();
+  }
+  return testing::AssertionFailure() << opdracht << "\n" << leesTekst(map + "/uitvoer.txt");
+}
+
 std::vector<int> gedeeld(std::vector<int> waarden, int deler) {
   for (int& waarde : waarden) {
     bool const negatief = waarde < 0;
@@ -126,24 +153,17 @@ std::string verwachteRijen(Bytes const& bytes) {
   return rijen;
 }
 
-std::string maakVerwachteTekst(VerwachteTekst const& gegevens) {
-  std::string const aantal = std::to_string(gegevens.samples.size());
+std::string maakVerwachteTekst(VerwachteTekst const& gegevens,
+                               std::vector<VerwachteTelling> const& tellingen, Bytes const& beeld) {
   std::string tekst = "\n/* Encoded on Linux (64 bit)\t\t*/\n";
   tekst += momentRegel;
   tekst += "/* WAV file : " + gegevens.bestand + "\t\t*/\n";
   tekst += "/* WAV information :   \t\t*/\n";
   tekst += "/* Sampling frequency         : " + std::to_string(gegevens.rate) + " Hz\t\t*/\n";
   tekst += "/* Original size              : " + std::to_string(gegevens.frames) + " frames\t\t*/\n";
-  // In whole hundredths of a second, with the half going up: no test here has a tie.
-  int const honderdsten = gegevens.rate == 0 ? 0 : (gegevens.frames * 200 / gegevens.rate + 1) / 2;
-  tekst += "/* Original duration          : " +
-           (gegevens.rate == 0 ? "nan" : tweeDecimalen(honderdsten)) + " s\t\t*/\n";
-  if (gegevens.taal == 0) {
-    tekst +=
-        "/* const unsigned int " + gegevens.naam + "_pcmNumberOfEncSamples=" + aantal + "; */\n";
-  } else if (gegevens.taal == 1) {
-    tekst += "//const unsigned int " + gegevens.klasse + "::" + gegevens.naam +
-             "_pcmNumberOfEncSamples=" + aantal + ";\n";
+  tekst += "/* Original duration          : " + verwachteDuur(gegevens) + " s\t\t*/\n";
+  for (VerwachteTelling const& telling : tellingen) {
+    tekst += tellingRegel(gegevens, telling);
   }
   if (gegevens.taal == 0 || gegevens.taal == 1) {
     if (gegevens.metHeader) {
@@ -155,7 +175,12 @@ std::string maakVerwachteTekst(VerwachteTekst const& gegevens) {
     tekst += "const unsigned char " + (gegevens.taal == 1 ? gegevens.klasse + "::" : "") +
              gegevens.naam + "[] = \n{\n";
   }
-  tekst += verwachteRijen(verwachtBeeld(gegevens.samples, gegevens.rate, gegevens.metHeader));
+  tekst += verwachteRijen(beeld);
   tekst += "\n};\n\n/* end of encoded WAV file         : " + gegevens.bestand + "         */\n";
   return tekst;
+}
+
+std::string maakVerwachteTekst(VerwachteTekst const& gegevens) {
+  return maakVerwachteTekst(gegevens, {{"_pcmNumberOfEncSamples", gegevens.samples.size()}},
+                            verwachtBeeld(gegevens.samples, gegevens.rate, gegevens.metHeader));
 }

@@ -35,6 +35,9 @@ testing::AssertionResult zelfdeTekst(std::string const& gevonden, std::string co
 // The bytes that an array holds: the six of the header, or six zeros behind the samples.
 Bytes verwachtBeeld(std::vector<int> const& samples, int rate, bool metHeader);
 
+// Runs a line of shell in a directory; what it says goes into the failure.
+testing::AssertionResult luktIn(std::string const& map, std::string const& opdracht);
+
 // Each value divided by `deler`, toward zero.
 std::vector<int> gedeeld(std::vector<int> waarden, int deler);
 
@@ -46,10 +49,19 @@ struct VerwachteTekst {
   std::string bestand = "toon.wav";
   int rate = 8000;
   int frames = 0;
-  std::vector<int> samples;  // as they stand in the array
+  std::vector<int> samples;  // as they stand in a PCM array
 };
 
-// The text of one fragment with momentRegel in it.
+// A line of its own with a count, under the array's name with `achtervoegsel` behind it.
+struct VerwachteTelling {
+  std::string achtervoegsel;
+  std::size_t aantal;
+};
+
+// The text of one fragment with momentRegel in it: with these counts and these bytes in its array,
+// or those of PCM.
+std::string maakVerwachteTekst(VerwachteTekst const& gegevens,
+                               std::vector<VerwachteTelling> const& tellingen, Bytes const& beeld);
 std::string maakVerwachteTekst(VerwachteTekst const& gegevens);
 
 // The rows of an array.

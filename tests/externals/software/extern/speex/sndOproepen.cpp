@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "tests/externals/software/extern/speex/krapGeheugen.h"
+#include "tests/steun/krapGeheugen.h"
 
 extern "C" {
 SNDFILE* echtOpen(char const* pad, int modus, SF_INFO* info) asm("__real_sf_open");

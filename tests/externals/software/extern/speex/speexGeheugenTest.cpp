@@ -10,10 +10,10 @@
 
 #include "externals/software/extern/speex/speexDesktop.h"
 #include "tests/audio/codec/codecHulp.h"
-#include "tests/externals/software/extern/speex/krapGeheugen.h"
 #include "tests/externals/software/extern/speex/sndOproepen.h"
 #include "tests/externals/software/extern/speex/speexHulp.h"
 #include "tests/externals/software/extern/speex/speexOproepen.h"
+#include "tests/steun/krapGeheugen.h"
 #include "tests/steun/tijdelijkeMap.h"
 #include "tests/steun/wavMaker.h"
 #include "tests/steun/wxMain.h"

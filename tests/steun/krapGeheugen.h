@@ -1,12 +1,15 @@
 // Memory that runs out on purpose: `operator new` of the whole program, which fails once when a
-// test asks for it.
+// test asks for it, and always at a size that no machine has, whatever the system or a sanitizer
+// would make of that.
 #pragma once
 
+#include <cstddef>
+
 // While it lives, the `nummer`-th allocation from here on, counted from 1, throws std::bad_alloc,
-// and that one alone; 0 lets all succeed.
+// and that one alone; 0 lets all succeed. Those of less than `vanaf` bytes do not count.
 class KrapGeheugen {
  public:
-  explicit KrapGeheugen(int nummer);
+  explicit KrapGeheugen(int nummer, std::size_t vanaf = 0);
   ~KrapGeheugen();
   KrapGeheugen(KrapGeheugen const&) = delete;
   KrapGeheugen& operator=(KrapGeheugen const&) = delete;
@@ -17,4 +20,6 @@ class KrapGeheugen {
   static int geteld();
   // True once an allocation has failed.
   static bool isGebleken();
+  // The most bytes that one allocation asked for so far, whether it got them or not.
+  static std::size_t grootste();
 };

@@ -1,0 +1,59 @@
+#include "tests/steun/geluidOpname.h"
+
+#include <wx/sound.h>
+
+#include <memory>
+#include <tuple>
+#include <utility>
+
+namespace {
+
+std::vector<OpgenomenGeluid>& geluiden() {
+  static std::vector<OpgenomenGeluid> opgenomen;
+  return opgenomen;
+}
+
+class Recorder : public wxSoundBackend {
+ public:
+  wxString GetName() const override { return "recorder"; }
+  int GetPriority() const override { return 0; }
+  bool IsAvailable() const override { return true; }
+  bool HasNativeAsyncPlayback() const override { return true; }
+  bool Play(wxSoundData* geluid, unsigned vlaggen,
+            volatile wxSoundPlaybackStatus* /*stand*/) override {
+    geluiden().push_back({geluid->m_channels, geluid->m_samplingRate, geluid->m_bitsPerSample,
+                          geluid->m_samples, geluid->m_dataBytes, vlaggen});
+    return true;
+  }
+  void Stop() override {}
+  bool IsPlaying() const override { return false; }
+};
+
+// The way to the toolkit's player, which only a sound knows.
+class Speler : public wxSound {
+ public:
+  // The toolkit owns it, and deletes it at its end.
+  static void vervang(std::unique_ptr<wxSoundBackend> nieuw) {
+    UnloadBackend();
+    ms_backend = nieuw.release();
+  }
+};
+
+}  // namespace
+
+bool OpgenomenGeluid::operator==(OpgenomenGeluid const& ander) const {
+  auto const velden = [](OpgenomenGeluid const& geluid) {
+    return std::tie(geluid.kanalen, geluid.rate, geluid.bits, geluid.samples, geluid.bytes,
+                    geluid.vlaggen);
+  };
+  return velden(*this) == velden(ander);
+}
+
+std::vector<OpgenomenGeluid> neemGeluiden() {
+  static bool const isGeplaatst = [] {
+    Speler::vervang(std::make_unique<Recorder>());
+    return true;
+  }();
+  static_cast<void>(isGeplaatst);
+  return std::exchange(geluiden(), {});
+}

@@ -1,0 +1,22 @@
+// The toolkit's sound, recorded instead of heard. What is played counts as over at once, also when
+// it was to be played on the side.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+struct OpgenomenGeluid {
+  unsigned int kanalen;
+  unsigned int rate;     // Hz
+  unsigned int bits;     // the width of a sample
+  unsigned int samples;  // of each channel
+  std::size_t bytes;     // of all samples
+  unsigned int vlaggen;  // wxSOUND_SYNC, wxSOUND_ASYNC, wxSOUND_LOOP
+
+  bool operator==(OpgenomenGeluid const& ander) const;
+};
+
+// What was played since the last call, in that order; the call empties the record. The first call
+// puts the recorder in the place of the toolkit's player, to the end of the process: sounds of
+// before that are not recorded.
+std::vector<OpgenomenGeluid> neemGeluiden();
