@@ -29,7 +29,10 @@ struct Kosten {
   Verbruik geheel;
   double arrayBytes;
 
-  bool geslaagd() const { return coderen.geslaagd && geheel.geslaagd && arrayBytes > 0; }
+  bool geslaagd() const {
+    return coderen.geslaagd && geheel.geslaagd && arrayBytes > 0 &&
+           geheel.seconden > coderen.seconden;
+  }
   // Array bytes a second of what comes behind the coding.
   double tekstSnelheid() const { return arrayBytes / (geheel.seconden - coderen.seconden); }
 };

@@ -9,8 +9,10 @@
 #include <vector>
 
 #include "audio/codec/adpcmPakket.h"
-#include "audio/codec/fragmentTekst.h"
+#include "audio/codec/arrayTekst.h"
+#include "audio/codec/beeldStroom.h"
 #include "audio/codec/pcmPakket.h"
+#include "audio/codec/pcmWav.h"
 #include "audio/codec/sndBestand.h"
 #include "numeriek/byteGereedschap.h"
 
@@ -52,18 +54,11 @@ VelmoraADPCMPakket* ADPCMDesktopConverter::codeerBestand(wxFileName const& wav) 
 void ADPCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
                                           wxMemoryOutputStream& uit) {
   std::unique_ptr<VelmoraADPCMPakket> const pakket(codeerBestand(wav));
-  // The lines about the file tell what it is now, the array what was read from it.
-  SndBestand const bestand = SndBestand::lees(wav);
-  VelmoraArray<unsigned char> array(pakket->serieelGeefAantalBytes());
-  pakket->maakSerieel(array, metHeader);
-
   // The first count is one of bytes, two samples each, whatever its name says.
-  FragmentTekst(uit).schrijfFragment(wav, bestand.info(), {taal, klasseNaam, wav.GetName()},
-                                     {{"_adpcmNumberOfEncSamples", pakket->geefAantalElementen()},
-                                      {"_pcmNumberOfSamples", pakket->geefAantalSamples()}},
-                                     array, metHeader);
-  // A memory stream takes more text after this.
-  uit.Close();
+  schrijfArrayTekst(*pakket, wav, {taal, klasseNaam, wav.GetName()},
+                    {{"_adpcmNumberOfEncSamples", pakket->geefAantalElementen()},
+                     {"_pcmNumberOfSamples", pakket->geefAantalSamples()}},
+                    metHeader, uit);
 }
 
 void ADPCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
@@ -78,15 +73,15 @@ void ADPCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
 }
 
 VelmoraPCMPakket* ADPCMDesktopConverter::decodeerBestand(wxFileName const& bron) {
-  wxFileInputStream stroom(bron.GetFullPath());
+  std::unique_ptr<wxFileInputStream> const stroom = openBeeld(bron);
   unsigned long long grootte = 0;
-  if (stroom.IsOk()) {
-    grootte = leesGrootte(stroom);
-    stroom.SeekI(0);
+  if (stroom) {
+    grootte = leesGrootte(*stroom);
+    stroom->SeekI(0);
   }
   VelmoraArray<unsigned char> array(grootte);
   if (array.geefAantal() != 0) {
-    stroom.Read(array.geefElementen(), array.geefAantal());
+    stroom->Read(array.geefElementen(), array.geefAantal());
   }
   constexpr int beginFreq = 8000;  // until the image tells
   VelmoraADPCMPakket pakket(grootte, Breuk(beginFreq, 1));
@@ -97,12 +92,12 @@ VelmoraPCMPakket* ADPCMDesktopConverter::decodeerBestand(wxFileName const& bron)
 }
 
 void ADPCMDesktopConverter::decodeerBestand(wxFileName const& bron, wxFileName const& doel) {
-  wxFileInputStream const stroom(bron.GetFullPath());
-  // A folder opens too.
-  if (!stroom.IsOk() || !bron.FileExists()) {
+  std::unique_ptr<wxFileInputStream> const stroom = openBeeld(bron);
+  if (!stroom) {
     return;
   }
-  std::unique_ptr<VelmoraPCMPakket> const pakket(decodeerBestand(bron));
-  SndBestand::schrijfMono(doel, static_cast<int>(pakket->geefSampFreq().rondAf(false)))
-      .schrijfItems(pakket->geefData(), static_cast<sf_count_t>(pakket->geefAantalSamples()));
+  std::unique_ptr<VelmoraPCMPakket> pakket(decodeerBestand(bron));
+  SndBestand const wav = schrijfWav(doel, *pakket);
+  // The samples are on disk; only the header is still to come.
+  pakket.reset();
 }

@@ -32,8 +32,8 @@ struct ADPCMEncoderOpties {
 };
 
 // None of the operations reports an error: a file that cannot be read counts as one of 0 samples at
-// 0 Hz. std::bad_alloc passes through. The coder's state goes on from file to file for the life of
-// the object, so that the same file gives other codes the second time.
+// 0 Hz. std::bad_alloc passes through, where the toolkit lets it. The coder's state goes on from
+// file to file for the life of the object, so that the same file gives other codes the second time.
 class ADPCMDesktopConverter : public ADPCMConverter {
  public:
   // The shift of the options reaches the coder with zetOpties only; until then nothing is scaled.
@@ -54,10 +54,11 @@ class ADPCMDesktopConverter : public ADPCMConverter {
   void codeerBestand(wxFileName const& wav, bool metHeader, wxFileName const& uitvoer);
 
   // Decodes a binary image. The caller owns the packet. On purpose all first eight bytes of the
-  // image count as its size, frequency and predictor too: an image of a real recording asks for
-  // more memory than there is, and leaves as std::bad_alloc. What can be decoded is an image whose
-  // frequency and predictor are 0. The frequency of the packet has the high byte at bit 16; it has
-  // two samples for each byte of that size, and what the file lacks counts as zero codes.
+  // image count as its size, frequency and predictor too: an image of a recording at 8000 Hz or
+  // more asks for more memory than there is, and leaves as std::bad_alloc. What can be decoded is
+  // an image whose frequency and predictor are 0. The frequency of the packet has the high byte at
+  // bit 16; it has two samples for each byte of that size, and what the file lacks counts as zero
+  // codes.
   VelmoraPCMPakket* decodeerBestand(wxFileName const& bron);
 
   // The same to a mono 16-bit WAV file. A frequency that libsndfile refuses, as it does 0, leaves

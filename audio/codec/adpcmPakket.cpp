@@ -15,12 +15,6 @@ constexpr std::size_t predictorLaag = 6;
 constexpr std::size_t predictorHoog = 7;
 constexpr std::size_t indexPlaats = 8;
 
-// A packet over somebody else's bytes holds them behind the one pointer type that it has; the
-// caller decides whether an operation that writes is called on it.
-unsigned char* zonderConst(unsigned char const* bytes) {
-  return const_cast<unsigned char*>(bytes);
-}
-
 }  // namespace
 
 VelmoraADPCMPakket::VelmoraADPCMPakket() : sampFreq(0, 1) {}

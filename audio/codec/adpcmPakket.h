@@ -7,7 +7,7 @@
 //   byte  0     1     2     3     4     5     6     7     8     9     10   ...
 //       +-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+--
 //       |number of bytes of code| frequency | predictor |index|code |code |
-//       |    unsigned 32-bit    | 16-bit Hz | signed 16 |0..88| 0,1 | 2,3 |
+//       |    unsigned 32-bit    | 16-bit Hz | signed 16 |     | 0,1 | 2,3 |
 //       +-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+--
 //
 //   a byte of code:     bit 7       4 3       0
@@ -36,8 +36,8 @@ class VelmoraADPCMPakket : public VelmoraDataPakket<unsigned char> {
   // block the two share it from here on, and the last one to go releases it.
   VelmoraADPCMPakket(VelmoraDataPakket<unsigned char> const& d, Breuk const& freq,
                      short beginPredictor, unsigned char index);
-  // Lies over `aantal` bytes of `bron` from byte `begin`, which must outlive it, with the frequency
-  // and the start state of `bron`: those are right where `begin` is 0.
+  // Lies over `aantal` bytes of `bron` from element `begin` on, which must outlive it, with the
+  // frequency and the start state of `bron`: those are right where `begin` is 0.
   VelmoraADPCMPakket(VelmoraADPCMPakket const& bron, unsigned long long begin,
                      unsigned long long aantal);
   // Lies over a serial image with header, which must outlive it. Byte 8 is not read: a packet over
@@ -52,7 +52,8 @@ class VelmoraADPCMPakket : public VelmoraDataPakket<unsigned char> {
 
   // The sampling frequency in Hz.
   Breuk geefSampFreq() const { return sampFreq; }
-  // The sample that a decoder counts on from, and the index of its first step, 0 to 88.
+  // The sample that a decoder counts on from, and the index of its first step: 0 to 88 in what an
+  // encoder made, any byte in what was read; above 88 it decodes as 88.
   int geefPredictor() const { return predictor; }
   unsigned char geefBeginIndex() const { return beginIndex; }
   // The number of samples in the block: two a byte, so always even.

@@ -5,7 +5,7 @@
 #include "audio/codec/adpcmDesktopConverter.h"
 #include "audio/codec/adpcmPakket.h"
 #include "audio/codec/pcmPakket.h"
-#include "audio/codec/sndBestand.h"
+#include "audio/codec/pcmWav.h"
 
 namespace {
 
@@ -28,9 +28,8 @@ void ADPCMDesktopConverter::speel(VelmoraADPCMPakket const& pakket) {
   VelmoraPCMPakket const pcm(pakket.geefAantalSamples(), pakket.geefSampFreq());
   decodeer(pakket, pcm);
   wxFileName const naam = tijdelijkBestand("tempwav");
-  SndBestand wav =
-      SndBestand::schrijfMono(naam, static_cast<int>(pcm.geefSampFreq().rondAf(false)));
-  wav.schrijfItems(pcm.geefData(), static_cast<sf_count_t>(pcm.geefAantalSamples()));
+  // Open until the sound has ended.
+  SndBestand const wav = schrijfWav(naam, pcm);
   speelBestand(naam);
 }
 

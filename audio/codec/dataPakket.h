@@ -68,6 +68,10 @@ class VelmoraDataPakket {
         bezit(ander.bezit) {}
   ~VelmoraDataPakket() = default;
 
+  // A packet over somebody else's block holds it behind the one pointer type that it has; the
+  // caller decides whether an operation that writes is called on it.
+  static T* zonderConst(T const* blok) { return const_cast<T*>(blok); }
+
   void zetVolgende(VelmoraDataPakket* pakket) { volgende = pakket; }
 
   // The payload as plain bytes.

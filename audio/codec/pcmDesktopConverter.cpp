@@ -9,8 +9,10 @@
 #include <memory>
 #include <vector>
 
-#include "audio/codec/fragmentTekst.h"
+#include "audio/codec/arrayTekst.h"
+#include "audio/codec/beeldStroom.h"
 #include "audio/codec/pcmPakket.h"
+#include "audio/codec/pcmWav.h"
 #include "audio/codec/sndBestand.h"
 #include "numeriek/byteGereedschap.h"
 
@@ -36,16 +38,8 @@ VelmoraPCMPakket* PCMDesktopConverter::codeerBestand(wxFileName const& wav) cons
 void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
                                         wxMemoryOutputStream& uit) const {
   std::unique_ptr<VelmoraPCMPakket> const pakket(codeerBestand(wav));
-  // The lines about the file tell what it is now, the array what was read from it.
-  SndBestand const bestand = SndBestand::lees(wav);
-  VelmoraArray<unsigned char> array(pakket->serieelGeefAantalBytes());
-  pakket->maakSerieel(array, metHeader);
-
-  FragmentTekst(uit).schrijfFragment(wav, bestand.info(), {taal, klasseNaam, wav.GetName()},
-                                     {{"_pcmNumberOfEncSamples", pakket->geefAantalSamples()}},
-                                     array, metHeader);
-  // A memory stream takes more text after this.
-  uit.Close();
+  schrijfArrayTekst(*pakket, wav, {taal, klasseNaam, wav.GetName()},
+                    {{"_pcmNumberOfEncSamples", pakket->geefAantalSamples()}}, metHeader, uit);
 }
 
 void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
@@ -62,25 +56,24 @@ void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
 }
 
 void PCMDesktopConverter::decodeerBestand(wxFileName const& bron, wxFileName const& doel) const {
-  wxFileInputStream stroom(bron.GetFullPath());
-  if (!stroom.IsOk()) {
+  std::unique_ptr<wxFileInputStream> const stroom = openBeeld(bron);
+  if (!stroom) {
     return;
   }
   // What a file too short for its header lacks counts as zero.
   std::array<unsigned char, VelmoraPCMPakket::SerieeleOverhead> kop{};
-  stroom.Read(kop.data(), kop.size());
-  // A folder opens, and fails only here.
-  if (stroom.GetLastError() == wxSTREAM_READ_ERROR) {
+  stroom->Read(kop.data(), kop.size());
+  // What opens can still not be read.
+  if (stroom->GetLastError() == wxSTREAM_READ_ERROR) {
     return;
   }
   std::size_t const aantal = MaakWoord(kop[3], kop[2], kop[1], kop[0]);
   int const freq = MaakShort(kop[5], kop[4]);
   std::vector<wxUint16> waarden(aantal);
   if (!waarden.empty()) {
-    wxDataInputStream(stroom).Read16(waarden.data(), waarden.size());
+    wxDataInputStream(*stroom).Read16(waarden.data(), waarden.size());
   }
 
-  SndBestand wav = SndBestand::schrijfMono(doel, freq);
-  wav.schrijfItems(reinterpret_cast<short const*>(waarden.data()),
-                   static_cast<sf_count_t>(waarden.size()));
+  schrijfWav(doel, VelmoraPCMPakket(reinterpret_cast<short const*>(waarden.data()), waarden.size(),
+                                    Breuk(freq, 1)));
 }

@@ -15,12 +15,6 @@ constexpr unsigned long long sampleBytes = 2;
 // Where a raw block keeps its samples.
 constexpr unsigned long long ruwePayload = 12;
 
-// A packet over somebody else's samples holds them behind the one pointer type that it has; the
-// caller decides whether the two operations that write are called on it.
-short* zonderConst(short const* samples) {
-  return const_cast<short*>(samples);
-}
-
 // The address may be odd: the samples are only ever copied from it byte by byte.
 short* alsSamples(unsigned char const* bytes) {
   return reinterpret_cast<short*>(const_cast<unsigned char*>(bytes));

@@ -39,10 +39,6 @@ SndBestand SndBestand::schrijf(wxFileName const& bestand, int samplerate, int ka
   return {bestand, SFM_WRITE, gevraagd};
 }
 
-SndBestand SndBestand::schrijfMono(wxFileName const& bestand, int samplerate) {
-  return schrijf(bestand, samplerate, 1, SF_FORMAT_WAV | SF_FORMAT_PCM_16);
-}
-
 sf_count_t SndBestand::leesItems(short* doel, sf_count_t aantal) {
   if (!isOpen()) {
     return 0;

@@ -20,8 +20,6 @@ class SndBestand {
   // Opens for writing, with any old content gone: `samplerate` in Hz, `formaat` a libsndfile format
   // word.
   static SndBestand schrijf(wxFileName const& bestand, int samplerate, int kanalen, int formaat);
-  // The same for what the converters decode to: a WAV file of one channel of 16-bit samples.
-  static SndBestand schrijfMono(wxFileName const& bestand, int samplerate);
 
   bool isOpen() const { return toestand != nullptr; }
   SF_INFO const& info() const { return gegevens; }

@@ -3,6 +3,7 @@
 // n codes the last nine would be is lost and counts as zero. The images of real recordings are
 // refused for lack of memory (see adpcmGeheugenTest.cpp).
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -197,6 +198,15 @@ TEST_F(AdpcmDecodeer, ontbrekendeBronLaatHetDoelMetRust) {
 TEST_F(AdpcmDecodeer, mapAlsBronLaatHetDoelMetRust) {
   maakBestand(doel, "was hier");
   naarWav(map.pad(), doel);
+  EXPECT_EQ(leesTekst(doel), "was hier");
+}
+
+// Nobody writes to it: whoever opened it would wait.
+TEST_F(AdpcmDecodeer, pijpAlsBronLaatNiemandWachten) {
+  ASSERT_EQ(mkfifo(bron.c_str(), S_IRUSR | S_IWUSR), 0);
+  maakBestand(doel, "was hier");
+  EXPECT_EQ(pakketVan(bron)->geefAantalSamples(), 0U);
+  naarWav(bron, doel);
   EXPECT_EQ(leesTekst(doel), "was hier");
 }
 

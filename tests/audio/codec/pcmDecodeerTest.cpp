@@ -1,5 +1,6 @@
 // The way back: a binary serial image becomes a WAV file, which is read here byte by byte.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 
@@ -153,6 +154,21 @@ TEST_F(PcmDecodeer, halveFrequentieLeestHaarLageByte) {
 TEST_F(PcmDecodeer, mapAlsBronLaatHetDoelMetRust) {
   maakBestand(doel, "was hier");
   decodeer(map.pad(), doel);
+  EXPECT_EQ(leesTekst(doel), "was hier");
+}
+
+// Nobody writes to it: whoever opened it would wait.
+TEST_F(PcmDecodeer, pijpAlsBronLaatNiemandWachten) {
+  ASSERT_EQ(mkfifo(bron.c_str(), S_IRUSR | S_IWUSR), 0);
+  maakBestand(doel, "was hier");
+  decodeer(bron, doel);
+  EXPECT_EQ(leesTekst(doel), "was hier");
+}
+
+// It is a file, and its first byte has no memory behind it.
+TEST_F(PcmDecodeer, leesfoutLaatHetDoelMetRust) {
+  maakBestand(doel, "was hier");
+  decodeer("/proc/self/mem", doel);
   EXPECT_EQ(leesTekst(doel), "was hier");
 }
 

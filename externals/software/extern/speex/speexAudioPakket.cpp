@@ -9,11 +9,6 @@ unsigned short halfWoord(signed char byte) {
   return static_cast<unsigned short>(static_cast<short>(byte));
 }
 
-// The packet only reads, but its base has one pointer type for all blocks.
-signed char* zonderConst(signed char const* bytes) {
-  return const_cast<signed char*>(bytes);
-}
-
 unsigned short leesVeld(signed char const* bytes) {
   return MaakShort(static_cast<unsigned char>(bytes[1]), static_cast<unsigned char>(bytes[0]));
 }

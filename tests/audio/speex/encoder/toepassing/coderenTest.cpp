@@ -152,17 +152,7 @@ TEST_F(CoderenProef, WithoutAClassNameCIsEncodedAllTheSame) {
 
 TEST_F(CoderenProef, TheMessageTellsTheDirectoryOfTheOpenDialog) {
   begin();
-  submap("100%s %n");
-  antwoorden.opBestandsVraag(wav("100%s %n/bel.wav"));
-  klik(wxID_OPEN);
-  codeer();
-  ASSERT_EQ(antwoorden.berichten.size(), 1U);
-  Bericht const& bericht = antwoorden.berichten[0];
-  EXPECT_EQ(bericht.titel, "PCM encoding succeeded");
-  EXPECT_EQ(bericht.tekst,
-            "Audio data in\n" + pad("100%s %n") + "\nwas successfully encoded to PCM.");
-  EXPECT_EQ(bericht.stijl, wxOK | wxICON_INFORMATION);
-  EXPECT_EQ(bericht.ouder, venster);
+  verwachtMeldingVan("PCM");
 }
 
 TEST_F(CoderenProef, WithoutADialogTheMessageTellsTheHomeDirectoryWithoutASeparator) {

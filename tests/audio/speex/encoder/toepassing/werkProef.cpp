@@ -4,9 +4,12 @@
 #include <wx/filename.h>
 #include <wx/log.h>
 #include <wx/menu.h>
+#include <wx/msgdlg.h>
 #include <wx/progdlg.h>
 #include <wx/regex.h>
 #include <wx/toplevel.h>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
 
 void WerkProef::begin(int taal, wxString const& vensterRegels, wxString const& speexRegels,
                       wxString const& meer) {
@@ -91,6 +94,20 @@ void WerkProef::verwachtGevolgNaMelding(wxString const& statusNa) {
   EXPECT_TRUE(knop(ID_SPEEL_RESULTAAT)->IsEnabled());
   EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
   EXPECT_FALSE(menuItem(ID_CODEER)->IsEnabled());
+}
+
+void WerkProef::verwachtMeldingVan(wxString const& encoder) {
+  submap("100%s %n");
+  antwoorden.opBestandsVraag(wav("100%s %n/bel.wav"));
+  klik(wxID_OPEN);
+  codeer();
+  ASSERT_EQ(antwoorden.berichten.size(), 1U);
+  Bericht const& bericht = antwoorden.berichten[0];
+  EXPECT_EQ(bericht.titel, encoder + " encoding succeeded");
+  EXPECT_EQ(bericht.tekst,
+            "Audio data in\n" + pad("100%s %n") + "\nwas successfully encoded to " + encoder + ".");
+  EXPECT_EQ(bericht.stijl, wxOK | wxICON_INFORMATION);
+  EXPECT_EQ(bericht.ouder, venster);
 }
 
 wxGenericProgressDialog* WerkProef::voortgang() {

@@ -55,6 +55,9 @@ class WerkProef : public VensterProef {
   bool isGecodeerd() const;
   // Encodes what is loaded; the result, its text apart, takes effect only after the message.
   void verwachtGevolgNaMelding(wxString const& statusNa);
+  // Loads a file from a directory of a strange name, encodes it, and expects the one message of
+  // this encoder.
+  void verwachtMeldingVan(wxString const& encoder);
   // The progress of a run, null where none stands.
   static wxGenericProgressDialog* voortgang();
 
