@@ -1,6 +1,5 @@
 // What an ADPCM run does with the settings, the files and the window.
 #include <wx/choice.h>
-#include <wx/msgdlg.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/codec/adpcmModel.h"

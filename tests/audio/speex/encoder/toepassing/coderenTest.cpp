@@ -4,7 +4,6 @@
 #include <wx/choice.h>
 #include <wx/filename.h>
 #include <wx/menu.h>
-#include <wx/msgdlg.h>
 #include <wx/progdlg.h>
 #include <wx/radiobox.h>
 #include <wx/textctrl.h>
