@@ -5,6 +5,7 @@
 #include <wx/string.h>
 
 #include "audio/codec/adpcmConverter.h"
+#include "audio/codec/converterOpties.h"
 #include "audio/codec/uitvoerTaal.h"
 
 class VelmoraADPCMPakket;
@@ -19,17 +20,7 @@ enum ADPCMEncoderTaal : int {
   ADPCMTaalPython = UitvoerTaalPython
 };
 
-struct ADPCMEncoderOpties {
-  ADPCMEncoderOpties(ADPCMEncoderTaal uitvoerTaal, unsigned long long schuif)
-      : taal(uitvoerTaal), bitShift(schuif) {}
-  ADPCMEncoderOpties(ADPCMEncoderTaal uitvoerTaal, wxString const& klasse,
-                     unsigned long long schuif)
-      : taal(uitvoerTaal), klasseNaam(klasse), bitShift(schuif) {}
-
-  ADPCMEncoderTaal taal;
-  wxString klasseNaam;          // the class that owns the arrays in C++, empty otherwise
-  unsigned long long bitShift;  // bits to scale away: 16 minus the width of the DAC
-};
+using ADPCMEncoderOpties = ConverterOpties<ADPCMEncoderTaal>;
 
 // None of the operations reports an error: a file that cannot be read counts as one of 0 samples at
 // 0 Hz. std::bad_alloc passes through, where the toolkit lets it. The coder's state goes on from
@@ -62,7 +53,7 @@ class ADPCMDesktopConverter : public ADPCMConverter {
   VelmoraPCMPakket* decodeerBestand(wxFileName const& bron);
 
   // The same to a mono 16-bit WAV file. A frequency that libsndfile refuses, as it does 0, leaves
-  // there what libsndfile leaves: no samples. A `bron` that is no file leaves `doel` alone.
+  // there what libsndfile leaves: no samples. A `bron` that cannot be read leaves `doel` alone.
   void decodeerBestand(wxFileName const& bron, wxFileName const& doel);
 
   // Decodes a packet to a temporary WAV file and plays that, returning when the sound has ended.

@@ -7,6 +7,6 @@
 
 class wxFileName;
 
-// Null where there is nothing to read: for a missing file, which the toolkit's log tells, and for
-// what is no file, which it does not.
+// The file from its first byte on. Null where nothing can be read: for a file that is missing or
+// fails, which the toolkit's log tells, and for what is no file, which it does not.
 std::unique_ptr<wxFileInputStream> openBeeld(wxFileName const& bron);

@@ -63,10 +63,6 @@ void PCMDesktopConverter::decodeerBestand(wxFileName const& bron, wxFileName con
   // What a file too short for its header lacks counts as zero.
   std::array<unsigned char, VelmoraPCMPakket::SerieeleOverhead> kop{};
   stroom->Read(kop.data(), kop.size());
-  // What opens can still not be read.
-  if (stroom->GetLastError() == wxSTREAM_READ_ERROR) {
-    return;
-  }
   std::size_t const aantal = MaakWoord(kop[3], kop[2], kop[1], kop[0]);
   int const freq = MaakShort(kop[5], kop[4]);
   std::vector<wxUint16> waarden(aantal);

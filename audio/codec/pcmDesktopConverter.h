@@ -4,6 +4,7 @@
 
 #include <wx/string.h>
 
+#include "audio/codec/converterOpties.h"
 #include "audio/codec/uitvoerTaal.h"
 
 class VelmoraPCMPakket;
@@ -17,16 +18,7 @@ enum PCMEncoderTaal : int {
   PCMTaalPython = UitvoerTaalPython
 };
 
-struct PCMEncoderOpties {
-  PCMEncoderOpties(PCMEncoderTaal uitvoerTaal, unsigned long long schuif)
-      : taal(uitvoerTaal), bitShift(schuif) {}
-  PCMEncoderOpties(PCMEncoderTaal uitvoerTaal, wxString const& klasse, unsigned long long schuif)
-      : taal(uitvoerTaal), klasseNaam(klasse), bitShift(schuif) {}
-
-  PCMEncoderTaal taal;
-  wxString klasseNaam;          // the class that owns the arrays in C++, empty otherwise
-  unsigned long long bitShift;  // bits to scale away: 16 minus the width of the DAC
-};
+using PCMEncoderOpties = ConverterOpties<PCMEncoderTaal>;
 
 // None of the operations reports an error: a file that cannot be read counts as one of 0 samples at
 // 0 Hz. std::bad_alloc passes through.

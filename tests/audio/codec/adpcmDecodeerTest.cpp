@@ -210,6 +210,14 @@ TEST_F(AdpcmDecodeer, pijpAlsBronLaatNiemandWachten) {
   EXPECT_EQ(leesTekst(doel), "was hier");
 }
 
+// It is a file, and its first byte has no memory behind it.
+TEST_F(AdpcmDecodeer, leesfoutLaatHetDoelMetRust) {
+  maakBestand(doel, "was hier");
+  EXPECT_EQ(pakketVan("/proc/self/mem")->geefAantalSamples(), 0U);
+  naarWav("/proc/self/mem", doel);
+  EXPECT_EQ(leesTekst(doel), "was hier");
+}
+
 TEST_F(AdpcmDecodeer, onschrijfbaarDoelValtNiet) {
   schrijf(beeldVan(30, 0, codes(21)));
   naarWav(bron, map.pad("nergens/uit.wav"));
