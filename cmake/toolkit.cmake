@@ -6,6 +6,11 @@ find_package(PkgConfig REQUIRED)
 pkg_check_modules(sndfile REQUIRED IMPORTED_TARGET sndfile)
 pkg_check_modules(speex REQUIRED IMPORTED_TARGET speex)
 pkg_check_modules(speexdsp REQUIRED IMPORTED_TARGET speexdsp)
+# Not needed, but without it little can be heard.
+option(KESTROLIN_SDL "Play sound through SDL where it is installed" ON)
+if(KESTROLIN_SDL)
+  pkg_check_modules(sdl2 IMPORTED_TARGET sdl2)
+endif()
 
 function(_maak_wx_doel doel)
   find_package(wxWidgets 3.2 REQUIRED COMPONENTS ${ARGN})

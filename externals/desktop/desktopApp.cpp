@@ -1,5 +1,7 @@
 #include "externals/desktop/desktopApp.h"
 
+#include <wx/aboutdlg.h>
+#include <wx/icon.h>
 #include <wx/msgdlg.h>
 #include <wx/window.h>
 
@@ -10,6 +12,7 @@ namespace {
 constexpr char const* vensterPad = "/Gebruikersinstellingen/Venster";
 constexpr char const* breedteSleutel = "GrootteX";
 constexpr char const* hoogteSleutel = "GrootteY";
+constexpr char const* maker = "The Kestrolin team";
 
 }  // namespace
 
@@ -56,4 +59,31 @@ void DesktopApp::zetTaal(wxLanguage nieuweTaal) {
   }
   bewaarTaal(nieuweTaal);
   ExitMainLoop();
+}
+
+wxAboutDialogInfo DesktopApp::maakCopyright(wxString const& naam, wxString const& versie,
+                                            wxString const& beschrijving, wxString const& copyright,
+                                            wxString const& website) const {
+  wxAboutDialogInfo info;
+  info.SetName(naam);
+  info.SetVersion(versie);
+  info.SetDescription(geefPlatformRegel() + "\n" + beschrijving);
+  info.SetCopyright(copyright);
+  info.SetWebSite(website, website);
+  info.AddDeveloper(maker);
+  return info;
+}
+
+void DesktopApp::toonCopyright(wxString const& naam, wxString const& versie,
+                               wxString const& beschrijving, wxString const& copyright,
+                               wxString const& website) const {
+  wxAboutBox(maakCopyright(naam, versie, beschrijving, copyright, website), hoofdVenster);
+}
+
+void DesktopApp::toonCopyright(wxString const& naam, wxString const& versie,
+                               wxString const& beschrijving, wxString const& copyright,
+                               wxString const& website, wxIcon const& icoon) const {
+  wxAboutDialogInfo info = maakCopyright(naam, versie, beschrijving, copyright, website);
+  info.SetIcon(icoon);
+  wxAboutBox(info, hoofdVenster);
 }

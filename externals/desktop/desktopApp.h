@@ -1,11 +1,13 @@
 // A windowed application on top of DesktopAppBasis: knows its main window, remembers that window's
-// size, and changes the language.
+// size, changes the language, and shows who made it.
 #pragma once
 
 #include <wx/app.h>
 
 #include "externals/desktop/desktopAppBasis.h"
 
+class wxAboutDialogInfo;
+class wxIcon;
 class wxWindow;
 
 class DesktopApp : public wxApp, public DesktopAppBasis {
@@ -28,6 +30,18 @@ class DesktopApp : public wxApp, public DesktopAppBasis {
   // without a question about unsaved work.
   void zetTaal(wxLanguage nieuweTaal) override;
 
+  // Shows the About box, which does not wait for its end. A line about the platform stands above
+  // `beschrijving`; `website` is an address, and stands there as it is. The second one shows
+  // `icoon` too.
+  void toonCopyright(wxString const& naam, wxString const& versie, wxString const& beschrijving,
+                     wxString const& copyright, wxString const& website) const;
+  void toonCopyright(wxString const& naam, wxString const& versie, wxString const& beschrijving,
+                     wxString const& copyright, wxString const& website, wxIcon const& icoon) const;
+
  private:
+  wxAboutDialogInfo maakCopyright(wxString const& naam, wxString const& versie,
+                                  wxString const& beschrijving, wxString const& copyright,
+                                  wxString const& website) const;
+
   wxWindow* hoofdVenster = nullptr;
 };

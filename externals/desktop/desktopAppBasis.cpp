@@ -118,6 +118,12 @@ wxString DesktopAppBasis::geefOSNaam() const {
   return platform.GetOperatingSystemDescription();
 }
 
+wxString DesktopAppBasis::geefPlatformRegel() const {
+  return wxPlatformInfo::GetPortIdName(platform.GetPortId(), platform.IsUsingUniversalWidgets()) +
+         " " + wxPlatformInfo::GetOperatingSystemIdName(platform.GetOperatingSystemId()) + "(" +
+         platform.GetBitnessName() + ")";
+}
+
 int DesktopAppBasis::onInitRoutines() {
   constexpr int magStarten = 0;
   constexpr int afgebroken = 2;

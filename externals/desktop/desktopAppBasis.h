@@ -47,6 +47,8 @@ class DesktopAppBasis {
  protected:
   // Stores the language of the next start in memory and in the configuration.
   void bewaarTaal(wxLanguage nieuweTaal);
+  // The toolkit's port, the operating system and the architecture, as in "wxGTK Linux(64 bit)".
+  wxString geefPlatformRegel() const;
 
  private:
   void startTaal(wxString const& naam);

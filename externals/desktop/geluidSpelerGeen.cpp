@@ -1,0 +1,4 @@
+// The build without SDL.
+#include "externals/desktop/geluidSpeler.h"
+
+void plaatsGeluidSpeler() {}

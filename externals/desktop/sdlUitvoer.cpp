@@ -1,0 +1,100 @@
+#include "externals/desktop/sdlUitvoer.h"
+
+#include <wx/app.h>
+
+#include <vector>
+
+namespace {
+
+// The device takes samples in blocks of about 32 ms, a power of two as some drivers want it. Longer
+// ones would make it late, shorter ones would let a busy machine fall behind.
+Uint16 blokSamples(int rate) {
+  constexpr int blokkenPerSeconde = 32;
+  constexpr Uint16 kleinste = 64;
+  constexpr Uint16 grootste = 4096;
+  Uint16 samples = kleinste;
+  while (samples < grootste && samples < rate / blokkenPerSeconde) {
+    samples = static_cast<Uint16>(samples * 2);
+  }
+  return samples;
+}
+
+}  // namespace
+
+SdlUitvoer::Bibliotheek::Bibliotheek() {
+  // Without this an interrupt from the terminal would go into a queue of events that nobody reads.
+  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+  // What the mixers of the desktop show.
+  if (wxTheApp != nullptr) {
+    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, wxTheApp->GetAppDisplayName().utf8_str());
+  }
+  gestart = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
+}
+
+SdlUitvoer::Bibliotheek::~Bibliotheek() {
+  if (gestart) {
+    SDL_QuitSubSystem(SDL_INIT_AUDIO);
+  }
+}
+
+SdlUitvoer::SdlUitvoer(GeluidVorm const& vorm) {
+  if (!bibliotheek.isGestart()) {
+    return;
+  }
+  // On the way here SDL asked one sound system after the other, and keeps what the others said.
+  SDL_ClearError();
+  // Where it knows that there is no device, opening one would make the driver talk on standard
+  // error.
+  if (SDL_GetNumAudioDevices(0) == 0) {
+    return;
+  }
+  SDL_AudioSpec wens{};
+  wens.freq = vorm.rate;
+  wens.format = vorm.soort;
+  wens.channels = static_cast<Uint8>(vorm.kanalen);
+  wens.samples = blokSamples(vorm.rate);
+  // Without a callback: SDL copies the samples into a queue of its own and empties that.
+  toestel = SDL_OpenAudioDevice(nullptr, 0, &wens, &spec, 0);
+}
+
+std::unique_ptr<SdlUitvoer> SdlUitvoer::open(GeluidVorm const& vorm, std::string& fout) {
+  SDL_ClearError();
+  std::unique_ptr<SdlUitvoer> uitvoer(new SdlUitvoer(vorm));
+  if (uitvoer->toestel == 0) {
+    fout = SDL_GetError();
+    return nullptr;
+  }
+  return uitvoer;
+}
+
+SdlUitvoer::~SdlUitvoer() {
+  if (toestel != 0) {
+    SDL_ClearQueuedAudio(toestel);
+    SDL_CloseAudioDevice(toestel);
+  }
+}
+
+bool SdlUitvoer::voegToe(void const* samples, std::size_t bytes) {
+  return SDL_QueueAudio(toestel, samples, static_cast<Uint32>(bytes)) == 0;
+}
+
+bool SdlUitvoer::voegNaklankToe() {
+  // A sound server holds some blocks of its own, and throws them away when the device is closed.
+  constexpr int blokken = 6;
+  std::vector<Uint8> const stilte(spec.size * std::size_t{blokken}, spec.silence);
+  return voegToe(stilte.data(), stilte.size());
+}
+
+void SdlUitvoer::start() {
+  SDL_PauseAudioDevice(toestel, 0);
+}
+
+std::size_t SdlUitvoer::wachtend() const {
+  return SDL_GetQueuedAudioSize(toestel);
+}
+
+std::size_t SdlUitvoer::bytesPerSeconde() const {
+  constexpr std::size_t bitsPerByte = 8;
+  return static_cast<std::size_t>(spec.freq) * spec.channels * SDL_AUDIO_BITSIZE(spec.format) /
+         bitsPerByte;
+}
