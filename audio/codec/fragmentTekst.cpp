@@ -9,42 +9,11 @@
 #include <array>
 #include <charconv>
 #include <cstddef>
-#include <string_view>
 
+#include "audio/codec/byteTekst.h"
 #include "audio/codec/uitvoerTaal.h"
 
 namespace {
-
-constexpr std::size_t bytesPerRij = 8;
-
-// The text of one byte in a data row, at most "0xff,".
-struct ByteTekst {
-  std::array<wchar_t, 5> tekens;
-  std::size_t lengte;
-
-  constexpr std::wstring_view zicht() const { return {tekens.data(), lengte}; }
-};
-
-constexpr ByteTekst maakByteTekst(std::size_t waarde) {
-  constexpr std::wstring_view cijfers = L"0123456789abcdef";
-  constexpr std::size_t basis = 16;
-  if (waarde < basis) {
-    return {{L'0', L'x', cijfers[waarde], L',', L'\0'}, 4};
-  }
-  return {{L'0', L'x', cijfers[waarde / basis], cijfers[waarde % basis], L','}, 5};
-}
-
-constexpr std::array<ByteTekst, 256> maakByteTeksten() {
-  std::array<ByteTekst, 256> teksten{};
-  for (std::size_t waarde = 0; waarde < teksten.size(); ++waarde) {
-    teksten[waarde] = maakByteTekst(waarde);
-  }
-  return teksten;
-}
-
-// Every byte's text is worked out by the compiler: a call to a formatter for each byte would take
-// ten times as long as all the rest of an encoding.
-constexpr std::array<ByteTekst, 256> byteTeksten = maakByteTeksten();
 
 // The %d of a count in the text shows its low 32 bits.
 int laagsteBits(unsigned long long aantal) {
@@ -73,15 +42,27 @@ void FragmentTekst::schrijf(wxString const& tekst) {
   tekstStroom.WriteString(tekst);
 }
 
-void FragmentTekst::schrijfKop(wxFileName const& wav, SF_INFO const& info) {
+void FragmentTekst::schrijfHerkomst(wxString const& werkwoord, wxFileName const& wav) {
   wxPlatformInfo const platform;
   wxDateTime const nu = wxDateTime::Now();
-  schrijf("\n/* Encoded on " + platform.GetOperatingSystemIdName() + " (" +
+  schrijf("\n/* " + werkwoord + " on " + platform.GetOperatingSystemIdName() + " (" +
           platform.GetBitnessName() + ")" + "\t\t*/\n");
   schrijf("/* Date : " + nu.Format("%Y-%m-%d") + " : " + nu.Format("%H:%M:%S") + "\t\t*/\n");
   schrijf("/* WAV file : " + wav.GetFullName() + "\t\t*/\n");
   schrijf("/* WAV information :   \t\t*/\n");
+}
+
+void FragmentTekst::schrijfFrequentie(SF_INFO const& info) {
   schrijf(wxString::Format("/* Sampling frequency         : %d Hz\t\t*/\n", info.samplerate));
+}
+
+void FragmentTekst::schrijfSchaal(int dacBits) {
+  schrijf(wxString::Format("/* Full Scale gain adapted to : %d bits\t\t*/\n\n", dacBits));
+}
+
+void FragmentTekst::schrijfKop(wxFileName const& wav, SF_INFO const& info) {
+  schrijfHerkomst("Encoded", wav);
+  schrijfFrequentie(info);
   schrijf(wxString::Format("/* Original size              : %d frames\t\t*/\n",
                            laagsteBits(static_cast<unsigned long long>(info.frames))));
   schrijf("/* Original duration          : " + fragmentDuur(info.frames, info.samplerate) +

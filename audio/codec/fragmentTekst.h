@@ -36,8 +36,15 @@ class FragmentTekst {
 
   void schrijf(wxString const& tekst);
 
-  // The comment lines about the machine, the moment and the file: `info` is what libsndfile tells
-  // of it, and all zeros for a file that is not there.
+  // The comment lines about the machine, the moment and the file's name, for a file that was
+  // "Encoded" or "Embedded".
+  void schrijfHerkomst(wxString const& werkwoord, wxFileName const& wav);
+  void schrijfFrequentie(SF_INFO const& info);
+  // The line about the width of the DAC that the samples were scaled to.
+  void schrijfSchaal(int dacBits);
+
+  // The comment lines about the machine, the moment and an encoded file: `info` is what libsndfile
+  // tells of it, and all zeros for a file that is not there.
   void schrijfKop(wxFileName const& wav, SF_INFO const& info);
 
   // The whole text of a fragment that is printed byte by byte. With `metHeader` a comment on the

@@ -108,8 +108,7 @@ void SpeexDesktopEncoder::meldFrequentie(wxFileName const& bestand, int frequent
 }
 
 void SpeexDesktopEncoder::schrijfInstellingen(FragmentTekst& tekst) const {
-  tekst.schrijf(wxString::Format("/* Full Scale gain adapted to : %d bits\t\t*/\n\n",
-                                 static_cast<int>(config.aantalBits - config.gainBits)));
+  tekst.schrijfSchaal(static_cast<int>(config.aantalBits - config.gainBits));
   tekst.schrijf("/* Speex information :    \t\t*/\n");
   tekst.schrijf(wxString::Format("/* Speex framesize                 : %d bytes\t\t*/\n",
                                  static_cast<int>(geefFrameSize(config.formaat))));
