@@ -47,6 +47,10 @@ TaalDialoog::TaalDialoog(wxWindow* parent, int id, wxString const& title, wxPoin
 }
 
 void TaalDialoog::set_properties() {
+  // The toolkit reckons with lower rows than the desktop's theme draws, and would cut the last one.
+  constexpr int ruimteDeler = 3;
+  int const hoogte = taalLijst->GetBestSize().GetHeight();
+  taalLijst->SetMinSize(wxSize(-1, hoogte + hoogte / ruimteDeler));
   taalLijst->SetSelection(0);
   okKnop->SetDefault();
 }

@@ -2,6 +2,7 @@
 
 #include <wx/sound.h>
 
+#include <functional>
 #include <memory>
 #include <tuple>
 #include <utility>
@@ -11,6 +12,17 @@ namespace {
 std::vector<OpgenomenGeluid>& geluiden() {
   static std::vector<OpgenomenGeluid> opgenomen;
   return opgenomen;
+}
+
+std::function<void(OpgenomenGeluid const&, GeluidBytes const&)>& toehoorder() {
+  static std::function<void(OpgenomenGeluid const&, GeluidBytes const&)> functie;
+  return functie;
+}
+
+// The toolkit's data begins at the head of the chunk of samples, 8 bytes before them.
+GeluidBytes bytesVan(wxSoundData const& geluid) {
+  constexpr std::size_t kop = 8;
+  return {geluid.m_data + kop, geluid.m_data + kop + geluid.m_dataBytes};
 }
 
 class Recorder : public wxSoundBackend {
@@ -23,6 +35,9 @@ class Recorder : public wxSoundBackend {
             volatile wxSoundPlaybackStatus* /*stand*/) override {
     geluiden().push_back({geluid->m_channels, geluid->m_samplingRate, geluid->m_bitsPerSample,
                           geluid->m_samples, geluid->m_dataBytes, vlaggen});
+    if (toehoorder()) {
+      toehoorder()(OpgenomenGeluid(geluiden().back()), bytesVan(*geluid));
+    }
     return true;
   }
   void Stop() override {}
@@ -47,6 +62,11 @@ bool OpgenomenGeluid::operator==(OpgenomenGeluid const& ander) const {
                     geluid.vlaggen);
   };
   return velden(*this) == velden(ander);
+}
+
+void bijElkGeluid(
+    std::function<void(OpgenomenGeluid const& geluid, GeluidBytes const& bytes)> wat) {
+  toehoorder() = std::move(wat);
 }
 
 std::vector<OpgenomenGeluid> neemGeluiden() {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <vector>
 
 struct OpgenomenGeluid {
@@ -15,6 +16,13 @@ struct OpgenomenGeluid {
 
   bool operator==(OpgenomenGeluid const& ander) const;
 };
+
+// The bytes of a sound as a loudspeaker gets them, for those who want more than their number.
+using GeluidBytes = std::vector<unsigned char>;
+
+// Runs each time that a sound is to be played, at the moment when it would begin to be heard, with
+// its bytes. An empty function ends that.
+void bijElkGeluid(std::function<void(OpgenomenGeluid const& geluid, GeluidBytes const& bytes)> wat);
 
 // What was played since the last call, in that order; the call empties the record. The first call
 // puts the recorder in the place of the toolkit's player, to the end of the process: sounds of

@@ -13,7 +13,9 @@
 #include <wx/treebase.h>
 
 #include <array>
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "audio/codec/adpcmDesktopConverter.h"
@@ -25,8 +27,10 @@ class wxCheckBox;
 class wxChoice;
 class wxConfigBase;
 class wxPanel;
+class wxProgressDialog;
 class wxRadioBox;
 class wxSizer;
+class wxSound;
 class wxSpinCtrl;
 class wxSpinEvent;
 class wxStaticBox;
@@ -95,6 +99,11 @@ class HoofdVenster : public wxFrame {
   void encodeADPCM(wxCommandEvent& event);
   void encodePCM(wxCommandEvent& event);
 
+  // The playbacks of the last result by the decoders of the three encoders.
+  void playEncodedSpeex(wxCommandEvent& event);
+  void playEncodedADPCM(wxCommandEvent& event);
+  void playEncodedPCM(wxCommandEvent& event);
+
   // Shows the text of `stroom`, UTF-8, in the text field. It goes there through a temporary file,
   // which stays behind.
   void kopieerNaarTekstVeld(wxMemoryOutputStream const& stroom) const;
@@ -123,6 +132,15 @@ class HoofdVenster : public wxFrame {
   // The first file of a load sets the Speex band; false for a later one that does not fit it.
   bool neemBandOver(std::size_t index, int samplerate);
 
+  void speelBron(wxSound const& geluid, wxTreeItemId const& knoop);
+  // Hands the last result to `decodeer` as a text file, and plays the WAV file that it makes of it.
+  // What it returns is the number of fragments that the status bar tells. Both files stay in the
+  // temporary directory.
+  void speelResultaat(
+      wxString const& voorvoegsel,
+      std::function<int(wxFileName const& tekst, wxFileName const& wav)> const& decodeer);
+
+  long long geefDacBits() const;
   unsigned long long geefBitShift() const;
   // The settings as the options of one of the converters below.
   template <typename Opties>
@@ -134,6 +152,15 @@ class HoofdVenster : public wxFrame {
   void meldCoderenMislukt(wxFileName const& wav);
   // False when the run ended before its last file.
   bool voerRunUit(CoderingsRun const& run);
+  void schrijfInbeddingen(wxFile& bestand, wxProgressDialog& voortgang) const;
+
+  struct GekozenDoel {
+    wxString meldNaam;  // as the status bar tells it
+    wxString map;
+  };
+  // Lets the user choose the file for text of the output language; `bestand` is the last choice and
+  // becomes the new one. Nothing when the user gave up: `bestand` then has the proposed name.
+  std::optional<GekozenDoel> vraagDoel(wxString const& vraag, wxFileName& bestand);
   wxFile::OpenMode vraagOpenModus(wxFileName const& bestand);
 
   wxStaticBox* codeGeneratieBox = nullptr;

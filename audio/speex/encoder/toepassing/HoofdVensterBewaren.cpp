@@ -1,4 +1,4 @@
-// Saving of the generated text.
+// Saving of the generated text, and the questions that every save asks.
 #include <wx/file.h>
 #include <wx/filedlg.h>
 #include <wx/intl.h>
@@ -10,26 +10,34 @@
 #include "audio/speex/encoder/toepassing/stroomKopie.h"
 
 void HoofdVenster::speexSaveHandler(wxCommandEvent& /*event*/) {
-  wxString const extensie = extensieVoorTaal(instellingen->speexOutputLanguage);
-  speexBestand.SetName(stelNaamVoor(wavBestanden, wavDirectory));
-  speexBestand.SetExt(extensie);
-  // The filter is the bare extension, and the dialog opens in the directory of the last save.
-  wxFileDialog dialoog(this, _("Save the embedded speex file"),
-                       speexBestand.GetPath(wxPATH_GET_VOLUME), speexBestand.GetFullName(),
-                       extensie, wxFD_SAVE | wxFD_CHANGE_DIR);
-  if (dialoog.ShowModal() != wxID_OK) {
+  std::optional<GekozenDoel> const doel =
+      vraagDoel(_("Save the embedded speex file"), speexBestand);
+  if (!doel) {
     return;
   }
-  wxString const naam = meldNaam(dialoog.GetFilename(), extensie);
-  speexBestand.Assign(dialoog.GetPath());
-  speexDirectory = dialoog.GetDirectory();
+  speexDirectory = doel->map;
   wxFile bestand(speexBestand.GetFullPath(), vraagOpenModus(speexBestand));
   // A file that cannot be opened has been logged by the toolkit; the text stays in memory.
   if (bestand.IsOpened()) {
     kopieer(uitvoerStroom, bestand);
   }
-  statusBalk->SetStatusText(_("Speex embedded data saved in ") + naam, 0);
+  statusBalk->SetStatusText(_("Speex embedded data saved in ") + doel->meldNaam, 0);
   opgeslagen = true;
+}
+
+std::optional<HoofdVenster::GekozenDoel> HoofdVenster::vraagDoel(wxString const& vraag,
+                                                                 wxFileName& bestand) {
+  wxString const extensie = extensieVoorTaal(instellingen->speexOutputLanguage);
+  bestand.SetName(stelNaamVoor(wavBestanden, wavDirectory));
+  bestand.SetExt(extensie);
+  // The filter is the bare extension, and the dialog opens in the directory of the last save.
+  wxFileDialog dialoog(this, vraag, bestand.GetPath(wxPATH_GET_VOLUME), bestand.GetFullName(),
+                       extensie, wxFD_SAVE | wxFD_CHANGE_DIR);
+  if (dialoog.ShowModal() != wxID_OK) {
+    return std::nullopt;
+  }
+  bestand.Assign(dialoog.GetPath());
+  return GekozenDoel{::meldNaam(dialoog.GetFilename(), extensie), dialoog.GetDirectory()};
 }
 
 wxFile::OpenMode HoofdVenster::vraagOpenModus(wxFileName const& bestand) {

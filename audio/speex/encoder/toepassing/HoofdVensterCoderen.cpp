@@ -21,6 +21,12 @@
 #include "numeriek/lopendGemiddelde.h"
 #include "numeriek/percentage.h"
 
+namespace {
+
+constexpr long long sampleBits = 16;
+
+}  // namespace
+
 void HoofdVenster::encodeHandler(wxCommandEvent& event) {
   switch (encoderTypeKeuze->GetSelection()) {
     case EncoderSpeex:
@@ -128,12 +134,14 @@ void HoofdVenster::meldCoderenMislukt(wxFileName const& wav) {
   statusBalk->SetStatusText(_("Encoder error. Please check your settings"), 0);
 }
 
-unsigned long long HoofdVenster::geefBitShift() const {
-  constexpr long long sampleBits = 16;
+long long HoofdVenster::geefDacBits() const {
   // A width that the configuration file made up counts as the full width of the samples.
   auto const index = static_cast<std::size_t>(instellingen->dacNumberOfBits);
-  long long const dacBits = index < DacAantalBits.size() ? DacAantalBits[index] : sampleBits;
-  return static_cast<unsigned long long>(sampleBits - dacBits);
+  return index < DacAantalBits.size() ? DacAantalBits[index] : sampleBits;
+}
+
+unsigned long long HoofdVenster::geefBitShift() const {
+  return static_cast<unsigned long long>(sampleBits - geefDacBits());
 }
 
 bool HoofdVenster::voerRunUit(CoderingsRun const& run) {

@@ -5,6 +5,7 @@
 #include "audio/codec/uitvoerTaal.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "externals/desktop/configGetal.h"
+#include "externals/desktop/geluidSpeler.h"
 
 namespace {
 
@@ -60,6 +61,7 @@ bool Kestrolin::OnInit() {
   // The window's layout joins wxEXPAND with alignments. The toolkit draws that as wanted, but its
   // checks would put a box on the screen for each such item.
   wxSizerFlags::DisableConsistencyChecks();
+  plaatsGeluidSpeler();
 
   // The window sets a title of its own at once.
   venster = new HoofdVenster(nullptr, wxID_ANY, _("Kestrolin for embedded applications"),
