@@ -6,66 +6,32 @@ keyboard: a click goes to the middle of the place that the bus gives. Run inside
 
 from __future__ import annotations
 
+import gettext
 import os
 import re
 import subprocess
 import sys
 import time
 from pathlib import Path
-from typing import Callable, Optional, TypeVar
+from typing import Optional
 
-from toegang import AANGEVINKT, ACTIEF, BRUIKBAAR, Element, Fout, Toegang
-
-T = TypeVar("T")
+from schermwerk import NietGebeurd, opdracht, toets, typ, wacht
+from toegang import AANGEVINKT, ACTIEF, BRUIKBAAR, GEKOZEN, Element, Toegang
 
 TITEL = "Kestrolin Encoder for embedded applications"
 OPEN_TITEL = "Open an Audio file"
 BEWAAR_TITEL = "Save the embedded speex file"
+INBED_TITEL = "Save the WAV files as embedded data"
+MELDING_SPEEX = "\nwas on average encoded to %d%% of the original size"
+MELDING_ADPCM = "\nwas successfully encoded to ADPCM."
+MELDING_PCM = "\nwas successfully encoded to PCM."
 
-# What the toolkit prints on some systems, whatever the program does.
-BEKENDE_REGELS = re.compile(r"dconf-WARNING|Couldn't connect to accessibility bus|^\s*$")
-
-
-class NietGebeurd(Exception):
-    """Something that had to happen did not, within the time given."""
-
-
-def wacht(voorwaarde: Callable[[], Optional[T]], wat: str, grens: float = 30.0) -> T:
-    """Polls until the condition gives something true, and returns that."""
-    einde = time.monotonic() + grens
-    while True:
-        try:
-            uitkomst = voorwaarde()
-        except Fout:  # a control that went away while it was looked at
-            uitkomst = None
-        if uitkomst:
-            return uitkomst
-        if time.monotonic() > einde:
-            raise NietGebeurd(f"waited {grens:.0f} s for this: {wat}")
-        time.sleep(0.05)
-
-
-def _opdracht(*woorden: str, invoer: Optional[bytes] = None) -> bytes:
-    return subprocess.run(woorden, check=True, input=invoer, stdout=subprocess.PIPE).stdout
-
-
-def toets(*toetsen: str) -> None:
-    _opdracht("xdotool", "key", *toetsen)
-
-
-def typ(tekst: str) -> None:
-    _opdracht("xdotool", "type", "--delay", "15", tekst)
-
-
-def schermafdruk(pad: Path) -> None:
-    """Writes what is on the screen to a PNG file, as soon as it stands still."""
-    beeld = b""
-    for _ in range(10):
-        vorige, beeld = beeld, _opdracht("import", "-window", "root", "-depth", "8", "ppm:-")
-        if beeld == vorige:
-            break
-        time.sleep(0.1)
-    _opdracht("convert", "ppm:-", "-trim", "+repage", str(pad), invoer=beeld)
+# What the toolkit prints on some systems, whatever the program does; that other copies of the
+# program come and go at the same time is no fault of this one.
+BEKENDE_REGELS = re.compile(
+    r"dconf-WARNING|Couldn't connect to accessibility bus|[Ll]ock file|^\s*$"
+    r"|CRITICAL: *(You are using the SDL disk|Writing to file)"
+)
 
 
 def _rustplaats(element: Element) -> Optional[tuple[int, int]]:
@@ -76,26 +42,49 @@ def _rustplaats(element: Element) -> Optional[tuple[int, int]]:
 
 
 class Programma:
-    """One running copy of the program, with a home directory of its own."""
+    """One running copy of the program, with a home directory of its own.
 
-    def __init__(self, programma: Path, thuis: Path) -> None:
+    In another language than English its texts are looked up in the catalog beside the program. With
+    a sound file its sound goes there, as bare samples, slower than life so that it can be watched;
+    each sound replaces the one before.
+    """
+
+    def __init__(
+        self, programma: Path, thuis: Path, taal: str = "en", geluid: Optional[Path] = None
+    ) -> None:
         thuis.mkdir(parents=True, exist_ok=True)
         self._fouten = thuis.parent / f"{thuis.name}.stderr"
         omgeving = dict(os.environ, HOME=str(thuis))
         omgeving.pop("NO_AT_BRIDGE", None)
+        if geluid:
+            omgeving.update(
+                SDL_AUDIODRIVER="disk", SDL_DISKAUDIOFILE=str(geluid), SDL_DISKAUDIODELAY="100"
+            )
+        catalogus = gettext.translation(
+            "Kestrolin", programma.parent.parent / "share/locale", [taal], fallback=taal == "en"
+        )
+        self.vertaal = catalogus.gettext
         with self._fouten.open("w") as fouten:
             self.proces = subprocess.Popen(
                 [str(programma)], cwd=thuis, env=omgeving, stderr=fouten, stdin=subprocess.DEVNULL
             )
         self._toegang = Toegang(self.proces.pid)
+        self._melding = ""
 
     def __enter__(self) -> Programma:
         return self
 
     def __exit__(self, soort: object, *_: object) -> None:
         if soort:
-            print(f"exit status {self.proces.poll()}, windows {self.venstertitels()}", file=sys.stderr)
-            print("\n".join(self.foutregels()), file=sys.stderr)
+            self.einde()
+        elif self.proces.poll() is None:
+            self.proces.kill()
+            self.proces.wait()
+
+    def einde(self) -> None:
+        """Tells what there is to tell of a program that went wrong, and ends it."""
+        print(f"exit status {self.proces.poll()}, windows {self.venstertitels()}", file=sys.stderr)
+        print("\n".join(self.foutregels()), file=sys.stderr)
         if self.proces.poll() is None:
             self.proces.kill()
             self.proces.wait()
@@ -109,7 +98,7 @@ class Programma:
 
     def venstertitels(self) -> list[str]:
         """Titles of this program's windows, as the window manager lists them."""
-        lijst = _opdracht("xprop", "-root", "_NET_CLIENT_LIST").decode()
+        lijst = opdracht("xprop", "-root", "_NET_CLIENT_LIST").decode()
         titels = []
         for nummer in re.findall(r"0x[0-9a-f]+", lijst):
             gegevens = subprocess.run(
@@ -166,14 +155,14 @@ class Programma:
         """Gives the keyboard to the main window; the window manager need not do so for a second
         program."""
         wacht(lambda: TITEL in self.venstertitels(), "the main window")
-        _opdracht(
+        opdracht(
             "xdotool", "search", "--all", "--onlyvisible", "--pid", str(self.proces.pid),
             "--name", TITEL, "windowactivate",
         )
 
     def klik(self, element: Element) -> None:
         x, y = wacht(lambda: _rustplaats(element), "a control that stays in its place")
-        _opdracht("xdotool", "mousemove", str(x), str(y), "click", "1")
+        opdracht("xdotool", "mousemove", str(x), str(y), "click", "1")
 
     def knop(self, naam: str, venster: str = TITEL) -> None:
         self.klik(self.element("push button", naam, venster=venster))
@@ -215,44 +204,78 @@ class Programma:
 
     def kies_map(self, map_: Path) -> None:
         """Lets the open dialog, which is on the screen, show a folder with all its files chosen."""
-        self._zet_pad(OPEN_TITEL, f"{map_}/")
+        titel = self.vertaal(OPEN_TITEL)
+        self._zet_pad(titel, f"{map_}/")
         toets("Return")
-        eerste = sorted(p.name for p in map_.iterdir())[0]
-        self.klik(self.element("table cell", eerste, venster=OPEN_TITEL))
-        toets("ctrl+a")
+        namen = sorted(p.name for p in map_.iterdir())
+
+        def alle_gekozen() -> bool:
+            rijen = [self.element("table cell", naam, venster=titel) for naam in namen]
+            if all(rij.is_(GEKOZEN) for rij in rijen):
+                return True
+            # The folder may be read once more, which drops what was chosen.
+            self.klik(rijen[0])
+            toets("ctrl+a")
+            return False
+
+        wacht(alle_gekozen, "all files are chosen")
 
     def open_map(self, map_: Path) -> None:
         """Loads every file of a folder."""
-        self.knop("Open")
+        self.wacht_op_venster()
+        toets("ctrl+o")
         self.kies_map(map_)
         self.bevestig(OPEN_TITEL)
 
-    def kies_doel(self, pad: Path) -> None:
+    def kies_doel(self, pad: Path, titel: str = BEWAAR_TITEL) -> None:
         """Puts the path into the save dialog, which is on the screen."""
-        self._zet_pad(BEWAAR_TITEL, str(pad))
+        self._zet_pad(self.vertaal(titel), str(pad))
 
     def bewaar(self, pad: Path) -> None:
-        self.knop("Save")
+        self.wacht_op_venster()
+        toets("ctrl+s")
         self.kies_doel(pad)
         self.bevestig_doel(pad)
 
-    def bevestig_doel(self, pad: Path) -> None:
-        self.bevestig(BEWAAR_TITEL)
+    def bevestig_doel(self, pad: Path, titel: str = BEWAAR_TITEL) -> None:
+        self.bevestig(titel)
         wacht(pad.is_file, f"{pad.name} stands on disk")
 
-    def bevestig(self, venster: str) -> None:
+    def bevestig(self, titel: str) -> None:
         toets("Return")
-        self.wacht_op_vertrek(venster)
+        self.wacht_op_vertrek(self.vertaal(titel))
+
+    def wacht_op_box(self, tekst: str) -> Element:
+        """A window beside the main one that shows this text, whatever the desktop calls it."""
+
+        def box() -> Optional[Element]:
+            andere = [v for v in self._toegang.vensters() if v.naam() != TITEL]
+            return next((v for v in andere if any(tekst in e.naam() for e in v.zoek("label"))), None)
+
+        return wacht(box, f'a box that says "{tekst}"')
+
+    def sluit_box(self, tekst: str) -> None:
+        """Closes a box by the button that it opens with."""
+        box = self.wacht_op_box(tekst)
+        wacht(lambda: box.is_(ACTIEF), f'the box with "{tekst}" has the keyboard')
+        toets("Return")
+        wacht(lambda: box.pad not in [v.pad for v in self._toegang.vensters()], "the box closes")
 
     def codeer(self, melding: str) -> None:
         """Presses Encode and waits for the box that tells of the success."""
         self.knop("Encode")
-        box = self.wacht_op_venster("Information")
-        wacht(lambda: any(melding in e.naam() for e in box.zoek("label")), f'the box says "{melding}"')
+        # The piece of the text that no number stands in.
+        self._melding = max(re.split("%d|%%|\n", self.vertaal(melding)), key=len)
+        self.wacht_op_box(self._melding)
 
     def sluit_melding(self) -> None:
-        self.knop("OK", venster="Information")
-        self.wacht_op_vertrek("Information")
+        self.sluit_box(self._melding)
+
+    def menu(self, toetsen: str, keuze: str) -> None:
+        """Opens a menu and chooses from it."""
+        self.wacht_op_venster()
+        toets(toetsen)
+        self.klik(self.element("menu item", keuze))
 
     def open_bestandsmenu(self) -> None:
         self.wacht_op_venster()

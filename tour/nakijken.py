@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import audioop
+import io
 import re
 import struct
 import subprocess
@@ -53,7 +54,7 @@ def _getallen(rijen: str) -> bytes:
 def arrays_in(bron: Path) -> dict[str, bytes]:
     """The arrays of a generated text by name, without class."""
     vorm = re.compile(
-        r"^const (?:un)?signed char (?:\w+::)?(\w+)\[\] = \n\{\n(.*?)\n\};", re.M | re.S
+        r"^const (?:un)?signed char (?:\w+::)?(\w+)\[\] = \n\{\n(.*?)\};", re.M | re.S
     )
     return {naam: _getallen(rijen) for naam, rijen in vorm.findall(bron.read_text())}
 
@@ -63,6 +64,11 @@ def serieel_pcm(wav: Path) -> bytes:
     with wave.open(str(wav), "rb") as bron:
         aantal = bron.getnframes()
         return struct.pack("<IH", aantal, bron.getframerate()) + bron.readframes(aantal)
+
+
+def samples_van(wav: Path) -> bytes:
+    with wave.open(str(wav), "rb") as bron:
+        return bron.readframes(bron.getnframes())
 
 
 def _arrays_van(bron: Path, fragmenten: list[Path]) -> dict[str, bytes]:
@@ -140,3 +146,26 @@ def keur_adpcm(bron: Path, fragmenten: list[Path], stand: Stand = None) -> Stand
         if gevonden[wav.stem] != kop + codes:
             raise Afgekeurd(f"{bron.name}: {wav.stem} does not hold the codes of the fragment")
     return stand
+
+
+def keur_beelden(bron: Path, fragmenten: list[Path]) -> None:
+    """Each array is a WAV file, of the fragment's samples: those of a DAC of 16 bits are not
+    scaled."""
+    gevonden = _arrays_van(bron, fragmenten)
+    for wav in fragmenten:
+        with wave.open(io.BytesIO(gevonden[wav.stem]), "rb") as beeld, wave.open(str(wav)) as bestand:
+            if beeld.getparams() != bestand.getparams():
+                raise Afgekeurd(f"{bron.name}: {wav.stem} is {beeld.getparams()}")
+            if beeld.readframes(beeld.getnframes()) != samples_van(wav):
+                raise Afgekeurd(f"{bron.name}: {wav.stem} does not hold the samples of the fragment")
+
+
+def keur_vertaling(engels: Path, vertaald: Path) -> None:
+    """Two texts of one encoding differ in comments alone, and do differ."""
+    def kaal(bron: Path) -> str:
+        return re.sub(r"/\*.*?\*/", "", bron.read_text(encoding="utf-8"), flags=re.S)
+
+    if kaal(engels) != kaal(vertaald):
+        raise Afgekeurd(f"{vertaald.name} differs from {engels.name} in more than its comments")
+    if "/* Put these declarations in a header file :*/" in vertaald.read_text(encoding="utf-8"):
+        raise Afgekeurd(f"{vertaald.name} is not translated")

@@ -18,6 +18,7 @@ _GRENS_MS = 10_000
 # Numbers of states in the two words that GetState answers with.
 ACTIEF = 1
 AANGEVINKT = 4
+GEKOZEN = 23
 BRUIKBAAR = 24
 ZICHTBAAR = 25
 

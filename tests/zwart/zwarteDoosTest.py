@@ -20,7 +20,8 @@ sys.path.insert(0, str(WORTEL / "tour"))
 
 # pylint: disable=wrong-import-position
 import nakijken
-from bediening import TITEL, Programma, toets, wacht
+from bediening import MELDING_ADPCM, MELDING_PCM, MELDING_SPEEX, TITEL, Programma
+from schermwerk import toets, wacht
 
 FRAGMENTEN = WORTEL / "fragmenten"
 
@@ -78,7 +79,7 @@ def laad_en_codeer(p: Programma, geluid: Path, fragmenten: tuple[str, ...]) -> l
     wavs = laad(p, geluid, fragmenten)
     p.keuzerondje("PCM")
     p.keuzerondje("C")
-    p.codeer("was successfully encoded to PCM.")
+    p.codeer(MELDING_PCM)
     p.sluit_melding()
     return wavs
 
@@ -132,7 +133,7 @@ def weg(programma: Path, thuis: Path) -> None:
 
 def codeer_speex(p: Programma, doel: Path) -> None:
     """Encodes with the encoder that is chosen, and saves."""
-    p.codeer("% of the original size")
+    p.codeer(MELDING_SPEEX)
     p.sluit_melding()
     p.bewaar(doel)
     tekst = doel.read_text(encoding="utf-8")
@@ -171,7 +172,7 @@ def adpcm(programma: Path, thuis: Path) -> None:
             # Another encoder in between gives the result up, so that Encode comes back.
             p.keuzerondje("PCM")
             p.keuzerondje("ADPCM")
-            p.codeer("was successfully encoded to ADPCM.")
+            p.codeer(MELDING_ADPCM)
             p.sluit_melding()
             p.bewaar(doel)
         keur_einde(p, p.verlaat())

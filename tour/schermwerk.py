@@ -1,0 +1,54 @@
+"""Waiting, keys and screenshots: what anybody does who works a program on a screen."""
+
+from __future__ import annotations
+
+import subprocess
+import time
+from pathlib import Path
+from typing import Callable, Optional, TypeVar
+
+from toegang import Fout
+
+T = TypeVar("T")
+
+
+class NietGebeurd(Exception):
+    """Something that had to happen did not, within the time given."""
+
+
+def wacht(voorwaarde: Callable[[], Optional[T]], wat: str, grens: float = 30.0) -> T:
+    """Polls until the condition gives something true, and returns that."""
+    einde = time.monotonic() + grens
+    while True:
+        try:
+            uitkomst = voorwaarde()
+        except Fout:  # a control that went away while it was looked at
+            uitkomst = None
+        if uitkomst:
+            return uitkomst
+        if time.monotonic() > einde:
+            raise NietGebeurd(f"waited {grens:.0f} s for this: {wat}")
+        time.sleep(0.05)
+
+
+def opdracht(*woorden: str, invoer: Optional[bytes] = None) -> bytes:
+    return subprocess.run(woorden, check=True, input=invoer, stdout=subprocess.PIPE).stdout
+
+
+def toets(*toetsen: str) -> None:
+    opdracht("xdotool", "key", *toetsen)
+
+
+def typ(tekst: str) -> None:
+    opdracht("xdotool", "type", "--delay", "15", tekst)
+
+
+def schermafdruk(pad: Path) -> None:
+    """Writes what is on the screen to a PNG file, as soon as it stands still."""
+    beeld = b""
+    for _ in range(10):
+        vorige, beeld = beeld, opdracht("import", "-window", "root", "-depth", "8", "ppm:-")
+        if beeld == vorige:
+            break
+        time.sleep(0.1)
+    opdracht("convert", "ppm:-", "-trim", "+repage", str(pad), invoer=beeld)
