@@ -22,6 +22,7 @@ TITEL = "Kestrolin Encoder for embedded applications"
 OPEN_TITEL = "Open an Audio file"
 BEWAAR_TITEL = "Save the embedded speex file"
 INBED_TITEL = "Save the WAV files as embedded data"
+TAAL_TITEL = "Kies een taal"
 MELDING_SPEEX = "\nwas on average encoded to %d%% of the original size"
 MELDING_ADPCM = "\nwas successfully encoded to ADPCM."
 MELDING_PCM = "\nwas successfully encoded to PCM."
@@ -44,22 +45,18 @@ def _rustplaats(element: Element) -> Optional[tuple[int, int]]:
 class Programma:
     """One running copy of the program, with a home directory of its own.
 
-    In another language than English its texts are looked up in the catalog beside the program. With
-    a sound file its sound goes there, as bare samples, slower than life so that it can be watched;
-    each sound replaces the one before.
+    In another language than English its texts are looked up in the catalog beside the program.
     """
 
     def __init__(
-        self, programma: Path, thuis: Path, taal: str = "en", geluid: Optional[Path] = None
+        self, programma: Path, thuis: Path, taal: str = "en",
+        variabelen: Optional[dict[str, str]] = None,
     ) -> None:
         thuis.mkdir(parents=True, exist_ok=True)
         self._fouten = thuis.parent / f"{thuis.name}.stderr"
         omgeving = dict(os.environ, HOME=str(thuis))
         omgeving.pop("NO_AT_BRIDGE", None)
-        if geluid:
-            omgeving.update(
-                SDL_AUDIODRIVER="disk", SDL_DISKAUDIOFILE=str(geluid), SDL_DISKAUDIODELAY="100"
-            )
+        omgeving.update(variabelen or {})
         catalogus = gettext.translation(
             "Kestrolin", programma.parent.parent / "share/locale", [taal], fallback=taal == "en"
         )
@@ -76,15 +73,15 @@ class Programma:
 
     def __exit__(self, soort: object, *_: object) -> None:
         if soort:
-            self.einde()
-        elif self.proces.poll() is None:
-            self.proces.kill()
-            self.proces.wait()
+            self.meld_toestand()
+        self.stop()
 
-    def einde(self) -> None:
-        """Tells what there is to tell of a program that went wrong, and ends it."""
+    def meld_toestand(self) -> None:
+        """Tells what there is to tell of a program that went wrong."""
         print(f"exit status {self.proces.poll()}, windows {self.venstertitels()}", file=sys.stderr)
         print("\n".join(self.foutregels()), file=sys.stderr)
+
+    def stop(self) -> None:
         if self.proces.poll() is None:
             self.proces.kill()
             self.proces.wait()
@@ -136,7 +133,6 @@ class Programma:
         self, rol: str, naam: Optional[str] = None, nummer: int = 0, venster: str = TITEL
     ) -> Element:
         """A control that can be used: it is visible and enabled."""
-
         wortel = self.wacht_op_venster(venster)
 
         def bruikbaar() -> Optional[Element]:
@@ -285,6 +281,17 @@ class Programma:
     def kies_exit(self) -> int:
         """Chooses Exit in the open menu and gives the exit status."""
         self.klik(self.element("menu item", "Exit"))
+        return self.wacht_op_einde()
+
+    def kies_taal(self, naam: str) -> None:
+        """Chooses a language in the dialog, and leaves that open."""
+        self.menu("alt+f", "Language")
+        self.klik(self.element("table cell", naam, venster=self.vertaal(TAAL_TITEL)))
+
+    def bevestig_taal(self) -> int:
+        """Accepts the language and the end of the program, and gives its exit status."""
+        self.knop("OK", venster=self.vertaal(TAAL_TITEL))
+        self.sluit_box("YES")
         return self.wacht_op_einde()
 
     def verlaat(self) -> int:

@@ -23,8 +23,15 @@ from toegang import Fout
 FRAGMENTEN = Path(__file__).resolve().parent.parent / "fragmenten"
 BESTANDEN = ("ready.wav", "warning.wav")
 KLASSE = "Sounds"
-TAAL_TITEL = "Kies een taal"
 SOORTEN = ("Speex", "Adpcm", "Pcm")
+
+
+def geluid_naar(bestand: Path) -> dict[str, str]:
+    """The environment in which a program's sound goes to a file, as bare samples, slower than life
+    so that it can be watched. Each sound replaces the one before."""
+    return {
+        "SDL_AUDIODRIVER": "disk", "SDL_DISKAUDIOFILE": str(bestand), "SDL_DISKAUDIODELAY": "100",
+    }
 
 
 class Tour:
@@ -42,7 +49,7 @@ class Tour:
         for naam in BESTANDEN:
             shutil.copy(FRAGMENTEN / naam, self._fragmenten)
         self._foto_nummer = 0
-        self._p = Programma(programma, thuis, geluid=self._gehoord)
+        self._p = Programma(programma, thuis, variabelen=geluid_naar(self._gehoord))
 
     def stappen(self) -> list[tuple[str, Callable[[], None]]]:
         return [
@@ -65,7 +72,8 @@ class Tour:
         ]
 
     def ruim_op(self) -> None:
-        self._p.einde()
+        self._p.meld_toestand()
+        self._p.stop()
 
     def foto(self, naam: str) -> None:
         self._foto_nummer += 1
@@ -162,12 +170,9 @@ class Tour:
         self._p.wacht_op_vertrek(box.naam())
 
     def _kies_taal(self) -> None:
-        self._p.menu("alt+f", "Language")
-        self._p.klik(self._p.element("table cell", "Nederlands", venster=TAAL_TITEL))
+        self._p.kies_taal("Nederlands")
         self.foto("language")
-        self._p.knop("OK", venster=TAAL_TITEL)
-        self._p.sluit_box("Please select YES")
-        self._keur_einde(self._p.wacht_op_einde())
+        self._keur_einde(self._p.bevestig_taal())
 
     def _codeer_in_het_nederlands(self) -> None:
         doel = self._firmware / "soundsNl.c"

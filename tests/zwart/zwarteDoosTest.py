@@ -183,6 +183,68 @@ def adpcm(programma: Path, thuis: Path) -> None:
     gelijk(lees_instellingen(thuis)["Configuratie"]["Convertertype"], "1", "Convertertype")
 
 
+def adpcm_einde(programma: Path, thuis: Path) -> None:
+    """The decoder of ADPCM asks for more memory than there is; the program ends, its settings
+    written."""
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        laad(p, thuis / "geluid", ("ready.wav",))
+        p.keuzerondje("C")
+        p.keuzerondje("ADPCM")
+        p.codeer(MELDING_ADPCM)
+        p.sluit_melding()
+        p.knop("Play Encoded")
+        gelijk(p.wacht_op_einde(), 255, "exit status")
+        gelijk(
+            p.foutregels(), ["Unhandled unknown exception; terminating the application."],
+            "standard error",
+        )
+    gevonden = lees_instellingen(thuis)
+    gelijk(gevonden["Configuratie"]["Convertertype"], "1", "Convertertype")
+    gelijk(gevonden["Gebruikersinstellingen/Speex"]["speexOutputLanguage"], "0", "language")
+    gelijk(list(gevonden["Statistiek"]), list(STATISTIEK), "statistics")
+
+
+def stil(programma: Path, thuis: Path) -> None:
+    """Without a sound device the program plays nothing, waits for nothing, and says so once."""
+    with Programma(programma, thuis, variabelen={"SDL_AUDIODRIVER": "none-such"}) as p:
+        wacht_op_rust(p)
+        laad(p, thuis / "geluid", ("ready.wav", "warning.wav"))
+        for _ in range(2):
+            p.knop("Play WAV Files")
+            p.wacht_op_venster()
+        p.keuzerondje("C")
+        p.codeer(MELDING_SPEEX)
+        p.sluit_melding()
+        p.knop("Play Encoded")
+        p.sluit_box("Fragment 1: ")
+        gelijk(p.venstertitels(), [TITEL], "windows")
+        p.bewaar(thuis / "geluid.c")
+        gelijk(p.verlaat(), 0, "exit status")
+        (regel,) = p.foutregels()
+        begin = "Kestrolin: no sound device was found, so that nothing can be heard"
+        assert regel.startswith(begin), regel
+
+
+def taal(programma: Path, thuis: Path) -> None:
+    """The next start speaks the language that was chosen, and the one after that English again."""
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        p.kies_taal("Nederlands")
+        keur_einde(p, p.bevestig_taal())
+    gelijk(lees_instellingen(thuis)["Gebruikersinstellingen"]["Taal"], "161", "Taal")
+    with Programma(programma, thuis, "nl") as p:
+        laad_en_codeer(p, thuis / "geluid", ("alarm.wav",))
+        p.kies_taal("English")
+        toets("Return")
+        p.sluit_box("JA")
+        keur_einde(p, p.wacht_op_einde())
+    gelijk(lees_instellingen(thuis)["Gebruikersinstellingen"]["Taal"], "175", "Taal")
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        keur_einde(p, p.verlaat())
+
+
 def tweede(programma: Path, thuis: Path) -> None:
     with Programma(programma, thuis) as een:
         wacht_op_rust(een)
@@ -219,6 +281,9 @@ GEVALLEN: dict[str, Callable[[Path, Path], None]] = {
     "weg": weg,
     "speex": speex,
     "adpcm": adpcm,
+    "adpcmEinde": adpcm_einde,
+    "stil": stil,
+    "taal": taal,
     "tweede": tweede,
     "kleinScherm": klein_scherm,
     "sluitvak": sluitvak,
