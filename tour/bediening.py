@@ -16,23 +16,8 @@ from pathlib import Path
 from typing import Optional
 
 from schermwerk import NietGebeurd, opdracht, toets, typ, wacht
+from teksten import BEKENDE_REGELS, BEWAAR_TITEL, OPEN_TITEL, TAAL_TITEL, TITEL
 from toegang import AANGEVINKT, ACTIEF, BRUIKBAAR, GEKOZEN, Element, Toegang
-
-TITEL = "Kestrolin Encoder for embedded applications"
-OPEN_TITEL = "Open an Audio file"
-BEWAAR_TITEL = "Save the embedded speex file"
-INBED_TITEL = "Save the WAV files as embedded data"
-TAAL_TITEL = "Kies een taal"
-MELDING_SPEEX = "\nwas on average encoded to %d%% of the original size"
-MELDING_ADPCM = "\nwas successfully encoded to ADPCM."
-MELDING_PCM = "\nwas successfully encoded to PCM."
-
-# What the toolkit prints on some systems, whatever the program does; that other copies of the
-# program come and go at the same time is no fault of this one.
-BEKENDE_REGELS = re.compile(
-    r"dconf-WARNING|Couldn't connect to accessibility bus|[Ll]ock file|^\s*$"
-    r"|CRITICAL: *(You are using the SDL disk|Writing to file)"
-)
 
 
 def _rustplaats(element: Element) -> Optional[tuple[int, int]]:
@@ -157,8 +142,11 @@ class Programma:
         )
 
     def klik(self, element: Element) -> None:
-        x, y = wacht(lambda: _rustplaats(element), "a control that stays in its place")
-        opdracht("xdotool", "mousemove", str(x), str(y), "click", "1")
+        self._klik_op(wacht(lambda: _rustplaats(element), "a control that stays in its place"))
+
+    def _klik_op(self, plaats: Optional[tuple[int, int]]) -> None:
+        if plaats:
+            opdracht("xdotool", "mousemove", *map(str, plaats), "click", "1")
 
     def knop(self, naam: str, venster: str = TITEL) -> None:
         self.klik(self.element("push button", naam, venster=venster))
@@ -209,8 +197,8 @@ class Programma:
             rijen = [self.element("table cell", naam, venster=titel) for naam in namen]
             if all(rij.is_(GEKOZEN) for rij in rijen):
                 return True
-            # The folder may be read once more, which drops what was chosen.
-            self.klik(rijen[0])
+            # The folder may be read once more, which drops what was chosen, and the rows too.
+            self._klik_op(_rustplaats(rijen[0]))
             toets("ctrl+a")
             return False
 

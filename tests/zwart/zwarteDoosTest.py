@@ -20,8 +20,9 @@ sys.path.insert(0, str(WORTEL / "tour"))
 
 # pylint: disable=wrong-import-position
 import nakijken
-from bediening import MELDING_ADPCM, MELDING_PCM, MELDING_SPEEX, TITEL, Programma
+from bediening import Programma
 from schermwerk import toets, wacht
+from teksten import MELDING_ADPCM, MELDING_PCM, MELDING_SPEEX, TITEL
 
 FRAGMENTEN = WORTEL / "fragmenten"
 
