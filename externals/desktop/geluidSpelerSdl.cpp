@@ -126,7 +126,7 @@ void SdlSpeler::Stop() {
 // Part of a frame at the end would shift whatever comes behind it by a channel or half a sample.
 bool SdlSpeler::vulAan(wxSoundData const& geluid) {
   constexpr std::size_t bitsPerByte = 8;
-  std::size_t const frameBytes = geluid.m_channels * geluid.m_bitsPerSample / bitsPerByte;
+  std::size_t const frameBytes = geluid.m_bitsPerSample / bitsPerByte * geluid.m_channels;
   return uitvoer->voegToe(geefSamples(geluid), geluid.m_dataBytes / frameBytes * frameBytes);
 }
 

@@ -58,12 +58,14 @@ void TaalDialoog::set_properties() {
 void TaalDialoog::do_layout() {
   constexpr int lijstRand = 30;
   constexpr int knopRand = 20;
+  // The flags of a sizer come from enums of their own, and are numbers together.
+  constexpr int rek = wxEXPAND;
   auto* const knoppen = new wxBoxSizer(wxHORIZONTAL);
   knoppen->Add(okKnop, 1, wxALL, knopRand);
   knoppen->Add(annuleerKnop, 1, wxALL, knopRand);
   auto* const alles = new wxBoxSizer(wxVERTICAL);
-  alles->Add(taalLijst, 1, wxEXPAND | wxALL, lijstRand);
-  alles->Add(knoppen, 0, wxEXPAND, 0);
+  alles->Add(taalLijst, 1, rek | wxALL, lijstRand);
+  alles->Add(knoppen, 0, rek, 0);
   SetSizer(alles);
   alles->Fit(this);
   Layout();
