@@ -7,12 +7,11 @@
 namespace {
 
 // The device takes samples in blocks of about 32 ms, a power of two as some drivers want it. Longer
-// ones would make it late, shorter ones would let a busy machine fall behind.
+// ones would make it late, at its end too, and shorter ones would let a busy machine fall behind.
 Uint16 blokSamples(int rate) {
   constexpr int blokkenPerSeconde = 32;
-  constexpr Uint16 kleinste = 64;
   constexpr Uint16 grootste = 4096;
-  Uint16 samples = kleinste;
+  Uint16 samples = 1;
   while (samples < grootste && samples < rate / blokkenPerSeconde) {
     samples = static_cast<Uint16>(samples * 2);
   }

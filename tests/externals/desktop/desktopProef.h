@@ -39,6 +39,12 @@ class ProefApp : public DesktopApp {
 };
 
 class DesktopProef : public ::testing::Test {
+ public:
+  DesktopProef(DesktopProef const&) = delete;
+  DesktopProef& operator=(DesktopProef const&) = delete;
+  DesktopProef(DesktopProef&&) = delete;
+  DesktopProef& operator=(DesktopProef&&) = delete;
+
  protected:
   DesktopProef();
   ~DesktopProef() override;
