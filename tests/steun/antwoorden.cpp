@@ -7,23 +7,34 @@
 #include <wx/utils.h>
 
 void Antwoorden::opBericht(int antwoord, std::function<void()> tijdens) {
-  wachtrij.push_back({false, antwoord, wxEmptyString, std::move(tijdens)});
+  wachtrij.push_back({Soort::bericht, antwoord, wxEmptyString, std::move(tijdens), nullptr});
 }
 
 void Antwoorden::opBestandsVraag(wxString const& pad) {
-  wachtrij.push_back({true, wxID_OK, pad, nullptr});
+  wachtrij.push_back({Soort::bestand, wxID_OK, pad, nullptr, nullptr});
 }
 
 void Antwoorden::opBestandsVraagAnnuleren() {
-  wachtrij.push_back({true, wxID_CANCEL, wxEmptyString, nullptr});
+  wachtrij.push_back({Soort::bestand, wxID_CANCEL, wxEmptyString, nullptr, nullptr});
+}
+
+void Antwoorden::opEigenDialoog(std::function<int(wxDialog& dialoog)> doet) {
+  wachtrij.push_back({Soort::eigen, wxID_CANCEL, wxEmptyString, nullptr, std::move(doet)});
+}
+
+Antwoorden::Soort Antwoorden::soortVan(wxDialog& dialoog) {
+  if (dynamic_cast<wxMessageDialog*>(&dialoog) != nullptr) {
+    return Soort::bericht;
+  }
+  return dynamic_cast<wxFileDialog*>(&dialoog) != nullptr ? Soort::bestand : Soort::eigen;
 }
 
 int Antwoorden::Enter(wxDialog* dialoog) {
+  wxString const titel = dialoog->GetTitle();
   auto* const bericht = dynamic_cast<wxMessageDialog*>(dialoog);
   auto* const bestand = dynamic_cast<wxFileDialog*>(dialoog);
-  if (wachtrij.empty() || (bericht == nullptr && bestand == nullptr) ||
-      wachtrij.front().bestand != (bestand != nullptr)) {
-    wxString const tekst = bericht != nullptr ? bericht->GetMessage() : dialoog->GetTitle();
+  if (wachtrij.empty() || wachtrij.front().soort != soortVan(*dialoog)) {
+    wxString const tekst = bericht != nullptr ? bericht->GetMessage() : titel;
     ADD_FAILURE() << "unexpected dialog: " << tekst.utf8_str();
     return wxID_CANCEL;
   }
@@ -31,6 +42,10 @@ int Antwoorden::Enter(wxDialog* dialoog) {
   wachtrij.pop_front();
   if (bestand != nullptr) {
     return beantwoordBestand(*bestand, antwoord);
+  }
+  if (bericht == nullptr) {
+    eigenDialogen.push_back({titel, dialoog->GetParent()});
+    return antwoord.doet(*dialoog);
   }
   berichten.push_back({bericht->GetCaption(), bericht->GetMessage(),
                        bericht->GetMessageDialogStyle(), bericht->GetParent()});

@@ -3,6 +3,7 @@
 // test and is cancelled.
 #pragma once
 
+#include <wx/defs.h>
 #include <wx/modalhook.h>
 #include <wx/string.h>
 
@@ -10,6 +11,7 @@
 #include <functional>
 #include <vector>
 
+class wxDialog;
 class wxFileDialog;
 class wxWindow;
 
@@ -31,6 +33,12 @@ struct BestandsVraag {
   wxWindow* ouder;
 };
 
+// What a dialog of the program's own was opened with.
+struct EigenDialoog {
+  wxString titel;
+  wxWindow* ouder;
+};
+
 class Antwoorden : public wxModalDialogHook {
  public:
   // Prepares the answer to a message box: wxID_YES, wxID_NO, wxID_OK or wxID_CANCEL. `tijdens` runs
@@ -39,23 +47,31 @@ class Antwoorden : public wxModalDialogHook {
   // Prepares a chosen path for a file dialog, or its cancelling.
   void opBestandsVraag(wxString const& pad);
   void opBestandsVraagAnnuleren();
+  // Prepares what a user does in a dialog of the program's own: `doet` gets the real one, which
+  // does not stand on the screen, can send it the events of its controls, and returns what ends it.
+  void opEigenDialoog(std::function<int(wxDialog& dialoog)> doet);
 
   // True when every prepared answer was used.
   bool isOp() const { return wachtrij.empty(); }
 
   std::vector<Bericht> berichten;
   std::vector<BestandsVraag> bestandsVragen;
+  std::vector<EigenDialoog> eigenDialogen;
 
  protected:
   int Enter(wxDialog* dialoog) override;
 
  private:
+  enum class Soort { bericht, bestand, eigen };
   struct Antwoord {
-    bool bestand;
-    int id;
+    Soort soort;
+    int id = wxID_CANCEL;
     wxString pad;
     std::function<void()> tijdens;
+    std::function<int(wxDialog&)> doet;
   };
+
+  static Soort soortVan(wxDialog& dialoog);
 
   int beantwoordBestand(wxFileDialog& dialoog, Antwoord const& antwoord);
 

@@ -1,0 +1,154 @@
+// Where the embedded files go: into new files, into files that are there, and what the window tells
+// of it and leaves as it was.
+#include <wx/button.h>
+#include <wx/filename.h>
+#include <wx/msgdlg.h>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/audio/speex/encoder/toepassing/inbedVensterProef.h"
+
+namespace {
+
+using InbedBewarenProef = InbedVensterProef;
+
+TEST_F(InbedBewarenProef, ANameWithoutExtensionStaysAndOnlyTheStatusTextGluesItOn) {
+  beginMetBel();
+  inbed(pad("klank"));
+  EXPECT_TRUE(zelfdeTekst(gelezen(pad("klank")), verwachteBel()));
+  EXPECT_FALSE(wxFileName::FileExists(pad("klank.c")));
+  EXPECT_FALSE(wxFileName::FileExists(pad("klankc")));
+  EXPECT_EQ(status(), "WAV embedded data saved in klankc");
+}
+
+TEST_F(InbedBewarenProef, ANameWithAnotherExtensionStaysAndOnlyTheStatusTextGluesItOn) {
+  begin(1);
+  laad({wav("bel.wav")});
+  inbed(pad("klank.c"));
+  EXPECT_TRUE(wxFileName::FileExists(pad("klank.c")));
+  EXPECT_EQ(status(), "WAV embedded data saved in klank.ccpp");
+}
+
+TEST_F(InbedBewarenProef, AnExistingFileBringsTheQuestion) {
+  beginMetBel();
+  inbedOver(bestand("oud.c", "oud\n"), wxID_NO);
+  ASSERT_EQ(antwoorden.berichten.size(), 1U);
+  Bericht const& bericht = antwoorden.berichten[0];
+  EXPECT_EQ(bericht.titel, "File exists");
+  EXPECT_EQ(bericht.tekst,
+            "The file already exists.\n"
+            "Would you like to append the newly encoded data to this file?");
+  EXPECT_EQ(bericht.stijl & (wxYES_NO | wxCANCEL | wxOK), wxYES_NO);
+  EXPECT_EQ(bericht.stijl & wxNO_DEFAULT, 0);
+  EXPECT_EQ(bericht.ouder, venster);
+}
+
+TEST_F(InbedBewarenProef, TheAnswerNoReplacesTheFile) {
+  beginMetBel();
+  inbedOver(bestand("oud.c", std::string(100000, 'x')), wxID_NO);
+  EXPECT_TRUE(zelfdeTekst(gelezen(pad("oud.c")), verwachteBel()));
+  EXPECT_EQ(tekst(), inhoud(pad("oud.c")));
+  EXPECT_EQ(status(), "WAV embedded data saved in oud.c");
+}
+
+TEST_F(InbedBewarenProef, EscapeAtTheQuestionReplacesTheFileToo) {
+  beginMetBel();
+  inbedOver(bestand("oud.c", "oud\n"), wxID_CANCEL);
+  EXPECT_TRUE(zelfdeTekst(gelezen(pad("oud.c")), verwachteBel()));
+}
+
+TEST_F(InbedBewarenProef, TheAnswerYesAddsANewHeadAndAllBlocksBehindWhatStandsThere) {
+  beginMetBel();
+  wxString const doel = bestand("oud.c", "één regel");
+  inbedOver(doel, wxID_YES);
+  EXPECT_TRUE(zelfdeTekst(gelezen(doel), "één regel" + verwachteBel()));
+  EXPECT_EQ(tekst(), inhoud(doel));
+  laad({wav("bel.wav", {7}), wav("zoem.wav", {})});
+  inbedOver(doel, wxID_YES);
+  EXPECT_TRUE(
+      zelfdeTekst(gelezen(doel), "één regel" + verwachteBel() +
+                                     verwachteTekst("// extern const unsigned char bel[];\n"
+                                                    "// extern const unsigned char zoem[];\n",
+                                                    {{"bel", {7}}, {"zoem", {}}})));
+  EXPECT_EQ(tekst(), inhoud(doel));
+  EXPECT_EQ(status(), "WAV embedded data saved in oud.c");
+}
+
+TEST_F(InbedBewarenProef, TheAnswerIsForTheExactPathAndNotForTheNameThatIsTold) {
+  beginMetBel();
+  bestand("klankc", "oud\n");
+  inbed(pad("klank"));
+  EXPECT_TRUE(antwoorden.berichten.empty());
+  EXPECT_EQ(inhoud(pad("klankc")), "oud\n");
+}
+
+TEST_F(InbedBewarenProef, AFileThatWentSinceTheLoadKeepsItsBlockWithAnEmptyArray) {
+  begin();
+  laad({wav("a.wav", {1}), wav("weg.wav", {2}), wav("z.wav", {3})});
+  ASSERT_TRUE(wxRemoveFile(pad("weg.wav")));
+  inbed(pad("uit.c"));
+  std::string const gevonden = gelezen(pad("uit.c"));
+  EXPECT_NE(gevonden.find("/* WAV file : weg.wav\t\t*/\n"
+                          "/* WAV information :   \t\t*/\n"
+                          "/* WAV Format                 : WAV 4 Bit IMA ADPCM\t*/\n"
+                          "/* Sampling frequency         : 0 Hz\t\t*/\n"
+                          "/* Size                       : 0 bytes\t\t*/\n"
+                          "/* Duration                   : nan s\t\t*/\n"
+                          "/* Full Scale gain adapted to : 16 bits\t\t*/\n\n"
+                          "const unsigned char weg[] = \n{\n"
+                          "\t};\n\n"
+                          "/* end of WAV file         : weg.wav         */\n"
+                          "/******* Stop embedding file number 2 \t\t*******/\n\n"
+                          "/******* Start embedding file number 3 \t\t*******/\n"),
+            std::string::npos);
+  EXPECT_NE(gevonden.find("const unsigned char z[] = \n{\n\t0x52,"), std::string::npos);
+  EXPECT_EQ(status(), "WAV embedded data saved in uit.c");
+  EXPECT_TRUE(fouten().empty());
+}
+
+TEST_F(InbedBewarenProef, AFreshResultStaysFreshAndIsStillTheOneThatSaveWrites) {
+  beginMetBel();
+  codeer();
+  wxString const gecodeerd = tekst();
+  inbed(pad("uit.c"));
+  EXPECT_TRUE(isGecodeerd());
+  EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
+  EXPECT_TRUE(isGeladen());
+  bewaar(pad("gecodeerd.c"));
+  EXPECT_EQ(inhoud(pad("gecodeerd.c")), gecodeerd);
+}
+
+TEST_F(InbedBewarenProef, WithoutAResultNoneAppears) {
+  beginMetBel();
+  inbed(pad("uit.c"));
+  EXPECT_FALSE(isGecodeerd());
+  EXPECT_TRUE(knop(ID_CODEER)->IsEnabled());
+  EXPECT_TRUE(knop(wxID_SAVEAS)->IsEnabled());
+}
+
+TEST_F(InbedBewarenProef, EmbeddingIsNoSavingOfTheResult) {
+  beginMetBel();
+  codeer();
+  inbed(pad("uit.c"));
+  antwoorden.opBericht(wxID_NO);
+  klik(wxID_EXIT);
+  EXPECT_FALSE(leeft());
+  EXPECT_EQ(antwoorden.berichten.back().titel, "Encoded audio is not stored yet");
+}
+
+TEST_F(InbedBewarenProef, DirectoriesAndHistoryStayAsTheyWere) {
+  begin(0, "speexDirectory=/ergens/uit\nspeexFile=oud.c\n");
+  submap("geluid");
+  antwoorden.opBestandsVraag(wav("geluid/bel.wav"));
+  klik(wxID_OPEN);
+  wxString const map2 = submap("uitvoer");
+  inbed(map2 + "/klank.c");
+  wxString const bewaard = stop();
+  EXPECT_TRUE(bewaard.Contains("\nwavDirectory=" + pad("geluid") + "\n"));
+  EXPECT_TRUE(bewaard.Contains("\nspeexDirectory=/ergens/uit\n"));
+  EXPECT_TRUE(bewaard.Contains("\nspeexFile=oud.c\n"));
+  EXPECT_TRUE(bewaard.Contains("\nfile1=" + pad("geluid/bel.wav") + "\nfile2=\n"));
+  EXPECT_FALSE(bewaard.Contains("uitvoer"));
+  EXPECT_FALSE(bewaard.Contains("klank"));
+}
+
+}  // namespace

@@ -1,0 +1,117 @@
+// Embedding to places that take no file: the toolkit's own words in the log, and everything else as
+// after a save that went well.
+#include <wx/button.h>
+#include <wx/msgdlg.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/audio/speex/encoder/toepassing/inbedVensterProef.h"
+
+namespace {
+
+class InbedFoutenProef : public InbedVensterProef {
+ protected:
+  void SetUp() override { beginMetBel(); }
+
+  // Expects an error in the log that tells `reden`, this status text, an empty text field, and that
+  // the next one goes well.
+  void verwachtMislukt(wxString const& reden, wxString const& naam) {
+    ASSERT_FALSE(fouten().empty());
+    EXPECT_TRUE(fouten()[0].Contains(reden)) << fouten()[0].utf8_str();
+    EXPECT_EQ(status(), "WAV embedded data saved in " + naam);
+    EXPECT_EQ(tekst(), "");
+    EXPECT_EQ(voortgang(), nullptr);
+    EXPECT_TRUE(isGeladen());
+    log().clear();
+    inbed(pad("elders.c"));
+    EXPECT_TRUE(fouten().empty());
+    EXPECT_TRUE(zelfdeTekst(gelezen(pad("elders.c")), verwachteBel()));
+    EXPECT_EQ(status(), "WAV embedded data saved in elders.c");
+  }
+};
+
+TEST_F(InbedFoutenProef, ADirectoryThatTakesNoFiles) {
+  inbed("/proc/uit.c");
+  verwachtMislukt("'/proc/uit.c'", "uit.c");
+}
+
+TEST_F(InbedFoutenProef, APathThatIsADirectory) {
+#ifdef __SANITIZE_ADDRESS__
+  // The toolkit asks for as many bytes as a directory tells it has, which is more than there is. It
+  // goes on without them, and the sanitizer does not.
+  GTEST_SKIP() << "asks for too much memory";
+#endif
+  submap("map.c");
+  inbed(pad("map.c"));
+  verwachtMislukt("Is a directory", "map.c");
+}
+
+TEST_F(InbedFoutenProef, ADirectoryThatWentAwayDuringTheQuestion) {
+  submap("weg");
+  wxString const doel = bestand("weg/uit.c", "oud\n");
+  inbedOver(doel, wxID_YES, [this] { std::filesystem::remove_all(map.pad("weg")); });
+  verwachtMislukt("No such file or directory", "uit.c");
+}
+
+TEST_F(InbedFoutenProef, APerCentSignInAFailedNameIsShownAndNotObeyed) {
+  inbed("/proc/%s%n.c");
+  verwachtMislukt("'/proc/%s%n.c'", "%s%n.c");
+}
+
+TEST_F(InbedFoutenProef, AFileThatTakesNoBytesIsAskedAboutFirstAndShown) {
+  inbedOver("/proc/version", wxID_NO);
+  EXPECT_EQ(antwoorden.berichten.back().titel, "File exists");
+  ASSERT_FALSE(fouten().empty());
+  EXPECT_EQ(status(), "WAV embedded data saved in versionc");
+  EXPECT_EQ(tekst(), inhoud("/proc/version"));
+  EXPECT_TRUE(isGeladen());
+}
+
+TEST_F(InbedFoutenProef, ADeviceWithoutRoom) {
+  inbed("/dev/full");
+  verwachtMislukt("No space left on device", "fullc");
+}
+
+TEST_F(InbedFoutenProef, TheTextOfBeforeIsGoneFromTheFieldAndCanStillBeSaved) {
+  wxString const gecodeerd = codeer();
+  inbed("/proc/uit.c");
+  EXPECT_EQ(tekst(), "");
+  EXPECT_TRUE(isGecodeerd());
+  log().clear();
+  bewaar(pad("gecodeerd.c"));
+  EXPECT_EQ(zonderMoment(inhoud(pad("gecodeerd.c"))), gecodeerd);
+}
+
+TEST_F(InbedFoutenProef, AFailedSaveKeepsItsDirectoryForTheNextDialog) {
+  inbed("/proc/uit.c");
+  EXPECT_EQ(vraag().map, "/proc");
+}
+
+TEST_F(InbedFoutenProef, WithoutRoomForAnImageTheArrayIsEmptyAndTheRestIsAsEver) {
+  setenv("TMPDIR", "/proc", 1);
+  inbed(pad("uit.c"));
+  EXPECT_EQ(fouten().size(), 1U);
+  std::string const gevonden = gelezen(pad("uit.c"));
+  EXPECT_NE(gevonden.find("/* Size                       : 2 bytes\t\t*/\n"), std::string::npos);
+  EXPECT_NE(gevonden.find("const unsigned char bel[] = \n{\n\t};\n\n/* end of WAV file"),
+            std::string::npos);
+  EXPECT_EQ(status(), "WAV embedded data saved in uit.c");
+  EXPECT_EQ(tekst(), inhoud(pad("uit.c")));
+}
+
+TEST_F(InbedFoutenProef, AnImageInTheTemporaryDirectoryForEachFileStaysBehind) {
+  laad({wav("bel.wav"), wav("zoem.wav")});
+  inbed(pad("uit.c"));
+  inbed(pad("nog.c"));
+  std::vector<std::string> namen;
+  for (auto const& een : std::filesystem::directory_iterator(map.pad("tmp"))) {
+    namen.push_back(een.path().filename().string());
+    namen.back().resize(namen.back().size() - 6);
+  }
+  std::sort(namen.begin(), namen.end());
+  EXPECT_EQ(namen, (std::vector<std::string>{"bel", "bel", "zoem", "zoem"}));
+}
+
+}  // namespace

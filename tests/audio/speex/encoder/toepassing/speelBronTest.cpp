@@ -1,0 +1,270 @@
+// The source files as they are heard, and their lines in the tree.
+#include <wx/button.h>
+#include <wx/sound.h>
+#include <wx/treectrl.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/audio/speex/encoder/toepassing/speelProef.h"
+#include "tests/audio/speex/encoder/toepassing/vreemdeBestanden.h"
+#include "tests/steun/geluidPaden.h"
+
+namespace {
+
+using Paden = std::vector<wxString>;
+using Lengten = std::vector<unsigned int>;
+using Vet = std::vector<Rijen>;
+
+class SpeelBronProef : public SpeelProef {
+ protected:
+  void SetUp() override {
+    begin();
+    neemOp();
+  }
+
+  // The same as `wav`, told apart from others by its number of samples.
+  wxString klank(std::string const& naam, std::size_t aantal) {
+    return wav(naam, proefSamples(aantal));
+  }
+
+  // Loads these, all of which the tool takes, and plays them.
+  void speel(Paden const& paden) {
+    ASSERT_EQ(laad(paden).size(), paden.size());
+    log().clear();
+    klik(ID_SPEEL_BRON);
+    EXPECT_TRUE(log().empty());
+    EXPECT_EQ(vetteRijen(), Rijen{});
+  }
+
+  // The number of samples of each sound.
+  Lengten lengten() const {
+    Lengten alle;
+    for (Gehoord const& een : gehoord) {
+      alle.push_back(een.geluid.samples);
+    }
+    return alle;
+  }
+  // The rows in bold during each sound.
+  Vet vet() const {
+    Vet alle;
+    for (Gehoord const& een : gehoord) {
+      alle.push_back(een.vet);
+    }
+    return alle;
+  }
+};
+
+TEST_F(SpeelBronProef, WithNothingLoadedNothingHappens) {
+  ASSERT_FALSE(knop(ID_SPEEL_BRON)->IsEnabled());
+  stuur(knop(ID_SPEEL_BRON), wxEVT_BUTTON);
+  EXPECT_TRUE(neemGeluidPaden().empty());
+  EXPECT_TRUE(gehoord.empty());
+  EXPECT_TRUE(log().empty());
+}
+
+TEST_F(SpeelBronProef, AfterALoadOfOnlyUnusableFilesTheButtonWorksAndNothingHappens) {
+  laad({klank("bel.wav", 5)});
+  EXPECT_EQ(laad({bestand("kapot.wav", "no sound")}).size(), 0U);
+  EXPECT_EQ(fouten(), std::vector<wxString>{afgewezen("kapot.wav")});
+  klik(ID_SPEEL_BRON);
+  EXPECT_TRUE(neemGeluidPaden().empty());
+  EXPECT_TRUE(gehoord.empty());
+  EXPECT_EQ(log().size(), 1U);
+}
+
+TEST_F(SpeelBronProef, TwoFilesAreHeardOneToItsEndBeforeTheOtherEachInBoldWhileItPlays) {
+  Paden const paden{klank("bel.wav", 5), klank("zoem.wav", 7)};
+  speel(paden);
+  EXPECT_EQ(neemGeluidPaden(), paden);
+  EXPECT_EQ(neemGeluiden(), (std::vector<OpgenomenGeluid>{{1, 8000, 16, 5, 10, wxSOUND_SYNC},
+                                                          {1, 8000, 16, 7, 14, wxSOUND_SYNC}}));
+  EXPECT_EQ(vet(), (Vet{{0}, {1}}));
+}
+
+TEST_F(SpeelBronProef, TheSamplesHeardAreThoseOfTheFiles) {
+  std::vector<std::int16_t> const mono = proefSamples(1001);
+  std::vector<std::int16_t> const stereo{1, -1, 32767, -32768, 256, -256};
+  speel({wav("bel.wav", mono), wav("zoem.wav", stereo, {8000, 2})});
+  ASSERT_EQ(gehoord.size(), 2U);
+  EXPECT_EQ(gehoord[0].bytes, geluidBytes(mono));
+  EXPECT_EQ(gehoord[1].bytes, geluidBytes(stereo));
+  EXPECT_EQ(gehoord[1].geluid, (OpgenomenGeluid{2, 8000, 16, 3, 12, wxSOUND_SYNC}));
+}
+
+TEST_F(SpeelBronProef, FilesAreHeardAtTheirOwnRate) {
+  speel({wav("breed.wav", {1, 2}, {16000})});
+  speel({wav("breder.wav", {1, 2}, {32000})});
+  ASSERT_EQ(gehoord.size(), 2U);
+  EXPECT_EQ(gehoord[0].geluid.rate, 16000U);
+  EXPECT_EQ(gehoord[1].geluid.rate, 32000U);
+}
+
+TEST_F(SpeelBronProef, AFileWithoutSamplesIsASoundToo) {
+  speel({wav("leeg.wav", {}), klank("zoem.wav", 7)});
+  EXPECT_EQ(lengten(), (Lengten{0, 7}));
+  EXPECT_EQ(vet(), (Vet{{0}, {1}}));
+}
+
+TEST_F(SpeelBronProef, NamesOfEveryKindAreHeard) {
+  submap("100%s %n");
+  speel({klank("100%s %n/\xC3\xA9\xC3\xA9n %d bel.wav", 5)});
+  EXPECT_EQ(lengten(), Lengten{5});
+  EXPECT_EQ(vet(), Vet{{0}});
+}
+
+TEST_F(SpeelBronProef, AnImaAdpcmFileIsPassedOverWithoutAWord) {
+  Paden const paden{klank("a.wav", 5), bestand("b.wav", imaAdpcmWav(8000, 100)), klank("c.wav", 7)};
+  speel(paden);
+  EXPECT_EQ(neemGeluidPaden(), paden);
+  EXPECT_EQ(lengten(), (Lengten{5, 7}));
+  EXPECT_EQ(vet(), (Vet{{0}, {2}}));
+}
+
+TEST_F(SpeelBronProef, AFileWithAListBeforeItsSamplesIsPassedOverWithoutAWord) {
+  // "RIFF", 4 bytes of size, "WAVE", and a format chunk of 24 bytes stand before the samples.
+  std::string bytes = wavBytes({}, "abcd");
+  bytes.insert(36, std::string("LIST\x04\0\0\0INFO", 12));
+  bytes[4] = static_cast<char>(bytes.size() - 8);
+  Paden const paden{bestand("a.wav", bytes), klank("b.wav", 7)};
+  speel(paden);
+  EXPECT_EQ(boomRegels().at(1), " frames     : 2");
+  EXPECT_EQ(neemGeluidPaden(), paden);
+  EXPECT_EQ(lengten(), Lengten{7});
+  EXPECT_EQ(vet(), Vet{{1}});
+}
+
+TEST_F(SpeelBronProef, AFileThatIsGoneSinceTheLoadIsPassedOverWithoutAWord) {
+  Paden const paden{klank("a.wav", 5), klank("b.wav", 6), klank("c.wav", 7)};
+  laad(paden);
+  std::filesystem::remove(map.pad("b.wav"));
+  klik(ID_SPEEL_BRON);
+  EXPECT_EQ(neemGeluidPaden(), paden);
+  EXPECT_EQ(lengten(), (Lengten{5, 7}));
+  EXPECT_EQ(vet(), (Vet{{0}, {2}}));
+  EXPECT_TRUE(log().empty());
+}
+
+TEST_F(SpeelBronProef, WithAllFilesGoneNothingIsHeard) {
+  laad({klank("a.wav", 5)});
+  std::filesystem::remove(map.pad("a.wav"));
+  klik(ID_SPEEL_BRON);
+  EXPECT_TRUE(gehoord.empty());
+  EXPECT_EQ(vetteRijen(), Rijen{});
+  EXPECT_TRUE(log().empty());
+}
+
+TEST_F(SpeelBronProef, FilesAreHeardInTheOrderOfTheirPathsAndBoldWhereTheSearchFindsThem) {
+  // In the tree: c, a, b.
+  speel({klank("c.wav", 7), klank("a.wav", 5), klank("b.wav", 6)});
+  EXPECT_EQ(lengten(), (Lengten{5, 6, 7}));
+  EXPECT_EQ(vet(), (Vet{{1}, {2}, {}}));
+}
+
+TEST_F(SpeelBronProef, AfterTheSearchRanOutAllAreHeardWithoutBold) {
+  // In the tree: b, c, a.
+  speel({klank("b.wav", 6), klank("c.wav", 7), klank("a.wav", 5)});
+  EXPECT_EQ(lengten(), (Lengten{5, 6, 7}));
+  EXPECT_EQ(vet(), (Vet{{2}, {}, {}}));
+}
+
+TEST_F(SpeelBronProef, TheOrderIsOneOfWholePathsAndNotOfNames) {
+  submap("een");
+  submap("twee");
+  speel({klank("een/z.wav", 5), klank("twee/a.wav", 6)});
+  EXPECT_EQ(lengten(), (Lengten{5, 6}));
+  EXPECT_EQ(vet(), (Vet{{0}, {1}}));
+}
+
+TEST_F(SpeelBronProef, OfTwoFilesOfOneNameTheFirstLineIsBoldTwice) {
+  submap("een");
+  submap("twee");
+  speel({klank("een/bel.wav", 5), klank("twee/bel.wav", 6), klank("zoem.wav", 7)});
+  EXPECT_EQ(lengten(), (Lengten{5, 6, 7}));
+  EXPECT_EQ(vet(), (Vet{{0}, {0}, {2}}));
+}
+
+TEST_F(SpeelBronProef, AFileThatIsPassedOverIsNotSearchedFor) {
+  // In the tree: b, c, a; the search for a would go past the two others.
+  speel({klank("b.wav", 6), klank("c.wav", 7), bestand("a.wav", imaAdpcmWav(8000, 100))});
+  EXPECT_EQ(lengten(), (Lengten{6, 7}));
+  EXPECT_EQ(vet(), (Vet{{0}, {1}}));
+}
+
+TEST_F(SpeelBronProef, EveryPlaySearchesFromTheTop) {
+  speel({klank("b.wav", 6), klank("a.wav", 5)});
+  klik(ID_SPEEL_BRON);
+  EXPECT_EQ(lengten(), (Lengten{5, 6, 5, 6}));
+  EXPECT_EQ(vet(), (Vet{{1}, {}, {1}, {}}));
+}
+
+TEST_F(SpeelBronProef, TheMenuItemPlaysTheSame) {
+  laad({klank("b.wav", 6), klank("a.wav", 5)});
+  kiesMenu(ID_SPEEL_BRON);
+  EXPECT_EQ(lengten(), (Lengten{5, 6}));
+  EXPECT_EQ(vet(), (Vet{{1}, {}}));
+  EXPECT_EQ(vetteRijen(), Rijen{});
+}
+
+TEST_F(SpeelBronProef, TheTreeOpensWhereItIsClosedAndShowsTheLine) {
+  laad({klank("bel.wav", 5), klank("zoem.wav", 7)});
+  for (std::size_t keer = 1; keer <= 2; ++keer) {
+    boom()->Collapse(knopen().front());
+    ASSERT_FALSE(boom()->IsVisible(knopen().at(1)));
+    klik(ID_SPEEL_BRON);
+    ASSERT_EQ(gehoord.size(), 2 * keer);
+    EXPECT_EQ(gehoord[2 * keer - 2].vet, Rijen{0});
+    EXPECT_EQ(gehoord[2 * keer - 2].zichtbaar, (Rijen{0, 1}));
+    EXPECT_EQ(gehoord[2 * keer - 1].vet, Rijen{1});
+    EXPECT_EQ(gehoord[2 * keer - 1].zichtbaar, (Rijen{0, 1}));
+  }
+}
+
+TEST_F(SpeelBronProef, AClosedTreeOpensForNoFileThatTheSearchDoesNotFind) {
+  laad({klank("b.wav", 6), klank("a.wav", 5)});
+  bijElkGeluid([this](OpgenomenGeluid const& geluid, GeluidBytes const& /*bytes*/) {
+    if (geluid.samples == 5) {
+      boom()->Collapse(knopen().front());
+    }
+  });
+  klik(ID_SPEEL_BRON);
+  EXPECT_EQ(neemGeluiden().size(), 2U);
+  EXPECT_FALSE(boom()->IsExpanded(knopen().front()));
+}
+
+TEST_F(SpeelBronProef, TheLineOfALongTreeIsScrolledIntoView) {
+  constexpr int aantal = 80;
+  Paden paden;
+  for (int i = 0; i < aantal; ++i) {
+    paden.push_back(klank("b" + std::to_string(100 + i) + ".wav", 2));
+  }
+  speel(paden);
+  ASSERT_EQ(gehoord.size(), static_cast<std::size_t>(aantal));
+  // Otherwise this would show nothing.
+  ASSERT_LT(gehoord.back().zichtbaar.size(), static_cast<std::size_t>(aantal));
+  int rij = 0;
+  for (Gehoord const& een : gehoord) {
+    EXPECT_EQ(een.vet, Rijen{rij});
+    EXPECT_NE(std::find(een.zichtbaar.begin(), een.zichtbaar.end(), rij), een.zichtbaar.end());
+    ++rij;
+  }
+}
+
+TEST_F(SpeelBronProef, ThePlayChangesNothingElse) {
+  laad({klank("bel.wav", 5)});
+  codeer();
+  wxString const voor = tekst();
+  wxString const statusVoor = status();
+  std::vector<std::string> const bestanden = tijdelijke();
+  klik(ID_SPEEL_BRON);
+  ASSERT_EQ(gehoord.size(), 1U);
+  EXPECT_EQ(gehoord[0].status, statusVoor);
+  EXPECT_EQ(status(), statusVoor);
+  EXPECT_EQ(tekst(), voor);
+  EXPECT_TRUE(isGecodeerd());
+  EXPECT_TRUE(isGeladen());
+  EXPECT_EQ(tijdelijke(), bestanden);
+}
+
+}  // namespace

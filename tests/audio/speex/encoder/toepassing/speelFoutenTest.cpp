@@ -1,0 +1,121 @@
+// A result that cannot be played: the window says so, and goes on.
+#include <sys/resource.h>
+#include <wx/button.h>
+#include <wx/log.h>
+#include <wx/radiobox.h>
+
+#include <csignal>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/audio/speex/encoder/toepassing/speelProef.h"
+#include "tests/steun/geluidPaden.h"
+#include "tests/steun/omgevingsWaarde.h"
+
+namespace {
+
+constexpr char const* misluktStatus = "Error playing decoded audio fragments.";
+constexpr char const* misluktRegel = "Could not decode and play encoded audio fragments.";
+
+// While it lives no file can grow, as on a full disk.
+class VolleSchijf {
+ public:
+  VolleSchijf() : vorigSignaal(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &vorige);
+    rlimit geen = vorige;
+    geen.rlim_cur = 0;
+    setrlimit(RLIMIT_FSIZE, &geen);
+  }
+  ~VolleSchijf() {
+    setrlimit(RLIMIT_FSIZE, &vorige);
+    static_cast<void>(std::signal(SIGXFSZ, vorigSignaal));
+  }
+  VolleSchijf(VolleSchijf const&) = delete;
+  VolleSchijf& operator=(VolleSchijf const&) = delete;
+  VolleSchijf(VolleSchijf&&) = delete;
+  VolleSchijf& operator=(VolleSchijf&&) = delete;
+
+ private:
+  rlimit vorige{};
+  void (*vorigSignaal)(int);
+};
+
+class SpeelFoutenProef : public SpeelProef {
+ protected:
+  // A short result of this encoder, fresh, and the log empty.
+  void begin(EncoderSoort soort) {
+    beginSpeex();
+    neemOp();
+    kies(radio(ID_ENCODER_TYPE), soort);
+    laadFragmenten({korteBel()});
+    codeer();
+    ASSERT_TRUE(log().empty());
+  }
+  // Nothing was heard; the user knows it, and the result is still there.
+  void verwachtMislukt() {
+    EXPECT_TRUE(gehoord.empty());
+    EXPECT_EQ(status(), misluktStatus);
+    std::vector<wxString> const regels = fouten();
+    ASSERT_FALSE(regels.empty());
+    EXPECT_EQ(regels.back(), misluktRegel);
+    EXPECT_TRUE(isGecodeerd());
+    EXPECT_TRUE(knop(ID_SPEEL_RESULTAAT)->IsEnabled());
+  }
+  // No temporary file can be made there, which the toolkit logs; the net of every window test fails
+  // it on an assertion.
+  void verwachtZonderPlaatsMislukt(EncoderSoort soort) {
+    begin(soort);
+    OmgevingsWaarde const nergens("TMPDIR", "/proc");
+    klik(ID_SPEEL_RESULTAAT);
+    verwachtMislukt();
+    EXPECT_GT(log().size(), 1U);
+  }
+};
+
+TEST_F(SpeelFoutenProef, WithoutRoomForTemporaryFilesSpeexSaysThatItFailed) {
+  verwachtZonderPlaatsMislukt(EncoderSpeex);
+}
+
+TEST_F(SpeelFoutenProef, WithoutRoomForTemporaryFilesAdpcmSaysThatItFailed) {
+  verwachtZonderPlaatsMislukt(EncoderADPCM);
+}
+
+TEST_F(SpeelFoutenProef, WithoutRoomForTemporaryFilesPcmSaysThatItFailed) {
+  verwachtZonderPlaatsMislukt(EncoderPCM);
+}
+
+TEST_F(SpeelFoutenProef, OnAFullDiskItSaysThatItFailedAndBothFilesStay) {
+  begin(EncoderSpeex);
+  {
+    VolleSchijf const vol;
+    klik(ID_SPEEL_RESULTAAT);
+  }
+  verwachtMislukt();
+  EXPECT_EQ(leesTekst(tijdelijk("speexTmpBestand")), "");
+  EXPECT_EQ(leesTekst(tijdelijk("wavTmpBestand")), "");
+  EXPECT_EQ(neemGeluidPaden().size(), 1U);
+}
+
+TEST_F(SpeelFoutenProef, WithTheLogOffTheStatusTellsIt) {
+  begin(EncoderSpeex);
+  wxLog::SetLogLevel(wxLOG_FatalError);
+  {
+    VolleSchijf const vol;
+    klik(ID_SPEEL_RESULTAAT);
+  }
+  EXPECT_TRUE(log().empty());
+  EXPECT_EQ(status(), misluktStatus);
+}
+
+TEST_F(SpeelFoutenProef, TheNextPlaySucceeds) {
+  begin(EncoderSpeex);
+  {
+    VolleSchijf const vol;
+    klik(ID_SPEEL_RESULTAAT);
+  }
+  ASSERT_TRUE(gehoord.empty());
+  klik(ID_SPEEL_RESULTAAT);
+  EXPECT_EQ(gehoord.size(), 1U);
+  EXPECT_EQ(status(), "Finished playing decoded audio fragments.");
+}
+
+}  // namespace
