@@ -9,7 +9,7 @@ pkg_check_modules(speexdsp REQUIRED IMPORTED_TARGET speexdsp)
 # Not needed, but without it little can be heard.
 option(KESTROLIN_SDL "Play sound through SDL where it is installed" ON)
 if(KESTROLIN_SDL)
-  pkg_check_modules(sdl2 IMPORTED_TARGET sdl2)
+  pkg_check_modules(sdl2 IMPORTED_TARGET sdl2>=2.0.14)
 endif()
 
 function(_maak_wx_doel doel)

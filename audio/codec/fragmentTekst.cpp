@@ -36,10 +36,12 @@ wxString fragmentDuur(sf_count_t frames, int samplerate) {
   return wxString::FromAscii(tekens.data(), static_cast<std::size_t>(einde.ptr - tekens.data()));
 }
 
-FragmentTekst::FragmentTekst(wxOutputStream& uit) : tekstStroom(uit) {}
+FragmentTekst::FragmentTekst(wxOutputStream& uit) : stroom(uit), tekstStroom(uit) {}
 
 void FragmentTekst::schrijf(wxString const& tekst) {
-  tekstStroom.WriteString(tekst);
+  if (stroom.IsOk()) {
+    tekstStroom.WriteString(tekst);
+  }
 }
 
 void FragmentTekst::schrijfHerkomst(wxString const& werkwoord, wxFileName const& wav) {

@@ -34,6 +34,7 @@ class FragmentTekst {
   // Appends to `uit`, which must outlive this object, as UTF-8 with "\n" line ends.
   explicit FragmentTekst(wxOutputStream& uit);
 
+  // Writes nothing more once a write has failed: the toolkit logs each one that does.
   void schrijf(wxString const& tekst);
 
   // The comment lines about the machine, the moment and the file's name, for a file that was
@@ -73,9 +74,11 @@ class FragmentTekst {
   void sluitArray(wxFileName const& wav);
 
  private:
+  wxOutputStream& stroom;
   wxTextOutputStream tekstStroom;
 };
 
 // The duration in seconds with two decimals. The decimal point stays a point in every locale: the
-// text must not change with the user's language. No samples at no frequency last "nan".
+// text must not change with the user's language. No samples at no frequency last "nan", without the
+// sign that a processor may give it.
 wxString fragmentDuur(sf_count_t frames, int samplerate);

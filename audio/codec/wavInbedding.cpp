@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "audio/codec/byteTekst.h"
@@ -32,7 +33,7 @@ void schrijfKop(FragmentTekst& tekst, wxFileName const& wav, SF_INFO const& info
 
 // Copies the samples of `bron` to a file of its kind, scaled. The count is one of frames and not of
 // samples: a file of two channels goes over by half. libsndfile takes whole frames alone.
-void schaal(SndBestand& bron, wxFileName const& doel, int dacBits) {
+void schaal(SndBestand bron, wxFileName const& doel, int dacBits) {
   constexpr int sampleBits = 16;
   SF_INFO const& info = bron.info();
   SndBestand uit = SndBestand::schrijf(doel, info.samplerate, info.channels, info.format);
@@ -43,6 +44,8 @@ void schaal(SndBestand& bron, wxFileName const& doel, int dacBits) {
   std::vector<short> frame(static_cast<std::size_t>(info.channels));
   auto const lengte = static_cast<sf_count_t>(frame.size());
   for (sf_count_t plaats = 0; plaats + lengte <= info.frames; plaats += lengte) {
+    // What cannot be read counts as zero.
+    std::fill(frame.begin(), frame.end(), short{0});
     bron.leesItems(frame.data(), lengte);
     // The floor of the quotient, so that -1 stays -1 at every width.
     std::transform(frame.begin(), frame.end(), frame.begin(), [verschuiving](short sample) {
@@ -82,7 +85,8 @@ void schrijfInbedding(wxFileName const& wav, InbedOpties const& opties, wxOutput
   wxFileName const beeld(wxFileName::CreateTempFileName(wav.GetName()));
   SndBestand bron = SndBestand::lees(wav);
   schrijfKop(tekst, wav, bron.info(), opties.dacBits);
-  schaal(bron, beeld, opties.dacBits);
+  // Both files are complete and closed behind this.
+  schaal(std::move(bron), beeld, opties.dacBits);
   tekst.schrijfArrayKop({opties.taal, opties.klasse, wav.GetName()}, "unsigned char");
   tekst.schrijf("\t");
   if (beeld.IsOk()) {

@@ -20,7 +20,7 @@ struct InbedOpties {
 // bits wide, signed. Of a file with several channels it takes as many interleaved values as the
 // file has frames, without the part of a frame that may be left at the end.
 //
-// Samples and bytes pass one by one, so that no file's size is ever held. Nothing here reports an
-// error: a file that cannot be read has the format line of IMA ADPCM, zeros and "nan" in the lines
-// below it, and an empty array.
+// Samples pass a frame and bytes a buffer at a time, so that no file's size is ever held. Nothing
+// here reports an error: a file that cannot be read has the format line of IMA ADPCM, zeros and
+// "nan" in the lines below it, and an empty array.
 void schrijfInbedding(wxFileName const& wav, InbedOpties const& opties, wxOutputStream& uit);

@@ -7,7 +7,7 @@
 
 // Puts the player in the place of the toolkit's, for every wxSound of this process that plays from
 // now on. The toolkit owns it and deletes it at its end. Call it once the application object
-// exists.
+// exists, under whose name the mixers of the desktop show the sound.
 //
 // It plays WAV data of 8 and 16 bits on up to 8 channels. A synchronous sound has left the device
 // when Play returns; an asynchronous one goes on behind it, also after the wxSound has died, and

@@ -40,13 +40,21 @@ std::optional<GeluidVorm> geefVorm(wxSoundData const& geluid) {
       geluid.m_bitsPerSample == smal ? SDL_AudioFormat{AUDIO_U8} : SDL_AudioFormat{AUDIO_S16LSB}};
 }
 
+// The bytes of its whole frames. Part of one at the end would shift whatever comes behind it by a
+// channel or half a sample.
+std::size_t heleFrames(wxSoundData const& geluid) {
+  constexpr std::size_t bitsPerByte = 8;
+  std::size_t const frameBytes = geluid.m_bitsPerSample / bitsPerByte * geluid.m_channels;
+  return geluid.m_dataBytes / frameBytes * frameBytes;
+}
+
 // Once is enough: the user knows it, or will not read it.
 void meldGeenUitvoer(std::string const& reden) {
   static bool isGemeld = false;
   if (!isGemeld) {
     isGemeld = true;
     std::cerr << wxTheApp->GetAppDisplayName().utf8_str()
-              << ": no sound device was found, so that nothing can be heard"
+              << ": no sound device was found, so nothing can be heard"
               << (reden.empty() ? "" : " (" + reden + ")") << std::endl;
   }
 }
@@ -90,6 +98,9 @@ bool SdlSpeler::Play(wxSoundData* geluid, unsigned vlaggen, volatile wxSoundPlay
   if (!vorm) {
     return false;
   }
+  if (heleFrames(*geluid) == 0) {
+    return true;
+  }
   std::string fout;
   uitvoer = SdlUitvoer::open(*vorm, fout);
   if (!uitvoer) {
@@ -123,11 +134,8 @@ void SdlSpeler::Stop() {
   uitvoer.reset();
 }
 
-// Part of a frame at the end would shift whatever comes behind it by a channel or half a sample.
 bool SdlSpeler::vulAan(wxSoundData const& geluid) {
-  constexpr std::size_t bitsPerByte = 8;
-  std::size_t const frameBytes = geluid.m_bitsPerSample / bitsPerByte * geluid.m_channels;
-  return uitvoer->voegToe(geefSamples(geluid), geluid.m_dataBytes / frameBytes * frameBytes);
+  return uitvoer->voegToe(geefSamples(geluid), heleFrames(geluid));
 }
 
 // A device that takes nothing more, as one that was pulled out may, is not waited for.

@@ -24,9 +24,7 @@ SdlUitvoer::Bibliotheek::Bibliotheek() {
   // Without this an interrupt from the terminal would go into a queue of events that nobody reads.
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   // What the mixers of the desktop show.
-  if (wxTheApp != nullptr) {
-    SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, wxTheApp->GetAppDisplayName().utf8_str());
-  }
+  SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, wxTheApp->GetAppDisplayName().utf8_str());
   gestart = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
 }
 

@@ -13,7 +13,8 @@ class TaalDialoog : public wxDialog {
   TaalDialoog(wxWindow* parent, int id, wxString const& title, wxPoint const& pos,
               wxSize const& size, long style);
 
-  // The language chosen so far: until the user selects a row, German, which stands in the first.
+  // The language chosen so far: until the user selects a row, German. Its name has to stand in the
+  // first row, also by the names that a catalog gives.
   wxLanguage geefTaal() const { return static_cast<wxLanguage>(taal); }
 
   void lijstKeuzeHandler(wxCommandEvent& event);

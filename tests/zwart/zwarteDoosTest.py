@@ -223,7 +223,7 @@ def stil(programma: Path, thuis: Path) -> None:
         p.bewaar(thuis / "geluid.c")
         gelijk(p.verlaat(), 0, "exit status")
         (regel,) = p.foutregels()
-        begin = "Kestrolin: no sound device was found, so that nothing can be heard"
+        begin = "Kestrolin: no sound device was found, so nothing can be heard"
         assert regel.startswith(begin), regel
 
 

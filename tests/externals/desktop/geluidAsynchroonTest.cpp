@@ -153,6 +153,13 @@ TEST_F(GeluidAsynchroon, LoopOfPartOfAFrameAddsNothingBetweenItsTurns) {
   }
 }
 
+TEST_F(GeluidAsynchroon, LoopOfLessThanAFrameIsOverAtOnce) {
+  startSpeler();
+  naarBestand("uit");
+  EXPECT_TRUE(maakGeluid({8000, 2, 16}, {0x77, 0x77, 0x77})->Play(wxSOUND_ASYNC | wxSOUND_LOOP));
+  EXPECT_FALSE(wxSound::IsPlaying());
+}
+
 TEST_F(GeluidAsynchroon, EndOfTheProgramEndsTheSound) {
   startSpeler();
   naarBestand("uit", traag);

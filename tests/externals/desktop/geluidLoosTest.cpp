@@ -27,7 +27,7 @@ class GeluidLoos : public GeluidProef {
   }
 
   static std::string deRegel() {
-    return proefNaam().ToStdString() + ": no sound device was found, so that nothing can be heard";
+    return proefNaam().ToStdString() + ": no sound device was found, so nothing can be heard";
   }
 
   // One line, with or without the system's reason, nothing in the log and no box.

@@ -40,6 +40,8 @@ class GeluidProef : public DesktopProef {
 
  private:
   OmgevingsWaarde stuurprogramma{"SDL_AUDIODRIVER", "disk"};
+  // A sound server that is looked for leaves a folder there.
+  OmgevingsWaarde tijdelijkeBestanden{"TMPDIR", map.pad()};
   std::optional<OmgevingsWaarde> bestand;
   std::optional<OmgevingsWaarde> tempo;
 };
