@@ -2,7 +2,6 @@
 #include <wx/button.h>
 #include <wx/choice.h>
 #include <wx/filedlg.h>
-#include <wx/msgdlg.h>
 #include <wx/radiobox.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
@@ -130,14 +129,7 @@ TEST_F(BewarenProef, AnExistingFileBringsTheQuestion) {
   beginGecodeerd();
   bewaarOver(bestand("oud.c", "oud\n"), wxID_NO);
   ASSERT_EQ(antwoorden.berichten.size(), 2U);
-  Bericht const& bericht = antwoorden.berichten[1];
-  EXPECT_EQ(bericht.titel, "File exists");
-  EXPECT_EQ(bericht.tekst,
-            "The file already exists.\n"
-            "Would you like to append the newly encoded data to this file?");
-  EXPECT_EQ(bericht.stijl & (wxYES_NO | wxCANCEL | wxOK), wxYES_NO);
-  EXPECT_EQ(bericht.stijl & wxNO_DEFAULT, 0);
-  EXPECT_EQ(bericht.ouder, venster);
+  verwachtVraagOverBestand(antwoorden.berichten[1]);
 }
 
 TEST_F(BewarenProef, TheAnswerNoLeavesTheNewTextAlone) {

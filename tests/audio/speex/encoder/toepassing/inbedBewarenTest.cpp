@@ -2,7 +2,6 @@
 // of it and leaves as it was.
 #include <wx/button.h>
 #include <wx/filename.h>
-#include <wx/msgdlg.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/inbedVensterProef.h"
@@ -32,14 +31,7 @@ TEST_F(InbedBewarenProef, AnExistingFileBringsTheQuestion) {
   beginMetBel();
   inbedOver(bestand("oud.c", "oud\n"), wxID_NO);
   ASSERT_EQ(antwoorden.berichten.size(), 1U);
-  Bericht const& bericht = antwoorden.berichten[0];
-  EXPECT_EQ(bericht.titel, "File exists");
-  EXPECT_EQ(bericht.tekst,
-            "The file already exists.\n"
-            "Would you like to append the newly encoded data to this file?");
-  EXPECT_EQ(bericht.stijl & (wxYES_NO | wxCANCEL | wxOK), wxYES_NO);
-  EXPECT_EQ(bericht.stijl & wxNO_DEFAULT, 0);
-  EXPECT_EQ(bericht.ouder, venster);
+  verwachtVraagOverBestand(antwoorden.berichten[0]);
 }
 
 TEST_F(InbedBewarenProef, TheAnswerNoReplacesTheFile) {

@@ -70,6 +70,16 @@ void WerkProef::bewaarOver(wxString const& doel, int antwoord, std::function<voi
   klik(wxID_SAVE);
 }
 
+void WerkProef::verwachtVraagOverBestand(Bericht const& bericht) const {
+  EXPECT_EQ(bericht.titel, "File exists");
+  EXPECT_EQ(bericht.tekst,
+            "The file already exists.\n"
+            "Would you like to append the newly encoded data to this file?");
+  EXPECT_EQ(bericht.stijl & (wxYES_NO | wxCANCEL | wxOK), wxYES_NO);
+  EXPECT_EQ(bericht.stijl & wxNO_DEFAULT, 0);
+  EXPECT_EQ(bericht.ouder, venster);
+}
+
 bool WerkProef::isGeladen() const {
   return knop(ID_SPEEL_BRON)->IsEnabled();
 }

@@ -50,6 +50,9 @@ class WerkProef : public VensterProef {
   // The same for a file that is there, with the answer to the question that follows.
   void bewaarOver(wxString const& doel, int antwoord, std::function<void()> tijdens = nullptr);
 
+  // Expects this to be the question that every save asks about a file that is there.
+  void verwachtVraagOverBestand(Bericht const& bericht) const;
+
   // What can be seen of the state: audio is loaded; a result fits the settings.
   bool isGeladen() const;
   bool isGecodeerd() const;
