@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <limits>
 
+#include "numeriek/verzadigd.h"
+
 namespace {
 
 using Ongetekend = unsigned long long;
@@ -44,23 +46,6 @@ double quotient(long long boven, long long onder) {
   return static_cast<double>(enkel);
 }
 
-// 2^63: a double can hold it, while the highest 64-bit integer would be rounded up to it.
-constexpr double grens = 9223372036854775808.0;
-
-bool pastIn64Bits(double geheel) {
-  return geheel >= -grens && geheel < grens;  // false for NaN
-}
-
-long long verzadigd(double geheel) {
-  if (pastIn64Bits(geheel)) {
-    return static_cast<long long>(geheel);
-  }
-  if (std::isnan(geheel)) {
-    return 0;
-  }
-  return geheel < 0 ? std::numeric_limits<long long>::min() : std::numeric_limits<long long>::max();
-}
-
 long long schaalVan(BreukRelAantalRelevanteNummers k) {
   const std::size_t diepte = std::min(static_cast<std::size_t>(k), Breuk::nulWerkers.size());
   return Breuk::nulWerkers.at(diepte - 1);
@@ -74,8 +59,8 @@ constexpr std::array<long long, 4> factoren{2, 3, 5, 7};
 
 Breuk::Breuk(double x, BreukRelAantalRelevanteNummers k) : teller_(0), noemer_(1) {
   double const onderkant = std::floor(x);
-  long long const geheel = verzadigd(onderkant);
-  if (k == BreukRelAantalRelevanteNummers::geheel || !pastIn64Bits(onderkant)) {
+  auto const geheel = verzadigd<long long>(onderkant);
+  if (k == BreukRelAantalRelevanteNummers::geheel || !pastIn<long long>(onderkant)) {
     teller_ = geheel;
     return;
   }

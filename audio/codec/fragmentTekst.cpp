@@ -6,12 +6,11 @@
 #include <wx/platinfo.h>
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <cstddef>
 
 #include "audio/codec/byteTekst.h"
 #include "audio/codec/uitvoerTaal.h"
+#include "numeriek/getalTekst.h"
 
 namespace {
 
@@ -26,14 +25,7 @@ wxString fragmentDuur(sf_count_t frames, int samplerate) {
   if (samplerate == 0) {
     return frames == 0 ? "nan" : "inf";
   }
-  // The one conversion that no locale can touch. The longest quotient has 19 digits before the
-  // point.
-  constexpr int decimalen = 2;
-  std::array<char, 32> tekens{};
-  auto const einde =
-      std::to_chars(tekens.begin(), tekens.end(), static_cast<double>(frames) / samplerate,
-                    std::chars_format::fixed, decimalen);
-  return wxString::FromAscii(tekens.data(), static_cast<std::size_t>(einde.ptr - tekens.data()));
+  return tweeDecimalen(static_cast<double>(frames) / samplerate);
 }
 
 FragmentTekst::FragmentTekst(wxOutputStream& uit) : stroom(uit), tekstStroom(uit) {}

@@ -1,0 +1,18 @@
+#include "numeriek/getalTekst.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+std::string tweeDecimalen(double x) {
+  if (std::isnan(x)) {
+    return "nan";
+  }
+  constexpr int decimalen = 2;
+  // The longest: a sign, all digits of the largest double, the point and the decimals.
+  std::array<char, std::numeric_limits<double>::max_exponent10 + 1 + decimalen + 2> tekens{};
+  auto const einde =
+      std::to_chars(tekens.begin(), tekens.end(), x, std::chars_format::fixed, decimalen);
+  return {tekens.begin(), einde.ptr};
+}
