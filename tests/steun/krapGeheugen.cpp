@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <new>
 
 // Asked by the leak detector. The toolkit loses the buffer of a text that it converts, one way or
@@ -32,7 +33,7 @@ void* neem(std::size_t bytes) {
   if (geheugen == nullptr) {
     throw std::bad_alloc();
   }
-  return geheugen;
+  return std::memset(geheugen, vuil, std::min(bytes, vuilBytes));
 }
 
 }  // namespace

@@ -5,6 +5,10 @@
 
 #include <cstddef>
 
+// What each of the first bytes of fresh memory holds, at most `vuilBytes` of them.
+constexpr unsigned char vuil = 0xA5;
+constexpr std::size_t vuilBytes = 4096;
+
 // While it lives, the `nummer`-th allocation from here on, counted from 1, throws std::bad_alloc,
 // and that one alone; 0 lets all succeed. Those of less than `vanaf` bytes do not count.
 class KrapGeheugen {
