@@ -1,0 +1,129 @@
+// Hoek: an angle, held in radians as a double.
+//
+// A plain value without a range: 370 degrees is an angle as good as any, and arithmetic keeps it
+// one. Only normaliseer, zelfNormaliseer, tegenHoek and verschilHoek know of a turn. Nothing is
+// checked, reported or thrown; infinities and NaN take the ways of floating point.
+#pragma once
+
+#include <cmath>
+
+class wxString;
+
+class Hoek {
+ public:
+  // The units. On a type of its own, so that every number of that type is a value; one that names
+  // no unit is dealt with as each operation tells.
+  enum HoekSoort : unsigned int { Radialen = 0, Graden = 1 };
+
+  // Parts of a turn, in radians: the doubles nearest to them.
+  static constexpr double kwartpi = 0.78539816339744830962;
+  static constexpr double halfpi = 1.57079632679489661923;
+  static constexpr double pi = 3.14159265358979323846;
+  static constexpr double minpi = -3.14159265358979323846;
+  static constexpr double anderhalfpi = 4.71238898038468985769;
+  static constexpr double tweepi = 6.28318530717958647693;
+
+  // The angle of x radians or x degrees. An unknown unit ends in StopHier and the angle 0.
+  Hoek(double x, HoekSoort s) : waarde(inRadialen(x, s)) {}
+
+  // The direction from the origin to the point (x, y), from -pi to pi: atan2(y, x). A unit at the
+  // second place has to be of the enumeration: a plain number there is an y.
+  Hoek(double x, double y) : waarde(std::atan2(y, x)) {}
+
+  // From degrees to radians and back, by multiplication with the doubles nearest to pi/180 and
+  // 180/pi.
+  static double gradNaarRad(double graden) { return graden * 0.017453292519943295; }
+  static double radNaarGrad(double radialen) { return radialen * 57.29577951308232; }
+
+  // What Hoek(x, s) would hold, in radians, StopHier included. Does not depend on this angle.
+  double zetOm(double x, HoekSoort s) const { return inRadialen(x, s); }
+
+  // The angle in radians, as it is held, and in degrees.
+  double rad() const { return waarde; }
+  double grad() const { return radNaarGrad(waarde); }
+
+  // The functions of the angle, by the standard library.
+  double sinus() const { return std::sin(waarde); }
+  double cosinus() const { return std::cos(waarde); }
+  double tangens() const { return std::tan(waarde); }
+
+  // The angle with its sign cleared, and with its sign changed, also of a zero, an infinity or NaN.
+  Hoek absHoek() const { return {std::fabs(waarde), Radialen}; }
+  Hoek ngHoek() const { return {-waarde, Radialen}; }
+
+  // "Hoek=", the angle with two decimals, a blank and "rad"; for every unit but Radialen, unknown
+  // ones too, the angle in degrees and "grad". The decimal point is one in every locale, and NaN
+  // prints as "nan".
+  wxString print(HoekSoort s) const;
+
+  // The angle within one turn, for angles above -2*pi. With v the angle:
+  // - v at least 0: v less as many whole turns as there are, so from 0 to 2*pi, but for the
+  // rounding
+  //   of the quotient v/(2*pi) and of the product, which grows with v;
+  // - v from 0 down to -2*pi, that not included: v plus one turn, so from 0 to 2*pi;
+  // - v from -2*pi down to just above -4*pi: v as it is, negative;
+  // - v at or below -4*pi: v plus about 2^64 turns, for a number of turns below 0 is read as an
+  //   unsigned one: 1.16e20 radians for -14. Keep angles above -2*pi.
+  // The number of turns is a 64-bit integer; 2^63 turns and more count as the nearest there is.
+  // An infinity stays one, NaN stays NaN.
+  Hoek normaliseer() const;
+
+  // The same in place; returns the object.
+  Hoek& zelfNormaliseer();
+
+  // The opposite direction: half a turn added, and normalised as by normaliseer.
+  Hoek tegenHoek() const;
+
+  // The shortest way from this angle to b, positive where b lies ahead: from 350 to 10 degrees it
+  // is 20 degrees. From -pi to pi for two angles of one turn, as normalised ones are; beyond that
+  // it may be more, since one turn is added or taken off at most.
+  Hoek verschilHoek(Hoek const& b) const;
+
+  // Plain arithmetic on the radians. A number beside an angle is radians too, but for `*` and `/`,
+  // where it is a factor.
+  Hoek operator+(double x) const { return {waarde + x, Radialen}; }
+  Hoek operator+(Hoek const& b) const { return *this + b.waarde; }
+  Hoek operator-(double x) const { return {waarde - x, Radialen}; }
+  Hoek operator-(Hoek const& b) const { return *this - b.waarde; }
+  Hoek operator*(double x) const { return {waarde * x, Radialen}; }
+  Hoek operator/(double x) const { return {waarde / x, Radialen}; }
+
+  // The same in place; each returns the object.
+  Hoek& operator+=(double x) { return *this = *this + x; }
+  Hoek& operator+=(Hoek const& b) { return *this = *this + b; }
+  Hoek& operator-=(double x) { return *this = *this - x; }
+  Hoek& operator-=(Hoek const& b) { return *this = *this - b; }
+  Hoek& operator*=(double x) { return *this = *this * x; }
+  Hoek& operator/=(double x) { return *this = *this / x; }
+
+  // x radians.
+  Hoek& operator=(double x) {
+    waarde = x;
+    return *this;
+  }
+
+  // Comparison of the radians, exact: no tolerance, and no regard for turns. NaN is unequal to all,
+  // itself included, and in no order with any.
+  bool operator==(double x) const { return waarde == x; }
+  bool operator!=(double x) const { return waarde != x; }
+  bool operator<(double x) const { return waarde < x; }
+  bool operator>(double x) const { return waarde > x; }
+  bool operator<=(double x) const { return waarde <= x; }
+  bool operator>=(double x) const { return waarde >= x; }
+  bool operator==(Hoek const& b) const { return *this == b.waarde; }
+  bool operator!=(Hoek const& b) const { return *this != b.waarde; }
+  bool operator<(Hoek const& b) const { return *this < b.waarde; }
+  bool operator>(Hoek const& b) const { return *this > b.waarde; }
+  bool operator<=(Hoek const& b) const { return *this <= b.waarde; }
+  bool operator>=(Hoek const& b) const { return *this >= b.waarde; }
+
+ private:
+  static double inRadialen(double x, HoekSoort s);
+
+  double waarde;
+};
+
+// The angle x times as wide.
+inline Hoek operator*(double x, Hoek const& h) {
+  return h * x;
+}
