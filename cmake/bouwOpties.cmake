@@ -23,7 +23,10 @@ target_compile_options(
             -Wformat=2
             -Wnon-virtual-dtor
             -Woverloaded-virtual
-            -Werror)
+            -Werror
+            # Each operation rounds by itself, also where the processor could do two at once: results
+            # must not differ from machine to machine.
+            -ffp-contract=off)
 
 if(KESTROLIN_SANITIZE)
   set(_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)

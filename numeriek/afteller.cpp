@@ -33,8 +33,7 @@ bool Afteller::telAf() {
     teller_ = std::max(grens_, teller_);
     return true;
   }
-  // One step above 0, so that the next event leads here again, and not round by way of 2^64 - 1:
-  // code that waits for the one event counts on hearing false for ever after it.
+  // One step above the usual bound of 0, so that each later event leads here again, and to false.
   teller_ = 1;
   return !std::exchange(afgelopen_, true);
 }

@@ -1,9 +1,8 @@
 // Afteller: a countdown. It is told of every event, and says which of them is the one waited for:
-// every grens-th one, or that one once.
+// the one that brings the count from `grens` down to `ondergrens`, each time or only once.
 //
-// A plain value for one thread. Counting is in unsigned 64-bit integers, and wraps: a countdown
-// that stands at or below its lower bound does not fire at once, but after going round by way of
-// 2^64 - 1.
+// A plain value for one thread. Counting is in unsigned 64-bit integers, and wraps: a count that
+// stands at or below the bound has to go round by way of 2^64 - 1 to come to it.
 #pragma once
 
 class Afteller {
@@ -33,13 +32,13 @@ class Afteller {
   // Whether one that fires only once has fired; false for ever for the other kind.
   bool isAfgelopen() const { return afgelopen_; }
 
-  // Counts one event. True when the count came to `ondergrens` by it, which starts it anew from
-  // `grens`: Afteller(3, false, 0) gives false, false, true, and so on.
+  // Counts one event. True when the count comes to `ondergrens` by it; the count then starts anew
+  // from `grens`, or stays where that is greater: Afteller(3, false, 0) gives false, false, true,
+  // and so on.
   //
   // One that fires only once gives true the first time alone. Its count starts anew from 1, not
   // from `grens`: with an `ondergrens` of 0 it comes to the bound at every later event, and stands
-  // at 1 after each; with one of 1 or more it is at or below the bound then, and goes the long way
-  // round.
+  // at 1 after each; with one of 1 or more it is at or below the bound then, and goes round.
   bool telAf();
 
  private:

@@ -25,14 +25,16 @@ class BegrensdStapFloatGetal {
   //
   // So the grid starts anew at every whole number: with a step of 0.3 there are 2.0, 2.3, 2.6, 2.9
   // and 3.0, and 3.1 gives 3.0. The next whole number takes no part in it: 2.99 gives 2.7 with a
-  // step of 0.7, and 3.2 with one of 0.6. A step above 2 leaves whole numbers alone, rounded down.
+  // step of 0.7, and 3.2 with one of 0.6. With a step above 2 there are only whole numbers, and x
+  // is rounded down.
   //
-  // A step of 0 or below has no points between the whole numbers: x is rounded down. At most 2^64
-  // steps are counted, so that the point falls short of x for some steps below 2^-64. An infinite x
-  // gives its bound; NaN, for x or the step, and an infinite step give `bovengrens`.
+  // With a step of 0 or a finite one below it, x is rounded down too. At most 2^64 steps are
+  // counted, so that the point falls short of x for some steps below 2^-64. An infinite x gives its
+  // bound, where the step is finite; NaN, for x or the step, and an infinite step give
+  // `bovengrens`.
   void rondAf(double x);
 
-  // The value, from geefOndergrens() to geefBovengrens().
+  // The value; from geefOndergrens() to geefBovengrens(), as long as these are in order.
   double geefWaarde() const { return waarde_; }
   double geefOndergrens() const { return ondergrens_; }
   double geefBovengrens() const { return bovengrens_; }

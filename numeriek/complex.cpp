@@ -8,8 +8,7 @@ double Complex::Arg() const {
 }
 
 double Complex::Mag() const {
-  // Not std::hypot, whose result differs in the last digit, and outside the range told in the
-  // header.
+  // Not std::hypot: it differs in the last digit, and for very large and very small parts.
   return std::sqrt(re_ * re_ + im_ * im_);
 }
 

@@ -17,8 +17,8 @@ class Complex {
   double geefRe() const { return re_; }
   double geefIm() const { return im_; }
 
-  // Sum and difference as a new number. Not const, though they change nothing: that is their type,
-  // which whoever takes their address has written down. A constant stands on the right only.
+  // Sum and difference as a new number. Neither is const, although it changes nothing: on the left
+  // stands a variable, never a constant, and that signature has to stay.
   // NOLINTBEGIN(readability-make-member-function-const)
   Complex operator+(Complex const& b) { return {re_ + b.re_, im_ + b.im_}; }
   Complex operator-(Complex const& b) { return {re_ - b.re_, im_ - b.im_}; }
@@ -28,15 +28,16 @@ class Complex {
   Complex& operator+=(Complex const& b) { return *this = *this + b; }
   Complex& operator-=(Complex const& b) { return *this = *this - b; }
 
-  // The direction in radians, from -pi to pi: atan2(im, re), so 0 for 0.
+  // The direction in radians, from -pi to pi: atan2(im, re). A positive zero has the direction 0.
   double Arg() const;
 
-  // The magnitude: the square root of the sum of the squares. The squares are plain doubles: a part
-  // beyond some 1e154 gives an infinity, and one below some 1e-162 counts as 0.
+  // The magnitude: the square root of the sum of the squares. The squares are plain doubles: beyond
+  // some 1e154 they are infinite, below some 1e-154 they lose digits, and below some 1e-162 they
+  // are 0.
   double Mag() const;
 
   // The magnitude in decibels, 20*log10(Mag()), but not less than `vloer`: 0 for a magnitude of 1,
-  // and `vloer` for a zero, which has minus infinity. NaN gives `vloer`.
+  // and `vloer` for a zero, whose logarithm is minus infinity, and for NaN.
   double MagdB(double vloer) const;
 
  private:

@@ -12,7 +12,7 @@ std::string tweeDecimalen(double x) {
   constexpr int decimalen = 2;
   // The longest: a sign, all digits of the largest double, the point and the decimals.
   std::array<char, std::numeric_limits<double>::max_exponent10 + 1 + decimalen + 2> tekens{};
-  auto const einde =
-      std::to_chars(tekens.begin(), tekens.end(), x, std::chars_format::fixed, decimalen);
-  return {tekens.begin(), einde.ptr};
+  auto const einde = std::to_chars(tekens.data(), tekens.data() + tekens.size(), x,
+                                   std::chars_format::fixed, decimalen);
+  return {tekens.data(), einde.ptr};
 }

@@ -10,7 +10,7 @@ class GonioHoek {
   // StopHier and the angle 0, whose sine is 0 and cosine 1.
   GonioHoek(double x, Hoek::HoekSoort s) : GonioHoek(Hoek(x, s)) {}
 
-  explicit GonioHoek(Hoek const& h) : hoek(h), sinus(h.sinus()), cosinus(h.cosinus()) {}
+  GonioHoek(Hoek const& h) : hoek(h), sinus(h.sinus()), cosinus(h.cosinus()) {}
 
   // The angle itself.
   Hoek const& geefHoek() const { return hoek; }

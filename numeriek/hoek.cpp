@@ -13,8 +13,8 @@ double genormaliseerd(double v) {
   if (v >= 0) {
     return v + static_cast<double>(t) * -Hoek::tweepi;
   }
-  // Unsigned on purpose: an angle that has come more than two turns below zero leaves the range by
-  // so much that it cannot pass for a direction, where a mended one would hide the mistake.
+  // Unsigned on purpose, and not to be mended: two turns below zero and further down the result is
+  // so far outside the range that it cannot pass for a direction.
   auto const u = static_cast<unsigned long long>(t + 1);
   return v + static_cast<double>(u) * Hoek::tweepi;
 }

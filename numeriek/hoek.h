@@ -11,8 +11,8 @@ class wxString;
 
 class Hoek {
  public:
-  // The units. On a type of its own, so that every number of that type is a value; one that names
-  // no unit is dealt with as each operation tells.
+  // The units. The underlying type is fixed, so that any number of it can be passed: each operation
+  // tells what it does with an unknown one.
   enum HoekSoort : unsigned int { Radialen = 0, Graden = 1 };
 
   // Parts of a turn, in radians: the doubles nearest to them.
@@ -27,7 +27,7 @@ class Hoek {
   Hoek(double x, HoekSoort s) : waarde(inRadialen(x, s)) {}
 
   // The direction from the origin to the point (x, y), from -pi to pi: atan2(y, x). A unit at the
-  // second place has to be of the enumeration: a plain number there is an y.
+  // second place has to be of the enumeration: a plain number there is a y.
   Hoek(double x, double y) : waarde(std::atan2(y, x)) {}
 
   // From degrees to radians and back, by multiplication with the doubles nearest to pi/180 and
@@ -53,19 +53,19 @@ class Hoek {
 
   // "Hoek=", the angle with two decimals, a blank and "rad"; for every unit but Radialen, unknown
   // ones too, the angle in degrees and "grad". The decimal point is one in every locale, and NaN
-  // prints as "nan".
+  // prints as "nan". Who calls it includes <wx/string.h>.
   wxString print(HoekSoort s) const;
 
-  // The angle within one turn, for angles above -2*pi. With v the angle:
-  // - v at least 0: v less as many whole turns as there are, so from 0 to 2*pi, but for the
-  // rounding
-  //   of the quotient v/(2*pi) and of the product, which grows with v;
-  // - v from 0 down to -2*pi, that not included: v plus one turn, so from 0 to 2*pi;
-  // - v from -2*pi down to just above -4*pi: v as it is, negative;
-  // - v at or below -4*pi: v plus about 2^64 turns, for a number of turns below 0 is read as an
-  //   unsigned one: 1.16e20 radians for -14. Keep angles above -2*pi.
-  // The number of turns is a 64-bit integer; 2^63 turns and more count as the nearest there is.
-  // An infinity stays one, NaN stays NaN.
+  // The angle within one turn, for angles above -2*pi. With v the angle, and t the number of whole
+  // turns in it, v/(2*pi) cut toward zero:
+  // - v at least 0: v less t turns, so from 0 to 2*pi. The rounding of quotient and product shifts
+  //   it, for large v by more than a turn.
+  // - v between -2*pi and 0: v plus one turn, so from 0 to 2*pi.
+  // - v from -2*pi down to just above -4*pi: v as it is, negative.
+  // - v at or below -4*pi: v plus 2^64 + t + 1 turns, since the negative number t + 1 is read as an
+  //   unsigned one: -14 gives 1.16e20.
+  // t is a 64-bit integer, and stands still at the ends of its range. An infinity stays one, NaN
+  // stays NaN.
   Hoek normaliseer() const;
 
   // The same in place; returns the object.

@@ -2,7 +2,7 @@
 // a block of somebody else.
 #pragma once
 
-// Sizes are in bytes. No operation checks anything. The size of the block is the product of the
+// Sizes are in bytes. No argument is checked. The size of the block is the product of the
 // size and the number of slots in 64 bits, and wraps beyond: what may be written to is told by
 // grootte() and slotGrootte(), never by what was asked for.
 class VelmoraMemBuffer {

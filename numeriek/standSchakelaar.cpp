@@ -10,8 +10,7 @@ constexpr Schakelaar stand(bool aan) {
 
 StandSchakelaar::StandSchakelaar(Schakelaar s) : stand_(stand(s == Schakelaar::Aan)) {}
 
-// The reverse of the assignment of a number. It has to stay: who builds a switch from the number of
-// things in the way has it on when there are none.
+// On for 0: the reverse of the assignment of a number, and required so.
 StandSchakelaar::StandSchakelaar(unsigned long long v) : stand_(stand(v == 0)) {}
 
 StandSchakelaar::StandSchakelaar(bool b) : stand_(stand(b)) {}

@@ -1,11 +1,9 @@
 // StandSchakelaar: a switch that is on or off, with a lock that holds it in its place.
 //
-// A plain value for one thread. Three things are not what they look like, and code that holds such
-// switches counts on them:
+// A plain value for one thread. Two things are not what they look like, and have to stay so:
 // - a number at construction means the reverse of the same number assigned;
 // - a switch assigned to a switch changes nothing: it is a question. To take over the place of b,
-//   write `a = b.geefStand()`;
-// - a copy made at construction is one, lock and all.
+//   write `a = b.geefStand()`.
 #pragma once
 
 #include <cstdint>
@@ -17,8 +15,8 @@ enum class Schakelaar : std::uint32_t { Uit = 0, Aan = 1, Om = 2 };
 // NOLINTNEXTLINE(cppcoreguidelines-special-member-functions): a switch has nothing to move
 class StandSchakelaar {
  public:
-  // These leave the switch unlocked. They are explicit, and which is meant has to show in the type
-  // of the argument (a plain 0 or 1 does not compile), since numbers mean what few expect.
+  // These three leave the switch unlocked. They are explicit, and which is meant has to show in the
+  // type of the argument (a plain 0 or 1 does not compile), since numbers mean what few expect.
 
   // Uit or Aan as given; Uit for Om and any other value.
   explicit StandSchakelaar(Schakelaar s);
@@ -29,6 +27,7 @@ class StandSchakelaar {
   // Aan for true, Uit for false.
   explicit StandSchakelaar(bool b);
 
+  // The same place, and locked where `ander` is.
   StandSchakelaar(StandSchakelaar const& ander) = default;
   ~StandSchakelaar() = default;
 

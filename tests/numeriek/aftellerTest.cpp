@@ -147,6 +147,17 @@ TEST(Afteller, naResetVuurtEenEenmaligeNietOpnieuw) {
   EXPECT_EQ(afteller.geefTeller(), 1U);
 }
 
+TEST(Afteller, ookEenWaardeOfEenNieuweGrensLaatEenEenmaligeNietOpnieuwVuren) {
+  Afteller afteller(2, true, 0);
+  EXPECT_EQ(antwoorden(afteller, 2), (Antwoorden{false, true}));
+  afteller.reset(2);
+  EXPECT_TRUE(afteller.isAfgelopen());
+  EXPECT_EQ(antwoorden(afteller, 3), (Antwoorden{false, false, false}));
+  afteller.zetGrens(3);
+  EXPECT_TRUE(afteller.isAfgelopen());
+  EXPECT_EQ(antwoorden(afteller, 3), (Antwoorden{false, false, false}));
+}
+
 TEST(Afteller, resetVoorHetVuurtLaatEenEenmaligeEenKeerVuren) {
   Afteller afteller(2, true, 0);
   static_cast<void>(afteller.telAf());

@@ -62,6 +62,13 @@ TEST(BegrensdStapFloatGetal, helftenVanEenStapGaanOmhoog) {
   EXPECT_EQ(afgerond(2.124, 0.25), 2.0);
 }
 
+// Just under half a step; and quotients whose last bit decides whether there is one.
+TEST(BegrensdStapFloatGetal, eenLaatsteBitBeslist) {
+  EXPECT_EQ(afgerond(0x1.fffffffffffffp-4, 0.25), 0.0);
+  EXPECT_EQ(afgerond(0x1.eb851eb851eb8p-8, 0.003), 0x1.26e978d4fdf3cp-7);
+  EXPECT_EQ(afgerond(1.025, 0.002), 0x1.0624dd2f1a9fcp+0);
+}
+
 TEST(BegrensdStapFloatGetal, onderNulTeltHetRasterVanafHetGeheleGetalEronder) {
   // -2.95 is 0.05 above -3, no half step; -0.1 is 0.9 above -1, three steps.
   EXPECT_EQ(afgerond(-2.95, 0.3), -3.0);
@@ -116,6 +123,8 @@ TEST(BegrensdStapFloatGetal, geenGetalGeeftDeBovengrens) {
   EXPECT_EQ(afgerond(geenGetal, 0.3), 1000.0);
   EXPECT_EQ(afgerond(2.5, geenGetal), 1000.0);
   EXPECT_EQ(afgerond(2.5, oneindig), 1000.0);
+  EXPECT_EQ(afgerond(2.5, -oneindig), 1000.0);
+  EXPECT_EQ(afgerond(-oneindig, oneindig), 1000.0);
 }
 
 // Thousandths as integers are the model: no rounding but the one of the grid.

@@ -40,6 +40,8 @@ TEST(Complex, uitTweeDelen) {
 
 TEST(Complex, uitGrootteEnRichting) {
   const Complex c(2.0, radialen(1.0));
+  EXPECT_EQ(c.geefRe(), 2.0 * std::cos(1.0));
+  EXPECT_EQ(c.geefIm(), 2.0 * std::sin(1.0));
   EXPECT_DOUBLE_EQ(c.geefRe(), 1.080604611736279434802);
   EXPECT_DOUBLE_EQ(c.geefIm(), 1.682941969615793013305);
   EXPECT_EQ(delen(Complex(5.0, radialen(0.0))), Delen(5.0, 0.0));
@@ -79,6 +81,7 @@ TEST(Complex, argIsDeRichtingInRadialen) {
   EXPECT_DOUBLE_EQ(Complex(-1.0, 2.0).Arg(), 2.03444393579570273545);
   EXPECT_EQ(Complex(-1.0, 0.0).Arg(), Hoek::pi);
   EXPECT_EQ(Complex(-1.0, -0.0).Arg(), Hoek::minpi);
+  EXPECT_EQ(Complex(-0.0, 0.0).Arg(), Hoek::pi);
   EXPECT_EQ(Complex(0.0, -1.0).Arg(), -Hoek::halfpi);
   EXPECT_EQ(Complex(0.0, 0.0).Arg(), 0.0);
 }
@@ -87,6 +90,8 @@ TEST(Complex, magIsDeWortelUitDeKwadraten) {
   EXPECT_EQ(Complex(3.0, 4.0).Mag(), 5.0);
   EXPECT_EQ(Complex(-3.0, -4.0).Mag(), 5.0);
   EXPECT_DOUBLE_EQ(Complex(1.0, -1.0).Mag(), 1.414213562373095048802);
+  // Each square rounded by itself.
+  EXPECT_EQ(Complex(0.2, 0.5).Mag(), 0x1.13b86ea20ae5dp-1);
   EXPECT_EQ(Complex(0.0, 0.0).Mag(), 0.0);
 }
 
@@ -111,6 +116,7 @@ TEST(Complex, magdBIsTwintigMaalDeLogaritmeOfDeVloer) {
   EXPECT_EQ(Complex(0.5, 0.0).MagdB(-6.0), -6.0);
   EXPECT_EQ(Complex(10.0, 0.0).MagdB(30.0), 30.0);
   EXPECT_EQ(Complex(geenGetal, 0.0).MagdB(-120.0), -120.0);
+  EXPECT_TRUE(std::isnan(Complex(1.0, 0.0).MagdB(geenGetal)));
   EXPECT_EQ(Complex(oneindig, 0.0).MagdB(-120.0), oneindig);
   EXPECT_EQ(Complex(0.0, 0.0).MagdB(-oneindig), -oneindig);
 }
@@ -127,6 +133,7 @@ TEST(Complex, volgtDeComplexeGetallenVanDeBibliotheek) {
     ASSERT_DOUBLE_EQ(a.Mag(), std::abs(x));
     ASSERT_EQ(a.Arg(), std::arg(x));
     ASSERT_NEAR(a.MagdB(-400.0), 10.0 * std::log10(std::norm(x)), 1e-12);
+    ASSERT_EQ(a.MagdB(-400.0), 20.0 * std::log10(a.Mag()));
   }
 }
 
@@ -136,6 +143,7 @@ TEST(Complex, grootteEnRichtingLeidenTerug) {
     const double grootte = willekeurig(toeval, 0.001, 1000.0);
     const double richting = willekeurig(toeval, -3.14, 3.14);
     const Complex c(grootte, radialen(richting));
+    ASSERT_EQ(delen(c), Delen(grootte * std::cos(richting), grootte * std::sin(richting)));
     ASSERT_DOUBLE_EQ(c.Mag(), grootte);
     ASSERT_NEAR(c.Arg(), richting, 1e-15);
   }

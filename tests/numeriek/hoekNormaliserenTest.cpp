@@ -24,6 +24,7 @@ constexpr double reusachtig = 0x1.921fb54442d18p+66;
 
 TEST(HoekNormaliseren, binnenEenOmwentelingBlijftZoals) {
   EXPECT_EQ(genormaliseerd(0.0), 0.0);
+  EXPECT_EQ(genormaliseerd(-0.0), 0.0);
   EXPECT_EQ(genormaliseerd(3.0), 3.0);
   EXPECT_EQ(genormaliseerd(0x1.921fb54442d17p+2), 0x1.921fb54442d17p+2);
 }
@@ -38,6 +39,11 @@ TEST(HoekNormaliseren, heleOmwentelingenGaanEraf) {
   EXPECT_EQ(genormaliseerd(10 * Hoek::tweepi), 0.0);
   EXPECT_NEAR(genormaliseerd(100.0), 5.752220392306202846, 1e-13);
   EXPECT_EQ(genormaliseerd(100.0), 0x1.7024610015ba0p+2);
+}
+
+TEST(HoekNormaliseren, omwentelingenTellenGaatMetEenDeling) {
+  // Eleven turns, less a last bit: times 1/(2*pi) it would be eleven.
+  EXPECT_EQ(genormaliseerd(0x1.1475cc9eedf00p+6), 0x1.921fb54442d10p+2);
 }
 
 TEST(HoekNormaliseren, minEenIsTweePiMinEen) {
@@ -60,6 +66,10 @@ TEST(HoekNormaliseren, vanafMinVierPiIsReusachtig) {
   EXPECT_NEAR(genormaliseerd(-14.0), 1.16e20, 0.01e20);
   EXPECT_EQ(genormaliseerd(-2 * Hoek::tweepi), reusachtig);
   EXPECT_EQ(genormaliseerd(-1e6), 0x1.921fb54442c9ep+66);
+}
+
+TEST(HoekNormaliseren, productWordtAfgerondVoorHetOpgeteldWordt) {
+  EXPECT_EQ(genormaliseerd(-0x1.871aadf39a334p+62), 0x1.613c5f85cf8b2p+66);
 }
 
 // Beyond 2^63 turns their number stands still there: v - 2^63 turns, and v + (2^63 + 1) turns.
@@ -117,6 +127,7 @@ TEST(TegenHoek, isDeTegengesteldeRichtingEnTweemaalDezelfde) {
   for (int i = 0; i < 20000; ++i) {
     const Hoek h = radialen(willekeurig(toeval, -9.0, 1000.0));
     const Hoek tegen = h.tegenHoek();
+    ASSERT_EQ(tegen.rad(), genormaliseerd(h.rad() + Hoek::pi));
     ASSERT_NEAR(tegen.sinus(), -h.sinus(), 1e-12) << h.rad();
     ASSERT_NEAR(tegen.cosinus(), -h.cosinus(), 1e-12) << h.rad();
     ASSERT_NEAR(tegen.tegenHoek().sinus(), h.sinus(), 1e-12) << h.rad();
@@ -147,8 +158,9 @@ TEST(VerschilHoek, eenHalveOmwentelingBlijftZoals) {
 }
 
 TEST(VerschilHoek, meerDanEenOmwentelingGaatErMaarEenAf) {
-  EXPECT_DOUBLE_EQ(radialen(0.0).verschilHoek(radialen(20.0)).rad(), 13.716814692820413523);
-  EXPECT_DOUBLE_EQ(radialen(20.0).verschilHoek(radialen(0.0)).rad(), -13.716814692820413523);
+  // 13.71681469282041...
+  EXPECT_EQ(radialen(0.0).verschilHoek(radialen(20.0)).rad(), 0x1.b6f0255dde974p+3);
+  EXPECT_EQ(radialen(20.0).verschilHoek(radialen(0.0)).rad(), -0x1.b6f0255dde974p+3);
 }
 
 TEST(VerschilHoek, geenGetalBlijftGeenGetal) {

@@ -23,6 +23,8 @@ TEST(HoekRekenen, metEenGetalInRadialen) {
   EXPECT_EQ((drie - 0.5).rad(), 2.5);
   EXPECT_EQ((drie * 4.0).rad(), 12.0);
   EXPECT_EQ((drie / 4.0).rad(), 0.75);
+  // Three fifths: times a fifth it would be one bit more.
+  EXPECT_EQ((drie / 5.0).rad(), 0x1.3333333333333p-1);
   EXPECT_EQ((4.0 * drie).rad(), 12.0);
   EXPECT_EQ(drie.rad(), 3.0);
 }

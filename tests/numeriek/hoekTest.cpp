@@ -105,6 +105,10 @@ TEST(Hoek, zetOmIsWatDeConstructorBewaart) {
 TEST(Hoek, gradNaarRadEnTerugZonderHoek) {
   EXPECT_EQ(Hoek::gradNaarRad(1.0), 0x1.1df46a2529d39p-6);
   EXPECT_EQ(Hoek::radNaarGrad(1.0), 0x1.ca5dc1a63c1f8p+5);
+  // Times the factor in one go: by way of pi and 180 the last bits differ.
+  EXPECT_EQ(Hoek::gradNaarRad(3.0), 0x1.acee9f37bebd6p-5);
+  EXPECT_EQ(Hoek::radNaarGrad(9.0), 0x1.01d4bced81d1cp+9);
+  EXPECT_EQ(Hoek::radNaarGrad(11.0), 0x1.3b2075224955ap+9);
   EXPECT_DOUBLE_EQ(Hoek::gradNaarRad(45.0), 0.785398163397448309616);
   EXPECT_DOUBLE_EQ(Hoek::radNaarGrad(-0.5), -28.6478897565411604384);
 }
@@ -112,7 +116,7 @@ TEST(Hoek, gradNaarRadEnTerugZonderHoek) {
 TEST(Hoek, sinusCosinusEnTangens) {
   EXPECT_DOUBLE_EQ(radialen(0.5).sinus(), 0.479425538604203000273);
   EXPECT_DOUBLE_EQ(radialen(0.5).cosinus(), 0.877582561890372716116);
-  EXPECT_DOUBLE_EQ(radialen(1.0).tangens(), 1.557407724654902230507);
+  EXPECT_EQ(radialen(1.0).tangens(), 0x1.8eb245cbee3a6p+0);  // 1.5574077246549022...
   EXPECT_EQ(radialen(-0.0).cosinus(), 1.0);
   EXPECT_DOUBLE_EQ(graden(30.0).sinus(), 0.5);
 }

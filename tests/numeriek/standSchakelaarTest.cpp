@@ -1,5 +1,5 @@
-// The switch with a lock: each operation, locked and unlocked. Expected places are those of the
-// table in the header, written out.
+// The switch with a lock: each operation, locked and unlocked. Expected places are written out by
+// hand.
 #include "numeriek/standSchakelaar.h"
 
 #include <gtest/gtest.h>
@@ -215,6 +215,29 @@ TEST(StandSchakelaar, geblokkeerdLuistertNaarBlokkeerOnwaar) {
   schakelaar = Aan;
   EXPECT_EQ(schakelaar.geefStand(), Aan);
   schakelaar.om();
+  EXPECT_EQ(schakelaar.geefStand(), Uit);
+}
+
+TEST(StandSchakelaar, tweemaalBlokkerenIsHetzelfdeAlsEenmaal) {
+  StandSchakelaar schakelaar = geblokkeerd(Uit);
+  schakelaar.blokkeer(true);
+  schakelaar.om();
+  EXPECT_EQ(schakelaar.geefStand(), Uit);
+  schakelaar.blokkeer(false);
+  schakelaar.blokkeer(false);
+  schakelaar.om();
+  EXPECT_EQ(schakelaar.geefStand(), Aan);
+}
+
+TEST(StandSchakelaar, toegekendeBoolEnIntZijnGetallen) {
+  StandSchakelaar schakelaar(Uit);
+  schakelaar = true;
+  EXPECT_EQ(schakelaar.geefStand(), Aan);
+  schakelaar = 0;
+  EXPECT_EQ(schakelaar.geefStand(), Uit);
+  schakelaar = 1;
+  EXPECT_EQ(schakelaar.geefStand(), Aan);
+  schakelaar = false;
   EXPECT_EQ(schakelaar.geefStand(), Uit);
 }
 

@@ -12,7 +12,8 @@ namespace {
 static_assert(std::is_same_v<decltype(velmoraDummyFunktie()), int>);
 static_assert(std::is_same_v<decltype(StopHier()), void>);
 
-TEST(StopHier, isEenVastePlaatsDieTerugkeert) {
+// It goes on to the real one: a breakpoint must not change the way of the program.
+TEST(StopHier, keertTerug) {
   static_cast<void>(neemStops());
   StopHier();
   EXPECT_EQ(neemStops(), 1);

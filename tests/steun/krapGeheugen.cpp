@@ -20,6 +20,7 @@ int falend = 0;
 int teller = 0;
 std::size_t kleinste = 0;
 std::size_t grootsteVraag = 0;
+int rijen = 0;
 
 void* neem(std::size_t bytes) {
   grootsteVraag = std::max(grootsteVraag, bytes);
@@ -36,6 +37,13 @@ void* neem(std::size_t bytes) {
   return std::memset(geheugen, vuil, std::min(bytes, vuilBytes));
 }
 
+void geefRijTerug(void* geheugen) {
+  if (geheugen != nullptr) {
+    --rijen;
+  }
+  std::free(geheugen);
+}
+
 }  // namespace
 
 // The forms for arrays too: a sanitizer has some of its own, which are not built on the plain ones.
@@ -44,7 +52,9 @@ void* operator new(std::size_t bytes) {
 }
 
 void* operator new[](std::size_t bytes) {
-  return neem(bytes);
+  void* const geheugen = neem(bytes);
+  ++rijen;
+  return geheugen;
 }
 
 void operator delete(void* geheugen) noexcept {
@@ -56,11 +66,11 @@ void operator delete(void* geheugen, std::size_t /*bytes*/) noexcept {
 }
 
 void operator delete[](void* geheugen) noexcept {
-  std::free(geheugen);
+  geefRijTerug(geheugen);
 }
 
 void operator delete[](void* geheugen, std::size_t /*bytes*/) noexcept {
-  std::free(geheugen);
+  geefRijTerug(geheugen);
 }
 
 KrapGeheugen::KrapGeheugen(int nummer, std::size_t vanaf) {
@@ -81,6 +91,10 @@ bool KrapGeheugen::isGebleken() {
 
 int KrapGeheugen::geteld() {
   return teller;
+}
+
+int KrapGeheugen::openRijen() {
+  return rijen;
 }
 
 std::size_t KrapGeheugen::grootste() {

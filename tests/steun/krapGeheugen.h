@@ -24,6 +24,8 @@ class KrapGeheugen {
   static int geteld();
   // True once an allocation has failed.
   static bool isGebleken();
+  // The arrays that were allocated and not yet released as arrays, since the program began.
+  static int openRijen();
   // The most bytes that one allocation asked for so far, whether it got them or not.
   static std::size_t grootste();
 };

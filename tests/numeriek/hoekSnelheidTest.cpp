@@ -1,6 +1,6 @@
 // Angular velocity and acceleration. Expected values are worked out by hand; those over a third of
 // a second with Python's fractions, from the single-precision third 0x1.555556p-2.
-#include "numeriek/hoekPerTijd.h"
+#include "numeriek/hoekSnelheid.h"
 
 #include <gtest/gtest.h>
 
@@ -60,6 +60,8 @@ TEST(HoekSnelheid, deTijdIsInEnkelePrecisie) {
   const HoekSnelheid v(radialen(1.0), tijd(1, 3));
   EXPECT_EQ(v.rads(), 0x1.7fffff4000006p+1);
   EXPECT_EQ(v.tijd(radialen(2.0)), 2 * eenDerde);
+  // To degrees first, then divided: the other order ends in another bit.
+  EXPECT_EQ(HoekSnelheid(radialen(5.0), tijd(1, 3)).grads(), 0x1.adb7e4b4fc6b3p+9);
 }
 
 TEST(HoekSnelheid, tijdIsWatEenHoekKost) {
@@ -73,6 +75,8 @@ TEST(HoekSnelheid, tijdVermenigvuldigtEerst) {
   // A third times 1, divided by 3; a third times a third ends in ...aap-4.
   const HoekSnelheid v(radialen(3.0), tijd(1, 3));
   EXPECT_EQ(v.tijd(radialen(1.0)), 0x1.c71c72aaaaaabp-4);
+  // Divided by the angle, not by the velocity.
+  EXPECT_EQ(HoekSnelheid(radialen(9.0), tijd(1, 3)).tijd(radialen(3.0)), 0x1.c71c72aaaaaabp-4);
 }
 
 TEST(HoekSnelheid, hoekNulOfTijdNulVolgtDeDoubles) {
@@ -97,23 +101,24 @@ TEST(HoekSnelheid, deTijdVanEenHoekIsDieHoekDoorDeSnelheid) {
 
 TEST(HoekVersnelling, uitEenGetalIsPerSeconde) {
   const HoekVersnelling a(1.5, Hoek::Radialen);
-  EXPECT_EQ(a.geefHoek().rad(), 1.5);
-  EXPECT_EQ(paar(a.tijdBasis()), Paar(1, 1));
-  EXPECT_DOUBLE_EQ(HoekVersnelling(90.0, Hoek::Graden).geefHoek().rad(), 1.570796326794896619);
+  EXPECT_EQ(a.geefToename().geefHoek().rad(), 1.5);
+  EXPECT_EQ(paar(a.geefToename().tijdBasis()), Paar(1, 1));
+  EXPECT_DOUBLE_EQ(HoekVersnelling(90.0, Hoek::Graden).geefToename().grads(), 90.0);
 }
 
 TEST(HoekVersnelling, onbekendeEenheidStoptHierEnIsNul) {
   static_cast<void>(neemStops());
-  EXPECT_EQ(HoekVersnelling(90.0, onbekendeEenheid).geefHoek().rad(), 0.0);
+  const HoekVersnelling a(90.0, onbekendeEenheid);
   EXPECT_EQ(neemStops(), 1);
+  EXPECT_EQ(a.geefToename().rads(), 0.0);
 }
 
 TEST(HoekVersnelling, uitEenSnelheidNeemtDeDrieWaardenOverWatHetGetalOokIs) {
   const HoekSnelheid v(radialen(2.5), tijd(6, 8));
   for (const double getal : {1.0, 0.0, -3.0, 1e300, geenGetal}) {
     const HoekVersnelling a(v, getal);
-    EXPECT_EQ(a.geefHoek().rad(), 2.5);
-    EXPECT_EQ(paar(a.tijdBasis()), Paar(6, 8));
+    EXPECT_EQ(a.geefToename().geefHoek().rad(), 2.5);
+    EXPECT_EQ(paar(a.geefToename().tijdBasis()), Paar(6, 8));
   }
 }
 
