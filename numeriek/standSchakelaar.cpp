@@ -10,7 +10,7 @@ constexpr Schakelaar stand(bool aan) {
 
 StandSchakelaar::StandSchakelaar(Schakelaar s) : stand_(stand(s == Schakelaar::Aan)) {}
 
-// On for 0: the reverse of the assignment of a number, and required so.
+// On for 0: the reverse of the assignment of a number. It has to stay.
 StandSchakelaar::StandSchakelaar(unsigned long long v) : stand_(stand(v == 0)) {}
 
 StandSchakelaar::StandSchakelaar(bool b) : stand_(stand(b)) {}
