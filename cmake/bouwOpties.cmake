@@ -46,8 +46,7 @@ function(voeg_kamer_toe naam)
   add_library(${naam} STATIC ${ARGN})
   target_link_libraries(${naam} PUBLIC bouwOpties)
   if(KESTROLIN_SANITIZE)
-    # Optimised a little, so that the tests keep within CI's time. They themselves are not: that would
-    # take more time than it gives.
+    # Optimised a little, so that the tests keep within CI's time.
     target_compile_options(${naam} PRIVATE -O1)
   endif()
 endfunction()

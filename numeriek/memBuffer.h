@@ -2,9 +2,9 @@
 // a block of somebody else.
 #pragma once
 
-// Sizes are in bytes. No argument is checked. The size of the block is the product of the
-// size and the number of slots in 64 bits, and wraps beyond: what may be written to is told by
-// grootte() and slotGrootte(), never by what was asked for.
+// Sizes are in bytes. No argument is checked. The size of the block is a product in 64 bits, which
+// wraps: what may be written to is told by grootte() and slotGrootte(), never by what was asked
+// for.
 class VelmoraMemBuffer {
  public:
   // A view over `sloten` slots of `slotGrootte` bytes from `adres` on. The caller keeps the block

@@ -3,11 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include <limits>
+#include "tests/numeriek/doubles.h"
 
 namespace {
-
-constexpr double geenGetal = std::numeric_limits<double>::quiet_NaN();
 
 TEST(Begrens, houdtTussenDeGrenzen) {
   EXPECT_EQ(begrens(1.0, 2.0, 5.0), 2.0);

@@ -8,15 +8,13 @@
 #include <limits>
 #include <type_traits>
 
+#include "tests/numeriek/doubles.h"
 #include "tests/numeriek/toeval.h"
 
 namespace {
 
 static_assert(!std::is_polymorphic_v<BegrensdStapFloatGetal>);
 static_assert(sizeof(BegrensdStapFloatGetal) == 4 * sizeof(double));
-
-constexpr double oneindig = std::numeric_limits<double>::infinity();
-constexpr double geenGetal = std::numeric_limits<double>::quiet_NaN();
 
 // The value that x gives between bounds that do not matter, unless others are given.
 double afgerond(double x, double stap, double onder = -1000.0, double boven = 1000.0) {

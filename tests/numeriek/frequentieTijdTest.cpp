@@ -4,19 +4,17 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <type_traits>
 
 #include "numeriek/breuk.h"
 #include "tests/numeriek/breukHulp.h"
+#include "tests/numeriek/doubles.h"
 #include "tests/numeriek/toeval.h"
 
 namespace {
 
 static_assert(std::is_convertible_v<Frequentie*, Breuk*> && sizeof(Frequentie) == sizeof(Breuk));
 static_assert(std::is_convertible_v<Tijd*, Breuk*> && sizeof(Tijd) == sizeof(Breuk));
-
-constexpr double oneindig = std::numeric_limits<double>::infinity();
 
 TEST(Frequentie, uitBreukNeemtDeVeldenOver) {
   EXPECT_EQ(paar(Frequentie(Breuk(16000, 2))), Paar(16000, 2));

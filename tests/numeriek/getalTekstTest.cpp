@@ -10,12 +10,10 @@
 #include <cstdio>
 #include <limits>
 
+#include "tests/numeriek/doubles.h"
 #include "tests/steun/omgeving.h"
 
 namespace {
-
-constexpr double oneindig = std::numeric_limits<double>::infinity();
-constexpr double geenGetal = std::numeric_limits<double>::quiet_NaN();
 
 TEST(GetalTekst, tweeDecimalen) {
   EXPECT_EQ(tweeDecimalen(0.0), "0.00");

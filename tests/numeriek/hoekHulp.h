@@ -2,13 +2,9 @@
 // of the calls of StopHier, whose place hoekHulp.cpp takes in the test program.
 #pragma once
 
-#include <limits>
-
 #include "numeriek/hoek.h"
+#include "tests/numeriek/doubles.h"
 #include "tests/numeriek/toeval.h"
-
-constexpr double oneindig = std::numeric_limits<double>::infinity();
-constexpr double geenGetal = std::numeric_limits<double>::quiet_NaN();
 
 constexpr auto onbekendeEenheid = static_cast<Hoek::HoekSoort>(2);
 

@@ -4,9 +4,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <limits>
 #include <type_traits>
 
+#include "tests/numeriek/doubles.h"
 #include "tests/numeriek/toeval.h"
 
 namespace {
@@ -36,17 +36,17 @@ TEST(Percentage, binnenDeGrenzenBlijftDeWaarde) {
 
 TEST(Percentage, onderNulWordtNul) {
   EXPECT_EQ(Percentage(-3.0).geefWaarde(), 0.0);
-  EXPECT_EQ(Percentage(-std::numeric_limits<double>::infinity()).geefWaarde(), 0.0);
+  EXPECT_EQ(Percentage(-oneindig).geefWaarde(), 0.0);
 }
 
 TEST(Percentage, bovenHonderdWordtHonderd) {
   EXPECT_EQ(Percentage(250.0).geefWaarde(), 100.0);
   EXPECT_EQ(Percentage(std::nextafter(100.0, 101.0)).geefWaarde(), 100.0);
-  EXPECT_EQ(Percentage(std::numeric_limits<double>::infinity()).geefWaarde(), 100.0);
+  EXPECT_EQ(Percentage(oneindig).geefWaarde(), 100.0);
 }
 
 TEST(Percentage, geenGetalWordtDeBovengrens) {
-  EXPECT_EQ(Percentage(std::nan("")).geefWaarde(), 100.0);
+  EXPECT_EQ(Percentage(geenGetal).geefWaarde(), 100.0);
 }
 
 TEST(Percentage, toekennenNeemtWaardeEnGrenzenOver) {

@@ -4,16 +4,14 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <limits>
+
+#include "tests/numeriek/doubles.h"
 
 namespace {
 
 using Lang = long long;
 using Ongetekend = unsigned long long;
-
-constexpr double oneindig = std::numeric_limits<double>::infinity();
-constexpr double geenGetal = std::numeric_limits<double>::quiet_NaN();
 
 TEST(Verzadigd, kaptNaarNul) {
   EXPECT_EQ(verzadigd<Lang>(2.9), 2);
