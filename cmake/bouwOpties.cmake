@@ -4,6 +4,10 @@
 set(CMAKE_CXX_STANDARD 17)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
+# What runs on the target.
+set(CMAKE_C_STANDARD 99)
+set(CMAKE_C_STANDARD_REQUIRED ON)
+set(CMAKE_C_EXTENSIONS OFF)
 
 option(KESTROLIN_SANITIZE "Build with AddressSanitizer and UndefinedBehaviorSanitizer" OFF)
 option(KESTROLIN_FUZZ "Build the fuzz targets, and all code for them: needs clang++" OFF)
@@ -18,11 +22,9 @@ target_compile_options(
             -Wshadow
             -Wconversion
             -Wsign-conversion
-            -Wold-style-cast
             -Wcast-qual
             -Wformat=2
-            -Wnon-virtual-dtor
-            -Woverloaded-virtual
+            "$<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast;-Wnon-virtual-dtor;-Woverloaded-virtual>"
             -Werror
             # Each operation rounds by itself, also where the processor could do two at once: results
             # must not differ from machine to machine.

@@ -1,0 +1,71 @@
+/* Reads ADPCM arrays, decoding as many samples at a time as the caller has room for.
+ *
+ *   byte  0     1     2     3     4     5     6     7     8     9     10   ...
+ *       +-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+--
+ *       | number of code bytes  | frequency | predictor |index| code| code|
+ *       | unsigned              | in Hz     | signed    |     | 0, 1| 2, 3|
+ *       +-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+--
+ *
+ * All numbers have their low byte first. Of the two codes in a byte the earlier sample has bits 0
+ * to
+ * 3. The comment before the array tells another layout, that of PCM arrays; this one is right. An
+ * array that was made without header has its first code byte in byte 0, and ends in nine zeros that
+ * belong to no sample.
+ *
+ * Predictor and index are what the decoder starts from. Every array says 0 and 0, which is true of
+ * the first fragment that the tool encoded after its start: its encoder runs on from one fragment
+ * to the next. For the others see kestrolin_adpcm_resume, or end each fragment with 96 samples of
+ * silence: they bring the encoder back to 0 and 0.
+ *
+ * Samples lie around zero, at the scale that the encoder worked at: it takes the low byte of each
+ * sample of the file, and divides that down as the width of the DAC asks for. Made for a DAC of 16
+ * bits they are 8 bits wide, for 12 bits 4, for 10 bits 2. kestrolin_dac.h turns them into what the
+ * DAC's register takes.
+ */
+#ifndef KESTROLIN_ADPCM_H
+#define KESTROLIN_ADPCM_H
+
+#include "kestrolin_ima.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* A place in an array; 16 bytes where pointers have four. The fields are for reading. */
+typedef struct kestrolin_adpcm {
+  const unsigned char* next; /* the byte of the next code */
+  size_t left;               /* samples not decoded yet; right after opening, all of them */
+  kestrolin_ima ima;         /* the decoder's state before the next code */
+  uint16_t rate;             /* samples a second */
+} kestrolin_adpcm;
+
+/* Opens an array with header, of `size` bytes. Bytes behind the last code are passed over.
+ *
+ * KESTROLIN_TRUNCATED: the array is shorter than its header, or than the header's count asks for.
+ * KESTROLIN_CORRUPT: a frequency of 0, which the tool writes for a file that it could not read; an
+ * index above 88.
+ * Whatever is returned, the reader is usable: after an error it has no samples. */
+kestrolin_status kestrolin_adpcm_open(kestrolin_adpcm* adpcm, const unsigned char* array,
+                                      size_t size);
+
+/* Opens an array that was made without header, to start from predictor 0 and index 0. The number of
+ * samples follows from `size`; `rate` is the sampling frequency in the comment before the array, in
+ * Hz, and is passed on unchecked.
+ *
+ * KESTROLIN_TRUNCATED: the array is shorter than the nine bytes at its end. */
+kestrolin_status kestrolin_adpcm_open_headerless(kestrolin_adpcm* adpcm, const unsigned char* array,
+                                                 size_t size, uint16_t rate);
+
+/* Lets a freshly opened reader go on from the state that another one ended in, as the encoder did.
+ * `before` stands at the end of the fragment before this one in the text, and was itself resumed
+ * from the one before that, back to the first fragment of the first run. */
+void kestrolin_adpcm_resume(kestrolin_adpcm* adpcm, const kestrolin_adpcm* before);
+
+/* Decodes the next samples, `room` at most, and returns how many; 0 at the end. */
+size_t kestrolin_adpcm_read(kestrolin_adpcm* adpcm, int16_t* samples, size_t room);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
