@@ -39,7 +39,7 @@ static inline uint32_t kestrolin_u32(const unsigned char* bytes) {
  * to the compiler. */
 static inline int16_t kestrolin_s16(const unsigned char* bytes) {
   const uint16_t bits = kestrolin_u16(bytes);
-  int16_t number;
+  int16_t number = 0;
   memcpy(&number, &bits, sizeof number);
   return number;
 }
