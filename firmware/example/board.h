@@ -1,0 +1,31 @@
+/* What a program needs of a board to play: a timer interrupt at the sampling frequency, and a DAC.
+ *
+ * board_mps2.c is an emulated MPS2 board with a Cortex-M4, board_host.c any computer with a C
+ * library. Neither has a DAC, so what is written to it goes into a file, two bytes a code, low byte
+ * first.
+ */
+#ifndef BOARD_H
+#define BOARD_H
+
+#include <stdint.h>
+
+/* Names the file that takes the codes from here on. Returns 0 when it is open. */
+int board_open_dac(const char* name);
+
+/* Calls `handler` so many times a second, from the timer's interrupt, until board_stop_timer. */
+void board_start_timer(uint32_t rate, void (*handler)(void));
+void board_stop_timer(void);
+
+/* For the handler: the next output of the DAC. */
+void board_write_dac(uint16_t code);
+
+/* For the main program when it has nothing to do: returns after the next interrupt. */
+void board_wait(void);
+
+/* Completes the file. Returns 0 when all codes are in it. */
+int board_close_dac(void);
+
+/* A line for whoever watches. */
+void board_print(const char* text);
+
+#endif

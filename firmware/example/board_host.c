@@ -1,0 +1,40 @@
+#include <stdio.h>
+
+#include "board.h"
+
+static FILE* dac;
+static void (*timer)(void);
+
+int board_open_dac(const char* name) {
+  dac = fopen(name, "wb");
+  return dac == NULL;
+}
+
+void board_start_timer(uint32_t rate, void (*handler)(void)) {
+  (void)rate; /* the interrupts come as fast as the program waits for them */
+  timer = handler;
+}
+
+void board_stop_timer(void) {
+  timer = NULL;
+}
+
+void board_write_dac(uint16_t code) {
+  fputc(code & 0xFF, dac);
+  fputc(code >> 8, dac);
+}
+
+void board_wait(void) {
+  if (timer != NULL) {
+    timer();
+  }
+}
+
+int board_close_dac(void) {
+  const int failed = ferror(dac);
+  return fclose(dac) != 0 || failed;
+}
+
+void board_print(const char* text) {
+  fputs(text, stderr);
+}

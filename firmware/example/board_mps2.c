@@ -1,0 +1,97 @@
+/* The registers are those of the Cortex-M system design kit's timer, which the MPS2 board has at
+ * the addresses of its application note AN386, and of the Cortex-M4's interrupt controller.
+ */
+#include "board.h"
+
+#include "semihosting.h"
+
+enum { CLOCK = 25000000 }; /* Hz, of the timer */
+
+typedef struct timer_registers {
+  volatile uint32_t control;
+  volatile uint32_t value;
+  volatile uint32_t reload; /* the clocks between two interrupts, less one */
+  volatile uint32_t interrupt;
+} timer_registers;
+
+enum { CONTROL_ENABLE = 1, CONTROL_INTERRUPT = 8 };
+
+static timer_registers* const timer0 = (timer_registers*)0x40000000;
+static volatile uint32_t* const interrupt_enable = (volatile uint32_t*)0xE000E100;
+enum { TIMER0_BIT = 1 << 8 };
+
+/* What stands in for the DAC's register: the interrupt appends, the main program empties. */
+enum { CAPTURE_SIZE = 4096 };
+static uint16_t captured[CAPTURE_SIZE];
+static volatile uint32_t captured_count;
+
+static int file;
+static int failed;
+static void (*timer_function)(void);
+
+void timer0_handler(void);
+
+void timer0_handler(void) {
+  timer0->interrupt = 1; /* done with */
+  timer_function();
+}
+
+static void disable_interrupts(void) {
+  __asm__ volatile("cpsid i" ::: "memory");
+}
+static void enable_interrupts(void) {
+  __asm__ volatile("cpsie i" ::: "memory");
+}
+
+static void empty_capture(void) {
+  if (captured_count != 0) {
+    failed |= semihosting_write(file, captured, captured_count * sizeof captured[0]) != 0;
+    captured_count = 0;
+  }
+}
+
+int board_open_dac(const char* name) {
+  file = semihosting_open(name);
+  failed = file < 0;
+  return failed;
+}
+
+void board_start_timer(uint32_t rate, void (*handler)(void)) {
+  timer_function = handler;
+  timer0->reload = CLOCK / rate - 1;
+  timer0->value = CLOCK / rate - 1;
+  *interrupt_enable = TIMER0_BIT;
+  timer0->control = CONTROL_ENABLE | CONTROL_INTERRUPT;
+}
+
+void board_stop_timer(void) {
+  timer0->control = 0;
+}
+
+void board_write_dac(uint16_t code) {
+  if (captured_count < CAPTURE_SIZE) {
+    captured[captured_count++] = code;
+  } else {
+    failed = 1;
+  }
+}
+
+void board_wait(void) {
+  /* An interrupt that comes between the emptying and the waiting still ends the waiting. */
+  disable_interrupts();
+  empty_capture();
+  __asm__ volatile("wfi");
+  enable_interrupts();
+}
+
+int board_close_dac(void) {
+  disable_interrupts();
+  empty_capture();
+  enable_interrupts();
+  semihosting_close(file);
+  return failed;
+}
+
+void board_print(const char* text) {
+  semihosting_print(text);
+}
