@@ -1,9 +1,9 @@
 /* What the readers answer, and the few lines that all of them share.
  *
- * The readers need C99 and nothing else: they allocate nothing, call memcpy and memcmp at most,
- * keep no state but the caller's, and read no byte outside the array whose size they were given,
- * whatever that array holds. An array has to stay in place for as
- * long as a reader stands over it. Two readers may stand over one array.
+ * The readers need C99 and nothing else: they allocate nothing, call memcpy, memset and memcmp at
+ * most, keep no state but the caller's, and read no byte outside the array whose size they were
+ * given, whatever that array holds. An array has to stay in place for as long as a reader stands
+ * over it. Two readers may stand over one array.
  *
  * On "size": give `sizeof array`. Where the array is only declared, as in a header file, its size
  * has to come from the file that defines it; docs/firmware.md shows how.

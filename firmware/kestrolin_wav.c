@@ -18,12 +18,12 @@ static kestrolin_status set_ima(kestrolin_wav* wav, const unsigned char* fmt, ui
   if (length < FMT_IMA_SIZE) {
     return KESTROLIN_CORRUPT;
   }
-  const unsigned unit = IMA_UNIT * (unsigned)wav->channels;
+  const uint32_t unit = IMA_UNIT * (uint32_t)wav->channels;
   if (wav->block_size < unit || wav->block_size % unit != 0) {
     return KESTROLIN_CORRUPT;
   }
   /* The header holds one sample of each channel, and each unit behind it eight. */
-  const unsigned frames = 1 + 8 * (wav->block_size / unit - 1);
+  const uint32_t frames = 1 + 8 * (wav->block_size / unit - 1);
   wav->block_frames = kestrolin_u16(fmt + 18);
   return wav->block_frames == frames ? KESTROLIN_OK : KESTROLIN_CORRUPT;
 }

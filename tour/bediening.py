@@ -156,6 +156,14 @@ class Programma:
         self.klik(rondje)
         wacht(lambda: rondje.is_(AANGEVINKT), f'"{naam}" is chosen')
 
+    def keuze(self, van: str, naar: str) -> None:
+        """Opens the list that shows one text, and picks another from it."""
+        lijst = self.element("combo box", van)
+        self.klik(lijst)
+        regels = wacht(lambda: lijst.zoek("menu item", naar), f'the list offers "{naar}"')
+        self.klik(regels[0])
+        self.element("combo box", naar)
+
     def vul(self, veld: Element, tekst: str) -> None:
         """Replaces what stands in a text field."""
         self.klik(veld)

@@ -1,0 +1,158 @@
+// Encodes fragments with every encoder of the tool, decodes them as a target would, and writes what
+// is heard there for the measure of quality to judge.
+//
+//   firmwareQuality FOLDER FRAGMENT.wav...
+//
+// Prints a line of tab-separated fields a case, below a line of their names: the bytes of the
+// array, those a second of sound, the WAV file in FOLDER that holds what is heard, and what its
+// samples are to be multiplied by to be at the level of the original. Other files are left in
+// FOLDER and in the temporary directory. Status 1 where a case gives no sound.
+#include <wx/filename.h>
+#include <wx/init.h>
+#include <wx/log.h>
+
+#include <algorithm>
+#include <cmath>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "audio/codec/sndBestand.h"
+#include "bench/firmware/decode.h"
+#include "bench/firmware/encode.h"
+
+namespace {
+
+// What brings 16-bit samples down to the range of 8 bits, for the ADPCM encoder.
+constexpr double quietVolume = 0.00387;
+constexpr unsigned int fullBits = 16;
+
+struct Fragment {
+  wxFileName file;
+  int rate;  // Hz
+  Samples samples;
+};
+
+struct Case {
+  std::string encoder;
+  std::string setting;
+  ArrayBytes array;
+  Samples samples;
+  double scale;  // from these samples to those of the original
+};
+
+Fragment readFragment(std::string const& path) {
+  wxFileName const file(path);
+  SndBestand sound = SndBestand::lees(file);
+  Samples samples(static_cast<std::size_t>(sound.info().frames));
+  sound.leesItems(samples.data(), static_cast<sf_count_t>(samples.size()));
+  return {file, sound.info().samplerate, samples};
+}
+
+bool writeWav(wxFileName const& file, int rate, Samples const& samples, int format) {
+  auto const count = static_cast<sf_count_t>(samples.size());
+  return SndBestand::schrijf(file, rate, 1, SF_FORMAT_WAV | format)
+             .schrijfItems(samples.data(), count) == count;
+}
+
+// These samples under the fragment's own name, in a folder for this format.
+wxFileName writeCopy(Fragment const& fragment, Samples const& samples, std::string const& folder,
+                     int format) {
+  wxFileName::Mkdir(folder, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
+  wxFileName const copy(folder, fragment.file.GetFullName());
+  writeWav(copy, fragment.rate, samples, format);
+  return copy;
+}
+
+double scaleOf(unsigned int dacBits) {
+  return std::exp2(fullBits - dacBits);
+}
+
+Case pcmCase(Fragment const& fragment, unsigned int dacBits) {
+  ArrayBytes const array = pcmArray(fragment.file, dacBits);
+  return {"PCM", std::to_string(dacBits) + "-bit DAC", array, pcmSamples(array), scaleOf(dacBits)};
+}
+
+Case adpcmCase(wxFileName const& wav, std::string const& setting, double scale) {
+  ArrayBytes const array = adpcmArray(wav);
+  return {"ADPCM", setting, array, adpcmSamples(array), scale};
+}
+
+Case embeddedCase(wxFileName const& wav, std::string const& format) {
+  ArrayBytes const array = embeddedArray(wav);
+  return {"Embedded WAV", format, array, embeddedSamples(array), 1};
+}
+
+Case speexCase(Fragment const& fragment, unsigned int quality, unsigned int dacBits) {
+  std::string setting = "quality " + std::to_string(quality);
+  if (dacBits != fullBits) {
+    setting += ", " + std::to_string(dacBits) + "-bit DAC";
+  }
+  ArrayBytes const array = speexArray(fragment.file, fragment.rate, quality, dacBits);
+  return {"Speex", setting, array, speexSamples(array), scaleOf(dacBits)};
+}
+
+std::vector<Case> casesOf(Fragment const& fragment, std::string const& folder) {
+  Samples quiet(fragment.samples.size());
+  std::transform(fragment.samples.begin(), fragment.samples.end(), quiet.begin(), [](short sample) {
+    return static_cast<short>(std::lround(sample * quietVolume));
+  });
+  std::vector<Case> cases;
+  for (unsigned int const dacBits : {8U, 10U, 12U, 16U}) {
+    cases.push_back(pcmCase(fragment, dacBits));
+  }
+  cases.push_back(embeddedCase(fragment.file, "PCM"));
+  cases.push_back(embeddedCase(
+      writeCopy(fragment, fragment.samples, folder + "/ima", SF_FORMAT_IMA_ADPCM), "IMA ADPCM"));
+  cases.push_back(adpcmCase(writeCopy(fragment, quiet, folder + "/quiet", SF_FORMAT_PCM_16),
+                            "brought down", 1 / quietVolume));
+  // The encoder kept eight bits of each sample.
+  cases.push_back(adpcmCase(fragment.file, "as it is", scaleOf(8)));
+  for (unsigned int const quality : {0U, 2U, 4U, 6U, 8U, 10U}) {
+    cases.push_back(speexCase(fragment, quality, fullBits));
+  }
+  cases.push_back(speexCase(fragment, 8, 8));
+  return cases;
+}
+
+// Prints the line of a case and writes what is heard of it.
+bool reportCase(Fragment const& fragment, Case const& heard, wxFileName const& sound) {
+  auto const duration = static_cast<double>(fragment.samples.size()) / fragment.rate;
+  auto const bytes = heard.array.size();
+  std::cout << fragment.file.GetName() << '\t' << heard.encoder << '\t' << heard.setting << '\t'
+            << bytes << '\t' << std::lround(static_cast<double>(bytes) / duration) << '\t'
+            << heard.scale << '\t' << sound.GetFullPath() << '\n';
+  return !heard.samples.empty() && writeWav(sound, fragment.rate, heard.samples, SF_FORMAT_PCM_16);
+}
+
+bool reportFragment(std::string const& path, std::string const& folder) {
+  Fragment const fragment = readFragment(path);
+  if (fragment.samples.empty()) {
+    std::cerr << "firmwareQuality: no sound could be read from " << path << "\n";
+    return false;
+  }
+  std::vector<Case> const cases = casesOf(fragment, folder);
+  std::string const stem = folder + "/" + fragment.file.GetName().ToStdString();
+  int number = 0;
+  auto const good = std::count_if(cases.begin(), cases.end(), [&](Case const& each) {
+    return reportCase(fragment, each, wxFileName(stem + std::to_string(++number) + ".wav"));
+  });
+  return good == static_cast<std::ptrdiff_t>(cases.size());
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  wxInitializer const toolkit;
+  std::vector<std::string> const arguments(argv + 1, argv + argc);
+  if (!toolkit.IsOk() || arguments.size() < 2) {
+    std::cerr << "usage: firmwareQuality FOLDER FRAGMENT.wav...\n";
+    return 1;
+  }
+  wxLog::SetLogLevel(wxLOG_Warning);
+  std::cout << "fragment\tencoder\tsetting\tbytes\trate\tscale\tsound\n";
+  auto const good = std::count_if(
+      arguments.begin() + 1, arguments.end(),
+      [&](std::string const& fragment) { return reportFragment(fragment, arguments.front()); });
+  return good == static_cast<std::ptrdiff_t>(arguments.size()) - 1 ? 0 : 1;
+}
