@@ -1,5 +1,5 @@
-// The reader that the README gives to firmware authors, compiled as it stands there against the
-// text of a run over two files: it hears what the model decodes.
+// The reader for firmware, compiled with the text of a run over two files: it hears what the model
+// decodes.
 #include <gtest/gtest.h>
 
 #include <iterator>
@@ -13,20 +13,6 @@
 
 namespace {
 
-// The block of C in the README with this in it; the test fails where there is none.
-std::string uitReadme(std::string const& kenmerk) {
-  std::string const tekst = leesTekst(KESTROLIN_README);
-  std::string const hek = "\n```";
-  std::size_t const plaats = tekst.find(kenmerk);
-  std::size_t const begin = tekst.rfind(hek + "c\n", plaats);
-  if (plaats == std::string::npos || begin == std::string::npos) {
-    ADD_FAILURE() << "no " << kenmerk << " in the README";
-    return "";
-  }
-  std::size_t const van = begin + hek.size() + 2;
-  return tekst.substr(van, tekst.find(hek, van) + 1 - van);
-}
-
 class AdpcmFirmware : public testing::Test {
  protected:
   // Encodes "eerste" and "tweede" in one run, and has the reader play both. With `opnieuw` it
@@ -36,21 +22,27 @@ class AdpcmFirmware : public testing::Test {
     schrijfWav(map.pad("eerste.wav"), eerste);
     schrijfWav(map.pad("tweede.wav"), tweede);
     ADPCMDesktopConverter converter(ADPCMEncoderOpties(ADPCMTaalC, 0));
-    std::string bron = uitReadme("adpcm_play(") + "#include <stdio.h>\n";
+    std::string bron = "#include <stdio.h>\n#include \"kestrolin_adpcm.h\"\n";
     bron += adpcmTekst(converter, map.pad("eerste.wav"), true);
     bron += adpcmTekst(converter, map.pad("tweede.wav"), true);
     bron +=
-        "static void put(int16_t sample) { printf(\"%d \", sample); }\n"
+        "static void play(kestrolin_adpcm* reader) {\n"
+        "  for (int16_t sample; kestrolin_adpcm_read(reader, &sample, 1) == 1;) {\n"
+        "    printf(\"%d \", sample);\n"
+        "  }\n"
+        "}\n"
         "int main(void) {\n"
-        "  adpcm_state s = {0, 0};\n"
-        "  adpcm_play(eerste, &s, put);\n";
-    bron += opnieuw ? "  s.sample = (int16_t)(tweede[6] | tweede[7] << 8);\n"
-                      "  s.index = tweede[8];\n"
-                    : "";
-    bron += "  adpcm_play(tweede, &s, put);\n  return 0;\n}\n";
+        "  kestrolin_adpcm een, twee;\n"
+        "  kestrolin_adpcm_open(&een, eerste, sizeof eerste);\n"
+        "  kestrolin_adpcm_open(&twee, tweede, sizeof tweede);\n"
+        "  play(&een);\n";
+    bron += opnieuw ? "" : "  kestrolin_adpcm_resume(&twee, &een);\n";
+    bron += "  play(&twee);\n  return 0;\n}\n";
     maakBestand(map.pad("speler.c"), bron);
     EXPECT_TRUE(luktIn(map.pad(),
-                       "gcc -std=c99 -Wall -Wextra -Wpedantic -Werror speler.c -o speler && "
+                       "f='" KESTROLIN_FIRMWARE
+                       "' && gcc -std=c99 -Wall -Wextra -Wpedantic -Werror \"-I$f\" speler.c "
+                       "\"$f/kestrolin_adpcm.c\" \"$f/kestrolin_ima.c\" -o speler && "
                        "./speler > gehoord.txt"));
     std::istringstream stroom(leesTekst(map.pad("gehoord.txt")));
     return {std::istream_iterator<int>(stroom), {}};
@@ -68,7 +60,7 @@ class AdpcmFirmware : public testing::Test {
   TijdelijkeMap map;
 };
 
-TEST_F(AdpcmFirmware, lezerUitDeReadmeHoortEenRunInDeVolgordeVanZijnTekst) {
+TEST_F(AdpcmFirmware, lezerHoortEenRunInDeVolgordeVanZijnTekst) {
   EXPECT_EQ(gehoord(golf(2000), golf(500), false), verwacht(golf(2000), golf(500)));
 }
 
