@@ -25,3 +25,10 @@ void kestrolin_dac_codes(uint16_t* codes, const int16_t* samples, size_t count,
     codes[i] = shifted_up(samples[i], mid);
   }
 }
+
+void kestrolin_dac_codes_from(uint16_t* codes, const int16_t* samples, size_t count, unsigned bits,
+                              kestrolin_dac_width width) {
+  for (size_t i = 0; i < count; ++i) {
+    codes[i] = kestrolin_dac_code_from(samples[i], bits, width);
+  }
+}

@@ -44,9 +44,12 @@ uint16_t kestrolin_dac_code(int16_t sample, kestrolin_dac_width width);
  * low bits. */
 uint16_t kestrolin_dac_code_from(int16_t sample, unsigned bits, kestrolin_dac_width width);
 
-/* The codes of `count` samples of the DAC's own width. `codes` may lie where the samples lie. */
+/* The codes of `count` samples of the DAC's own width, or of another one. `codes` may lie where the
+ * samples lie. */
 void kestrolin_dac_codes(uint16_t* codes, const int16_t* samples, size_t count,
                          kestrolin_dac_width width);
+void kestrolin_dac_codes_from(uint16_t* codes, const int16_t* samples, size_t count, unsigned bits,
+                              kestrolin_dac_width width);
 
 #ifdef __cplusplus
 }

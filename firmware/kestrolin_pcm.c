@@ -16,7 +16,7 @@ kestrolin_status kestrolin_pcm_open(kestrolin_pcm* pcm, const unsigned char* arr
     return KESTROLIN_TRUNCATED;
   }
   pcm->next = array + OVERHEAD;
-  pcm->left = count;
+  pcm->left = (size_t)count;
   return KESTROLIN_OK;
 }
 

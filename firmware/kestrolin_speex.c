@@ -47,12 +47,14 @@ static kestrolin_status set_rate(kestrolin_speex* speex, uint16_t rate) {
 
 /* Walks the frames, and stands at the first of them if all of them are whole. */
 static kestrolin_status set_frames(kestrolin_speex* speex, const signed char* array, size_t size) {
-  size_t at = 0;
+  const signed char* next = array;
+  size_t left = size;
   size_t frames = 0;
   size_t bytes = 0;
   kestrolin_status status = KESTROLIN_OK;
-  while ((status = frame_size(array + at, size - at, &bytes)) == KESTROLIN_OK) {
-    at += 1 + bytes;
+  while ((status = frame_size(next, left, &bytes)) == KESTROLIN_OK) {
+    next += 1 + bytes;
+    left -= 1 + bytes;
     ++frames;
   }
   if (status != KESTROLIN_END) {

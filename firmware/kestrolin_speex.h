@@ -15,14 +15,14 @@
  * Decoded with libspeex:
  *
  *     kestrolin_speex speex;
- *     const char *frame;
+ *     const char* frame;
  *     int size;
  *     if (kestrolin_speex_open(&speex, array, array_size) == KESTROLIN_OK) {
- *         while (kestrolin_speex_next(&speex, &frame, &size) == KESTROLIN_OK) {
- *             speex_bits_read_from(&bits, frame, size);
- *             speex_decode_int(decoder, &bits, samples);
- *             ... play speex.frame_samples samples ...
- *         }
+ *       while (kestrolin_speex_next(&speex, &frame, &size) == KESTROLIN_OK) {
+ *         speex_bits_read_from(&bits, frame, size);
+ *         speex_decode_int(decoder, size > 0 ? &bits : NULL, samples);
+ *         ... play speex.frame_samples samples ...
+ *       }
  *     }
  *
  * where the decoder is speex_decoder_init of speex_lib_get_mode(speex.mode), with SPEEX_SET_ENH on.
@@ -65,7 +65,8 @@ kestrolin_status kestrolin_speex_open_headerless(kestrolin_speex* speex, const s
                                                  size_t size, uint16_t rate);
 
 /* Points `frame` at the bytes of the next frame and tells their number, 0 to 200, as
- * speex_bits_read_from takes both. A frame of no bytes stands for 20 ms of which nothing was kept.
+ * speex_bits_read_from takes both. A frame of no bytes stands for 20 ms of which nothing was kept;
+ * libspeex makes them up when it is given no bits.
  *
  * KESTROLIN_END: there are no more; `frame` and `size` stay as they are. The errors of opening
  * cannot come here, unless the fields were changed. */

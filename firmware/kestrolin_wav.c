@@ -11,7 +11,7 @@ static kestrolin_status set_pcm(kestrolin_wav* wav, const unsigned char* fmt) {
   return wav->block_size == 2 * (uint32_t)wav->channels ? KESTROLIN_OK : KESTROLIN_CORRUPT;
 }
 
-static kestrolin_status set_ima(kestrolin_wav* wav, const unsigned char* fmt, uint32_t length) {
+static kestrolin_status set_ima(kestrolin_wav* wav, const unsigned char* fmt, size_t length) {
   if (kestrolin_u16(fmt + 14) != 4 || wav->channels > KESTROLIN_WAV_IMA_CHANNELS) {
     return KESTROLIN_UNSUPPORTED;
   }
@@ -29,7 +29,7 @@ static kestrolin_status set_ima(kestrolin_wav* wav, const unsigned char* fmt, ui
 }
 
 /* Reads the content of "fmt ", of `length` bytes. */
-static kestrolin_status set_format(kestrolin_wav* wav, const unsigned char* fmt, uint32_t length) {
+static kestrolin_status set_format(kestrolin_wav* wav, const unsigned char* fmt, size_t length) {
   if (length < FMT_SIZE) {
     return KESTROLIN_CORRUPT;
   }
@@ -63,7 +63,7 @@ static int blocks_are_sound(const kestrolin_wav* wav, const unsigned char* data,
 }
 
 /* Stands at the start of the sound, `length` bytes at `data`. */
-static kestrolin_status set_data(kestrolin_wav* wav, const unsigned char* data, uint32_t length) {
+static kestrolin_status set_data(kestrolin_wav* wav, const unsigned char* data, size_t length) {
   if (wav->format == 0 || length % wav->block_size != 0) {
     return KESTROLIN_CORRUPT;
   }
@@ -71,7 +71,7 @@ static kestrolin_status set_data(kestrolin_wav* wav, const unsigned char* data, 
     return KESTROLIN_CORRUPT;
   }
   wav->next = data;
-  wav->left = (size_t)(length / wav->block_size) * wav->block_frames * wav->channels;
+  wav->left = length / wav->block_size * wav->block_frames * wav->channels;
   return KESTROLIN_OK;
 }
 
@@ -87,11 +87,12 @@ kestrolin_status kestrolin_wav_open(kestrolin_wav* wav, const unsigned char* arr
   size_t at = RIFF_HEADER;
   while (size - at >= CHUNK_HEADER) {
     const unsigned char* chunk = array + at;
-    const uint32_t length = kestrolin_u32(chunk + 4);
+    const uint32_t claimed = kestrolin_u32(chunk + 4);
     at += CHUNK_HEADER;
-    if (size - at < length) {
+    if (size - at < claimed) {
       return KESTROLIN_TRUNCATED;
     }
+    const size_t length = (size_t)claimed;
     if (memcmp(chunk, "data", 4) == 0) {
       return set_data(wav, array + at, length);
     }

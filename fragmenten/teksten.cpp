@@ -12,6 +12,7 @@
 #include <wx/filename.h>
 #include <wx/init.h>
 #include <wx/mstream.h>
+#include <wx/utils.h>
 #include <wx/wfstream.h>
 
 #include <algorithm>
@@ -156,7 +157,10 @@ int main(int aantal, char** woorden) {
     return 2;
   }
   wxInitializer const toolkit;
-  fs::create_directories(woorden[2]);
+  // The embedding leaves the images behind that it makes, so it gets a temporary folder to go.
+  fs::path const beelden = fs::path(woorden[2]) / "beelden";
+  fs::create_directories(beelden);
+  wxSetEnv("TMPDIR", wxString::FromUTF8(fs::absolute(beelden).string()));
   Teksten const teksten(woorden[1], woorden[2]);
   teksten.pcm();
   teksten.adpcm();
@@ -164,5 +168,6 @@ int main(int aantal, char** woorden) {
   teksten.speex(SpeexNarrowband, {"ready", "warning"}, "speex8.c");
   teksten.speex(SpeexWideband, {"chime"}, "speex16.c");
   teksten.speex(SpeexUltraWideband, {"alarm"}, "speex32.c");
+  fs::remove_all(beelden);
   return 0;
 }

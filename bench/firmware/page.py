@@ -10,15 +10,22 @@ from pathlib import Path
 PAGE = Path(__file__).resolve().parents[2] / "docs" / "firmware.md"
 
 
-def filled(page: str, tables: dict[str, str]) -> str:
-    """The page with these tables in their places; the program ends where one has no place."""
-    for name, table in tables.items():
-        place = re.compile(f"(<!-- figures: {name} -->\n)(?:(?!<!--).*?\n)?(<!-- end -->)", re.S)
-        page, count = place.subn(lambda found, t=table: found[1] + t + "\n" + found[2], page)
-        if count != 1:
-            sys.exit(f"{PAGE.name} has {count} places for the table {name}")
-    return page
+def _place(name: str) -> re.Pattern[str]:
+    return re.compile(f"(<!-- figures: {name} -->\n)((?:(?!<!--).*?\n)?)(<!-- end -->)", re.S)
+
+
+def held(page: str, name: str) -> str:
+    """What stands in the place of this table; the program ends where there is no such place."""
+    places = _place(name).findall(page)
+    if len(places) != 1:
+        sys.exit(f"{PAGE.name} has {len(places)} places for the table {name}")
+    return places[0][1].rstrip("\n")
 
 
 def fill(tables: dict[str, str]) -> None:
-    PAGE.write_text(filled(PAGE.read_text(encoding="utf-8"), tables), encoding="utf-8")
+    """Puts tables into their places."""
+    page = PAGE.read_text(encoding="utf-8")
+    for name, table in tables.items():
+        held(page, name)
+        page = _place(name).sub(lambda found, t=table: found[1] + t + "\n" + found[3], page)
+    PAGE.write_text(page, encoding="utf-8")

@@ -32,10 +32,10 @@ SERIES = [
            "points pt 12 ps 1.5 lw 1.6 lc rgb '#009e73'", "center offset 0,0.9"),
     Series("ADPCM, of a fragment brought down", lambda case: case.setting == "brought down",
            "points pt 5 ps 1.0 lc rgb '#d55e00'", "center offset 0,-0.9"),
-    Series("Speex, by quality", lambda case: case.encoder == "Speex" and "DAC" not in case.setting,
+    Series("Speex, by quality", lambda case: case.encoder == "Speex" and "," not in case.setting,
            "linespoints pt 9 ps 1.1 lw 1.5 lc rgb '#000000'", "right offset -0.6,0.5"),
     Series("Speex, quality 8, for a DAC of 8 bits",
-           lambda case: case.encoder == "Speex" and "DAC" in case.setting,
+           lambda case: case.encoder == "Speex" and "8-bit DAC" in case.setting,
            "points pt 8 ps 1.2 lw 1.6 lc rgb '#cc3399'", "center offset 0,-0.9"),
 ]
 
@@ -65,7 +65,7 @@ def _label(case: Case) -> str:
         return case.setting.partition("-")[0]
     if case.encoder == "Embedded WAV":
         return "" if case.setting == "PCM" else "IMA"
-    if case.encoder == "Speex" and "DAC" not in case.setting:
+    if case.encoder == "Speex" and "," not in case.setting:
         return case.setting.rpartition(" ")[2]
     return ""
 

@@ -20,6 +20,7 @@
 #include "audio/codec/sndBestand.h"
 #include "bench/firmware/decode.h"
 #include "bench/firmware/encode.h"
+#include "firmware/kestrolin_dac.h"
 
 namespace {
 
@@ -92,6 +93,19 @@ Case speexCase(Fragment const& fragment, unsigned int quality, unsigned int dacB
   return {"Speex", setting, array, speexSamples(array), scaleOf(dacBits)};
 }
 
+// Encoded at full width, and narrowed behind the decoder.
+Case speexNarrowedCase(Fragment const& fragment, unsigned int quality) {
+  constexpr int mid = 128;
+  Case narrowed = speexCase(fragment, quality, fullBits);
+  std::transform(
+      narrowed.samples.begin(), narrowed.samples.end(), narrowed.samples.begin(), [](short sample) {
+        return static_cast<short>(kestrolin_dac_code_from(sample, fullBits, KESTROLIN_DAC_8) - mid);
+      });
+  narrowed.setting += ", narrowed to 8 bits on the target";
+  narrowed.scale = scaleOf(8);
+  return narrowed;
+}
+
 std::vector<Case> casesOf(Fragment const& fragment, std::string const& folder) {
   Samples quiet(fragment.samples.size());
   std::transform(fragment.samples.begin(), fragment.samples.end(), quiet.begin(), [](short sample) {
@@ -112,6 +126,7 @@ std::vector<Case> casesOf(Fragment const& fragment, std::string const& folder) {
     cases.push_back(speexCase(fragment, quality, fullBits));
   }
   cases.push_back(speexCase(fragment, 8, 8));
+  cases.push_back(speexNarrowedCase(fragment, 8));
   return cases;
 }
 

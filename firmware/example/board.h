@@ -9,10 +9,15 @@
 
 #include <stdint.h>
 
+#ifdef __cplusplus
+extern "C" {
+#endif
+
 /* Names the file that takes the codes from here on. Returns 0 when it is open. */
 int board_open_dac(const char* name);
 
-/* Calls `handler` so many times a second, from the timer's interrupt, until board_stop_timer. */
+/* Calls `handler` so many times a second, from the timer's interrupt, until board_stop_timer. A
+ * rate of 0 is taken for 1. */
 void board_start_timer(uint32_t rate, void (*handler)(void));
 void board_stop_timer(void);
 
@@ -27,5 +32,9 @@ int board_close_dac(void);
 
 /* A line for whoever watches. */
 void board_print(const char* text);
+
+#ifdef __cplusplus
+}
+#endif
 
 #endif

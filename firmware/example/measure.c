@@ -1,11 +1,13 @@
 /* Counts the instructions that the readers take, on an emulator that lets each of them last a fixed
  * time: run it with `-icount shift=3`, which is 8 ns. Prints a line a reader, with tabs in between:
- * its name, the instructions that opening takes, those that reading takes, in hundredths a sample,
- * and the bytes of stack. The calls are counted in, in blocks of 160 samples.
+ * its name, the instructions of opening, those of reading in blocks of 160 samples and of reading
+ * one sample a call, both in hundredths a sample, and the bytes of stack. For libspeex the figure
+ * of one sample a call is that of the most expensive frame.
  */
 #include "../kestrolin_adpcm.h"
 #include "../kestrolin_dac.h"
 #include "../kestrolin_pcm.h"
+#include "../kestrolin_speex.h"
 #include "../kestrolin_wav.h"
 #include "semihosting.h"
 #include "sounds.h"
@@ -42,19 +44,23 @@ static void print_number(uint32_t number) {
 
 typedef struct result {
   uint32_t opening; /* instructions */
-  uint32_t reading; /* instructions */
-  uint32_t samples;
-  uint32_t stack; /* bytes */
+  uint32_t reading; /* instructions a sample, in hundredths */
+  uint32_t single;  /* the same, for one sample a call */
+  uint32_t stack;   /* bytes */
 } result;
 
+static uint32_t hundredths(uint32_t instructions, uint32_t count) {
+  return (uint32_t)((uint64_t)instructions * 100 / count);
+}
+
 static void report(const char* name, const result* measured) {
+  const uint32_t columns[] = {measured->opening, measured->reading, measured->single,
+                              measured->stack};
   semihosting_print(name);
-  semihosting_print("\t");
-  print_number(measured->opening);
-  semihosting_print("\t");
-  print_number((uint32_t)((uint64_t)measured->reading * 100 / measured->samples));
-  semihosting_print("\t");
-  print_number(measured->stack);
+  for (size_t i = 0; i < sizeof columns / sizeof columns[0]; ++i) {
+    semihosting_print("\t");
+    print_number(columns[i]);
+  }
   semihosting_print("\n");
 }
 
@@ -105,12 +111,18 @@ static int clock_is_right(void) {
       return 1;                                                                  \
     }                                                                            \
     measured.opening = instructions_since(start);                                \
-    measured.samples = (uint32_t)reader.left;                                    \
+    const uint32_t count = (uint32_t)reader.left;                                \
     start = *timer_value;                                                        \
     while (kestrolin_##kind##_read(&reader, samples, BLOCK) > 0) {               \
     }                                                                            \
     measured.reading = instructions_since(start);                                \
     measured.stack = stack_used();                                               \
+    measured.reading = hundredths(measured.reading, count);                      \
+    kestrolin_##kind##_open(&reader, array, array##_size);                       \
+    start = *timer_value;                                                        \
+    while (kestrolin_##kind##_read(&reader, samples, 1) > 0) {                   \
+    }                                                                            \
+    measured.single = hundredths(instructions_since(start), count);              \
     report(name, &measured);                                                     \
   } while (0)
 
@@ -123,18 +135,25 @@ static int measure_readers(void) {
 }
 
 static void measure_dac(void) {
-  result measured = {0, 0, BLOCK, 0};
+  result measured = {0, 0, 0, 0};
   paint_stack();
-  const uint32_t start = *timer_value;
+  uint32_t start = *timer_value;
   kestrolin_dac_codes(codes, samples, BLOCK, KESTROLIN_DAC_12);
   measured.reading = instructions_since(start);
   measured.stack = stack_used();
+  measured.reading = hundredths(measured.reading, BLOCK);
+  start = *timer_value;
+  for (uint32_t i = 0; i < BLOCK; ++i) {
+    codes[i] = kestrolin_dac_code(samples[i], KESTROLIN_DAC_12);
+  }
+  measured.single = hundredths(instructions_since(start), BLOCK);
   report("DAC", &measured);
 }
 
+/* The walk over the frames, without their decoding. */
 static int measure_walk(const char* name, const signed char* array, size_t size) {
   static kestrolin_speex speex;
-  result measured;
+  result measured = {0, 0, 0, 0};
   const char* frame = NULL;
   int bytes = 0;
   paint_stack();
@@ -143,19 +162,21 @@ static int measure_walk(const char* name, const signed char* array, size_t size)
     return 1;
   }
   measured.opening = instructions_since(start);
-  measured.samples = speex.samples;
   start = *timer_value;
   while (kestrolin_speex_next(&speex, &frame, &bytes) == KESTROLIN_OK) {
   }
   measured.reading = instructions_since(start);
   measured.stack = stack_used();
+  measured.reading = hundredths(measured.reading, speex.frames);
   report(name, &measured);
   return 0;
 }
 
 #ifdef WITH_SPEEX
+/* The samples of one frame a call. */
 static int measure_decoder(const char* name, const signed char* array, size_t size) {
   static speex_source source;
+  static int16_t frame[SPEEX_SOURCE_FRAME];
   kestrolin_speex speex;
   result measured = {0, 0, 0, 0};
   kestrolin_speex_open(&speex, array, size);
@@ -165,17 +186,23 @@ static int measure_decoder(const char* name, const signed char* array, size_t si
     return 1;
   }
   measured.opening = instructions_since(start);
-  start = *timer_value;
-  for (size_t got = 1; got > 0; measured.samples += (uint32_t)got) {
-    got = speex_source_read(&source, samples, BLOCK);
+  uint32_t sum = 0;
+  uint32_t worst = 0;
+  size_t room = speex.frame_samples - (size_t)kestrolin_speex_delay(&speex);
+  for (size_t got = 1; got > 0; room = speex.frame_samples) {
+    start = *timer_value;
+    got = speex_source_read(&source, frame, room);
+    const uint32_t spent = instructions_since(start);
+    sum += spent;
+    worst = spent > worst ? spent : worst;
   }
-  measured.reading = instructions_since(start);
   measured.stack = stack_used();
+  measured.reading = hundredths(sum, speex.frames * speex.frame_samples);
+  measured.single = hundredths(worst, speex.frame_samples);
   report(name, &measured);
   speex_source_close(&source);
-  semihosting_print("memory of the decoder\t");
-  print_number(arena_take_peak());
-  semihosting_print("\t0\t0\n");
+  const result memory = {arena_take_peak() + (uint32_t)sizeof source, 0, 0, 0};
+  report("memory of the decoder", &memory);
   return 0;
 }
 #endif

@@ -7,11 +7,17 @@ enum { BLOCK = 160 };
 
 static queue codes;
 static uint16_t silence;
+static volatile int ended; /* the last code is in the queue */
 static volatile uint32_t underruns;
 
 static void next_code(void) {
   uint16_t code = silence;
-  underruns += !queue_take(&codes, &code);
+  if (!queue_take(&codes, &code)) {
+    if (ended) {
+      return;
+    }
+    ++underruns;
+  }
   board_write_dac(code);
 }
 
@@ -39,9 +45,11 @@ int player_play(const char* name, const player_sound* sound, kestrolin_dac_width
   }
   int running = 0;
   silence = kestrolin_dac_mid(width);
+  ended = 0;
   underruns = 0;
   while (feed(sound, width, &running) > 0) {
   }
+  ended = 1;
   if (!running) {
     board_start_timer(sound->rate, next_code);
   }

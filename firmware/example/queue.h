@@ -1,6 +1,7 @@
 /* DAC codes on their way from the main program, which decodes them a block at a time, to the
- * interrupt, which takes one at a time. One side writes `in`, the other one `out`, and both are
- * read and written in one piece, so that no lock is needed.
+ * interrupt, which takes one at a time. One side writes `in`, the other one `out`. On a processor
+ * of 32 bits both are read and written in one piece, so that no lock is needed; a smaller one wants
+ * counters of its own width.
  */
 #ifndef QUEUE_H
 #define QUEUE_H

@@ -7,6 +7,10 @@
 
 #include <stddef.h>
 
+#ifdef __cplusplus
+extern "C" {
+#endif
+
 /* Makes a file in the directory that the emulator runs in, or empties it. Returns a handle, or -1.
  */
 int semihosting_open(const char* name);
@@ -21,5 +25,9 @@ void semihosting_print(const char* text);
 
 /* Ends the program; `status` becomes the exit status of the emulator. */
 void semihosting_exit(int status) __attribute__((noreturn));
+
+#ifdef __cplusplus
+}
+#endif
 
 #endif

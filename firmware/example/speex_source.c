@@ -15,6 +15,19 @@ int speex_source_open(speex_source* source, const kestrolin_speex* reader) {
   return 0;
 }
 
+/* Decodes a frame. For one that is empty or damaged the decoder makes up 20 ms out of what it has
+ * heard before. */
+static void decode(speex_source* source, const char* bytes, int size) {
+  int status = -1;
+  if (size > 0) {
+    speex_bits_read_from(&source->bits, bytes, size);
+    status = speex_decode_int(source->decoder, &source->bits, source->frame);
+  }
+  if (status != 0) {
+    speex_decode_int(source->decoder, NULL, source->frame);
+  }
+}
+
 /* Decodes frames until one holds a sample that is to be given; returns 0 when there is none. */
 static int fill(speex_source* source) {
   while (source->at == source->held) {
@@ -23,9 +36,7 @@ static int fill(speex_source* source) {
     if (kestrolin_speex_next(&source->reader, &bytes, &size) != KESTROLIN_OK) {
       return 0;
     }
-    speex_bits_read_from(&source->bits, bytes, size);
-    /* A frame that cannot be decoded leaves the samples of the one before. */
-    speex_decode_int(source->decoder, &source->bits, source->frame);
+    decode(source, bytes, size);
     source->held = source->reader.frame_samples;
     source->at = (uint16_t)(source->late < source->held ? source->late : source->held);
     source->late -= source->at;

@@ -14,6 +14,10 @@ extern unsigned char data_end[];
 extern unsigned char bss_start[];
 extern unsigned char bss_end[];
 
+/* The constructors of C++ objects outside functions. */
+extern void (*init_array_start[])(void);
+extern void (*init_array_end[])(void);
+
 int main(void);
 
 void reset_handler(void);
@@ -21,6 +25,10 @@ void reset_handler(void);
 void reset_handler(void) {
   memcpy(data_start, data_source, (size_t)(data_end - data_start));
   memset(bss_start, 0, (size_t)(bss_end - bss_start));
+  for (void (**constructor)(void) = init_array_start; constructor != init_array_end;
+       ++constructor) {
+    (*constructor)();
+  }
   semihosting_exit(main());
 }
 

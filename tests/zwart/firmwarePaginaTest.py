@@ -18,6 +18,7 @@ import sys
 import wave
 from array import array
 from pathlib import Path
+from typing import NamedTuple
 
 WORTEL = Path(__file__).resolve().parents[2]
 sys.path[:0] = [str(WORTEL / "tour"), str(WORTEL / "tests" / "firmware" / "example")]
@@ -26,8 +27,8 @@ sys.path[:0] = [str(WORTEL / "tour"), str(WORTEL / "tests" / "firmware" / "examp
 import exampleTest
 from bediening import Programma
 from teksten import MELDING_PCM
+from toegang import AANGEVINKT
 
-FRAGMENT = WORTEL / "fragmenten" / "ready.wav"
 BESTANDEN = ("sounds.h", "sounds.c", "main.c")
 
 
@@ -49,20 +50,46 @@ def blokken(tekst: str) -> list[tuple[str, str, str]]:
     return gevonden
 
 
-def maak_array(programma: Path, thuis: Path, doel: Path) -> None:
-    """Step 1, in the window, by the names that the page gives its controls."""
+class Stap(NamedTuple):
+    """Step 1, by the names in bold and the file names that it has."""
+
+    fragment: Path
+    encoder: str
+    taal: str
+    dac: str
+    vinkje: str
+    bestand: str
+
+
+def stap_1(tekst: str) -> Stap:
+    alinea = re.search(r"\*\*1\. The array\.\*\*(.*?)\n\n", tekst, re.S)
+    assert alinea, "the page has no step 1"
+    open_, encoder, taal, dac, vinkje, codeer, bewaar = re.findall(r"\*\*([^*]+)\*\*", alinea[1])
+    assert (open_, codeer, bewaar) == ("Open", "Encode", "Save"), alinea[1]
+    fragment, bestand = re.findall(r"`([^`]+)`", alinea[1])
+    return Stap(WORTEL / fragment, encoder, taal, dac, vinkje, bestand)
+
+
+def maak_array(programma: Path, thuis: Path, stap: Stap, map_: Path) -> None:
     geluid = thuis / "geluid"
     geluid.mkdir(parents=True)
-    shutil.copy(FRAGMENT, geluid)
+    shutil.copy(stap.fragment, geluid)
     with Programma(programma, thuis) as p:
         p.open_map(geluid)
-        p.keuzerondje("PCM")
-        p.keuzerondje("C")
-        p.keuze("16 Bit DAC", "12 Bit DAC")
+        p.keuzerondje(stap.encoder)
+        p.keuzerondje(stap.taal)
+        p.keuze("16 Bit DAC", stap.dac)
+        assert p.element("check box", stap.vinkje).is_(AANGEVINKT), f"{stap.vinkje} is off"
         p.codeer(MELDING_PCM)
         p.sluit_melding()
-        p.bewaar(doel)
+        p.bewaar(map_ / stap.bestand)
         p.verlaat()
+
+
+def keur_pakketten(tekst: str) -> None:
+    """What the page has installed is what the tests here run with."""
+    genoemd = re.search(r"apt-get install (.*)", tekst)
+    assert genoemd and genoemd[1].split() == [*exampleTest.PACKAGES.split(), "sox"], "packages"
 
 
 def voer_uit(opdrachten: str, map_: Path) -> str:
@@ -74,18 +101,19 @@ def voer_uit(opdrachten: str, map_: Path) -> str:
     return klaar.stdout
 
 
-def samples_in(wav: Path) -> list[int]:
+def samples_in(wav: Path) -> tuple[list[int], int]:
     with wave.open(str(wav), "rb") as bron:
-        return list(array("h", bron.readframes(bron.getnframes())))
+        return list(array("h", bron.readframes(bron.getnframes()))), bron.getframerate()
 
 
-def keur(map_: Path, getoond: str) -> None:
-    samples = samples_in(FRAGMENT)
+def keur(fragment: Path, map_: Path, getoond: str) -> None:
+    samples, frequentie = samples_in(fragment)
     codes = list(array("H", (map_ / "ready.dac").read_bytes()))
     assert codes == [int(sample / 16) + 2048 for sample in samples], "the DAC got something else"
     getallen = [int(woord) for regel in getoond.splitlines() for woord in regel.split()[1:]]
     assert getallen == codes[400:500], f"od shows {getallen}"
-    gehoord = samples_in(map_ / "heard.wav")
+    gehoord, snelheid = samples_in(map_ / "heard.wav")
+    assert snelheid == frequentie, f"it is heard at {snelheid} Hz"
     assert len(gehoord) == len(samples), f"{len(gehoord)} samples can be heard"
     verschil = max(abs(een - ander) for een, ander in zip(gehoord, samples))
     assert verschil <= 16, f"what is heard is {verschil} off"
@@ -97,17 +125,21 @@ def main() -> None:
     leeg = thuis / "leeg"
     leeg.mkdir()
     doorbell = leeg / "doorbell"
-    opdrachten = [tekst for taal, tekst, _ in blokken(stappen()) if taal == "sh"]
+    tekst = stappen()
+    keur_pakketten(tekst)
+    assert "mid-scale, 2048," in tekst, "the page tells another mid-scale"
+    opdrachten = [blok for taal, blok, _ in blokken(tekst) if taal == "sh"]
     assert len(opdrachten) == 3, f"the page has {len(opdrachten)} blocks of commands"
-    bestanden = {naam: tekst for taal, tekst, naam in blokken(stappen()) if taal == "c"}
+    bestanden = {naam: blok for taal, blok, naam in blokken(tekst) if taal == "c"}
     assert tuple(bestanden) == BESTANDEN, f"the page has the files {list(bestanden)}"
 
     voer_uit(opdrachten[0], leeg)
-    maak_array(programma, thuis / "een", doorbell / "ready.c")
-    for naam, tekst in bestanden.items():
-        (doorbell / naam).write_text(tekst, encoding="utf-8")
+    stap = stap_1(tekst)
+    maak_array(programma, thuis / "een", stap, doorbell)
+    for naam, blok in bestanden.items():
+        (doorbell / naam).write_text(blok, encoding="utf-8")
     voer_uit(opdrachten[1], doorbell)
-    keur(doorbell, voer_uit(opdrachten[2], doorbell))
+    keur(stap.fragment, doorbell, voer_uit(opdrachten[2], doorbell))
 
 
 if __name__ == "__main__":
