@@ -12,12 +12,13 @@ kestrolin_status kestrolin_adpcm_open(kestrolin_adpcm* adpcm, const unsigned cha
   if (adpcm->rate == 0 || array[8] > KESTROLIN_IMA_INDEX_MAX) {
     return KESTROLIN_CORRUPT;
   }
+  const size_t held = size - OVERHEAD;
   const uint32_t bytes = kestrolin_u32(array);
-  if (size - OVERHEAD < bytes) {
-    return KESTROLIN_TRUNCATED;
+  if (held != bytes) {
+    return held < bytes ? KESTROLIN_TRUNCATED : KESTROLIN_CORRUPT;
   }
   adpcm->next = array + OVERHEAD;
-  adpcm->left = (size_t)bytes * 2;
+  adpcm->left = held * 2;
   adpcm->ima.predictor = kestrolin_s16(array + 6);
   adpcm->ima.index = array[8];
   return KESTROLIN_OK;

@@ -38,11 +38,12 @@ typedef struct kestrolin_adpcm {
   uint16_t rate;             /* samples a second */
 } kestrolin_adpcm;
 
-/* Opens an array with header, of `size` bytes. Bytes behind the last code are passed over.
+/* Opens an array with header, of `size` bytes, which has to be its size exactly.
  *
  * KESTROLIN_TRUNCATED: the array is shorter than its header, or than the header's count asks for.
- * KESTROLIN_CORRUPT: a frequency of 0, which the tool writes for a file that it could not read; an
- * index above 88.
+ * KESTROLIN_CORRUPT: it is longer than that; an index above 88; a frequency of 0, which the tool
+ * writes for a file that it could not read.
+ *
  * Whatever is returned, the reader is usable: after an error it has no samples. */
 kestrolin_status kestrolin_adpcm_open(kestrolin_adpcm* adpcm, const unsigned char* array,
                                       size_t size);

@@ -11,9 +11,13 @@ kestrolin_status kestrolin_pcm_open(kestrolin_pcm* pcm, const unsigned char* arr
   if (pcm->rate == 0) {
     return KESTROLIN_CORRUPT;
   }
+  const size_t held = size - OVERHEAD;
   const uint32_t count = kestrolin_u32(array);
-  if ((size - OVERHEAD) / 2 < count) {
+  if (held / 2 < count) {
     return KESTROLIN_TRUNCATED;
+  }
+  if (held != (size_t)count * 2) {
+    return KESTROLIN_CORRUPT;
   }
   pcm->next = array + OVERHEAD;
   pcm->left = (size_t)count;

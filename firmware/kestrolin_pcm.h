@@ -28,10 +28,12 @@ typedef struct kestrolin_pcm {
   uint16_t rate;             /* samples a second */
 } kestrolin_pcm;
 
-/* Opens an array with header, of `size` bytes. Bytes behind the last sample are passed over.
+/* Opens an array with header, of `size` bytes, which has to be its size exactly.
  *
  * KESTROLIN_TRUNCATED: the array is shorter than its header, or than the header's count asks for.
- * KESTROLIN_CORRUPT: a frequency of 0, which the tool writes for a file that it could not read.
+ * KESTROLIN_CORRUPT: it is longer than that; a frequency of 0, which the tool writes for a file
+ * that it could not read.
+ *
  * Whatever is returned, the reader is usable: after an error it has no samples. */
 kestrolin_status kestrolin_pcm_open(kestrolin_pcm* pcm, const unsigned char* array, size_t size);
 

@@ -54,8 +54,9 @@ typedef struct kestrolin_speex {
  *
  * KESTROLIN_TRUNCATED: the array is shorter than its header, or ends within a frame.
  * KESTROLIN_CORRUPT: a frequency that is none of the three; a frame of more than 200 bytes; a
- * number of samples that does not fit the number of frames. Whatever is returned, the reader is
- * usable: after an error it has no frames. */
+ * number of samples that does not fit the number of frames, or has more than 32 bits.
+ *
+ * Whatever is returned, the reader is usable: after an error it has no frames. */
 kestrolin_status kestrolin_speex_open(kestrolin_speex* speex, const signed char* array,
                                       size_t size);
 

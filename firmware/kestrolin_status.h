@@ -5,6 +5,9 @@
  * given, whatever that array holds. An array has to stay in place for as long as a reader stands
  * over it. Two readers may stand over one array.
  *
+ * Where size_t has 16 bits, an array of ADPCM above 32 KiB has more samples than can be counted: it
+ * gives fewer.
+ *
  * On "size": give `sizeof array`. Where the array is only declared, as in a header file, its size
  * has to come from the file that defines it; docs/firmware.md shows how.
  */

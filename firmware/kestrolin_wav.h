@@ -65,6 +65,7 @@ typedef struct kestrolin_wav {
  * block or a sample that is not whole; an index above 88 at the start of a block.
  * KESTROLIN_UNSUPPORTED: neither PCM of 16 bits nor IMA ADPCM of 4; IMA ADPCM of more than two
  * channels. The tool embeds IMA ADPCM and PCM of 16 bits alone.
+ *
  * Whatever is returned, the reader is usable: after an error it has no samples. */
 kestrolin_status kestrolin_wav_open(kestrolin_wav* wav, const unsigned char* array, size_t size);
 

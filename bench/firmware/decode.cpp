@@ -6,10 +6,10 @@
 #include <cstddef>
 #include <memory>
 
-#include "firmware/kestrolin_adpcm.h"
-#include "firmware/kestrolin_pcm.h"
-#include "firmware/kestrolin_speex.h"
-#include "firmware/kestrolin_wav.h"
+#include "kestrolin_adpcm.h"
+#include "kestrolin_pcm.h"
+#include "kestrolin_speex.h"
+#include "kestrolin_wav.h"
 
 namespace {
 

@@ -29,3 +29,12 @@ def fill(tables: dict[str, str]) -> None:
         held(page, name)
         page = _place(name).sub(lambda found, t=table: found[1] + t + "\n" + found[3], page)
     PAGE.write_text(page, encoding="utf-8")
+
+
+def agree(page: str, fresh: str) -> bool:
+    """Whether two texts are the same, but for decimals within two per cent of each other."""
+    decimal = re.compile(r"\d+\.\d+")
+    pairs = zip(decimal.findall(page), decimal.findall(fresh))
+    return decimal.sub("", page) == decimal.sub("", fresh) and all(
+        abs(float(one) - float(other)) <= 0.02 * float(other) for one, other in pairs
+    )

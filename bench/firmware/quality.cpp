@@ -20,7 +20,7 @@
 #include "audio/codec/sndBestand.h"
 #include "bench/firmware/decode.h"
 #include "bench/firmware/encode.h"
-#include "firmware/kestrolin_dac.h"
+#include "kestrolin_dac.h"
 
 namespace {
 

@@ -1,6 +1,7 @@
 """Measures what firmwareQuality decodes, puts the table into docs/firmware.md and draws the picture.
 
     report.py PROGRAM FRAGMENTS PICTURE.svg
+    report.py PROGRAM FRAGMENTS --check       fails where the page has another table
 """
 
 from __future__ import annotations
@@ -16,7 +17,7 @@ from pathlib import Path
 import numpy as np
 
 from measure import fw_snr_seg, snr_seg
-from page import fill
+from page import PAGE, agree, fill, held
 from plot import Case, draw
 
 TITLES = {
@@ -68,8 +69,11 @@ def table(cases: list[Case]) -> str:
 def main() -> None:
     program, fragments, picture = sys.argv[1:]
     cases = measure(program, Path(fragments))
-    fill({"quality": table(cases)})
-    draw(cases, TITLES, picture)
+    if picture != "--check":
+        fill({"quality": table(cases)})
+        draw(cases, TITLES, picture)
+    elif not agree(held(PAGE.read_text(encoding="utf-8"), "quality"), table(cases)):
+        sys.exit(f"{PAGE.name} has another table than this:\n\n{table(cases)}")
 
 
 if __name__ == "__main__":

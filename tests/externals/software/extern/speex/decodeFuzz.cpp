@@ -13,7 +13,7 @@
 #include <string>
 
 #include "externals/software/extern/speex/speexDesktopDecoder.h"
-#include "tests/externals/software/extern/speex/decodeFuzz.h"
+#include "tests/steun/fuzzDoel.h"
 #include "tests/steun/tijdelijkeMap.h"
 #include "tests/steun/wavMaker.h"
 

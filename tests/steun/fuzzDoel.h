@@ -1,4 +1,5 @@
-// The one function that the fuzzing engine calls, and that the replaying of its finds calls.
+// The one function of a fuzz target, which the fuzzing engine calls, and the replaying of what it
+// found.
 #pragma once
 
 #include <cstddef>

@@ -6,8 +6,8 @@
 #include <iterator>
 #include <vector>
 
-#include "tests/externals/software/extern/speex/decodeFuzz.h"
 #include "tests/steun/bytes.h"
+#include "tests/steun/fuzzDoel.h"
 
 namespace {
 
@@ -39,6 +39,6 @@ int main(int aantal, char** woorden) {
     }
     LLVMFuzzerTestOneInput(bytes.data(), bytes.size());
   }
-  std::cout << paden.size() << " texts\n";
+  std::cout << paden.size() << " inputs\n";
   return paden.empty() ? 1 : 0;
 }

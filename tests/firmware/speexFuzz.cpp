@@ -1,0 +1,7 @@
+#include "tests/firmware/fuzzInput.h"
+#include "tests/steun/fuzzDoel.h"
+
+int LLVMFuzzerTestOneInput(std::uint8_t const* bytes, std::size_t aantal) {
+  demand(speexRules, bytes, aantal);
+  return 0;
+}
