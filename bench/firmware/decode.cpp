@@ -43,7 +43,7 @@ class Decoder {
 
   Samples const& decode(char const* frame, int size) {
     speex_bits_read_from(&bits, frame, size);
-    speex_decode_int(state.get(), &bits, block.data());
+    speex_decode_int(state.get(), size > 0 ? &bits : nullptr, block.data());
     return block;
   }
 

@@ -24,6 +24,13 @@ static volatile int interrupts;
 static volatile uint32_t first;
 static volatile uint32_t last;
 
+/* What C++ makes of an object outside functions. */
+static volatile int constructed;
+static void construct(void) __attribute__((constructor));
+static void construct(void) {
+  ++constructed;
+}
+
 /* Memory is all zeros when the emulator starts, so variables are looked at after a second start. */
 static int variables_are_set_up(void) {
   if (*timer_reload != UINT32_MAX) {
@@ -32,7 +39,7 @@ static int variables_are_set_up(void) {
     cleared = 1;
     reset_handler();
   }
-  return initialised == 1234 && cleared == 0;
+  return initialised == 1234 && cleared == 0 && constructed == 1;
 }
 
 static void count_interrupt(void) {

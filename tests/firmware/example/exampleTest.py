@@ -11,6 +11,7 @@ from __future__ import annotations
 import audioop
 import math
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -225,6 +226,20 @@ def broken(example: Example) -> None:
     assert lines[1:] == [f"{name}: played" for name in PLAIN[1:]], lines
 
 
+def empty_frame(example: Example) -> None:
+    """A frame of no bytes is made up by the library, not the frame before once more."""
+    text = example.texts / "speex8.c"
+    frame = re.compile(r"\t0x[0-9a-f]+,  /\* Encoded Frame \[10\] Size \*/\n\t[-0-9,\n\t]*\n(?=\t0x)")
+    emptied, count = frame.subn("\t0x0,  /* Encoded Frame [10] Size */\n\t\n",
+                                text.read_text(encoding="utf-8"))
+    assert count == 2, f"{count} frames were emptied"
+    whole = speex_expected(example)
+    text.write_text(emptied, encoding="utf-8")
+    wanted = speex_expected(example)
+    assert wanted["ready_speex"] != whole["ready_speex"], "the frame made no difference"
+    check(example.play("host", "BOARD=host", "SPEEX=installed"), {**expected(example), **wanted})
+
+
 def library(example: Example) -> None:
     """The folder of the readers is a library for a project with CMake."""
     (example.work / "CMakeLists.txt").write_text(
@@ -256,6 +271,7 @@ CASES: dict[str, Callable[[Example], None]] = {
     "speexOnTarget": speex_on_target,
     "board": board,
     "broken": broken,
+    "emptyFrame": empty_frame,
     "library": library,
     "figures": figures,
 }

@@ -12,8 +12,11 @@ namespace {
 
 char const* const gccSanitizers = KESTROLIN_SANITIZERS;
 std::string const warnings = " -Wall -Wextra -Werror";
-std::string const readersFlags = " -std=c99 -Wpedantic -I" KESTROLIN_FIRMWARE " -I" KESTROLIN_TEXTS;
-std::string const readers = " " KESTROLIN_FIRMWARE "/kestrolin_*.c " KESTROLIN_TEXTS "/runner.c ";
+// Quoted for the shell, since the tree may lie anywhere.
+std::string const firmware = "'" KESTROLIN_FIRMWARE "'";
+std::string const texts = "'" KESTROLIN_TEXTS "'";
+std::string const readersFlags = " -std=c99 -Wpedantic -I" + firmware + " -I" + texts;
+std::string const readers = " " + firmware + "/kestrolin_*.c " + texts + "/runner.c ";
 
 bool isThere(std::string const& program) {
   return voerUit("command -v " + program + " > /dev/null 2>&1") == 0;
@@ -37,7 +40,7 @@ Toolchain hostToolchain(HostCompilers compilers, bool decodes) {
   host.packages = {isGcc ? "g++" : "clang"};
   host.c = host.programs.front() + sanitizers + warnings;
   host.cpp = host.programs.back() + sanitizers + warnings;
-  host.support = KESTROLIN_TEXTS "/host_main.c";
+  host.support = texts + "/host_main.c";
   host.support += decodes ? " -DRUNNER_DECODES_SPEEX" : "";
   host.link = host.programs.front() + sanitizers;
   host.libraries = decodes ? " -lspeex" : "";
@@ -46,7 +49,7 @@ Toolchain hostToolchain(HostCompilers compilers, bool decodes) {
 }
 
 Toolchain targetToolchain() {
-  std::string const example = KESTROLIN_FIRMWARE "/example";
+  std::string const example = firmware + "/example";
   std::string const machine = " -mcpu=cortex-m4 -mthumb";
   std::string const flags = machine + " -Os -ffreestanding" + warnings;
   Toolchain target;
@@ -56,12 +59,10 @@ Toolchain targetToolchain() {
   target.c = "arm-none-eabi-gcc" + flags;
   target.cpp = "arm-none-eabi-g++ -fno-exceptions -fno-rtti" + flags;
   target.support = "-I" + example + " " + example + "/startup.c " + example + "/semihosting.c " +
-                   KESTROLIN_TEXTS "/target_main.c";
+                   texts + "/target_main.c";
   // With the compiler of C: the text needs nothing of the library of C++.
   target.link = "arm-none-eabi-gcc" + machine + " -nostartfiles -T " + example + "/mps2-an386.ld";
-  target.run =
-      "timeout 60 qemu-system-arm -M mps2-an386 -display none -monitor none -serial none"
-      " -semihosting-config enable=on,target=native -kernel program";
+  target.run = example + "/emulate program";
   return target;
 }
 
@@ -98,7 +99,7 @@ Bytes ProgramMaker::streamOf(Program const& program) {
   maakBestand(place + "/" + source, sourceOf(program));
   std::filesystem::remove(place + "/stream.bin");
   std::string const compile = (inC ? toolchain.c + " -std=c99" : toolchain.cpp + " -std=c++11") +
-                              " -I" KESTROLIN_TEXTS " -c " + source;
+                              " -I" + texts + " -c " + source;
   std::string const link =
       toolchain.link + " program.o readers/*.o -o program" + toolchain.libraries;
   testing::AssertionResult const ran =
