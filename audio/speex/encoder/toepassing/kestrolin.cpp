@@ -6,6 +6,7 @@
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "externals/desktop/configGetal.h"
 #include "externals/desktop/geluidSpeler.h"
+#include "externals/desktop/pictogram.h"
 
 namespace {
 
@@ -68,6 +69,7 @@ bool Kestrolin::OnInit() {
                              wxDefaultPosition, wxDefaultSize, wxDEFAULT_FRAME_STYLE);
   SetTopWindow(venster);
   zetHoofdVenster(venster);
+  venster->SetIcons(leesPictogrammen(GetAppName().Lower()));
   venster->Show(true);
   return true;
 }
