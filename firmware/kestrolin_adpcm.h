@@ -6,10 +6,17 @@
  *       | unsigned              | in Hz     | signed    |     | 0, 1| 2, 3|
  *       +-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+--
  *
- * All numbers have their low byte first. Of the two codes in a byte the earlier sample has bits 0
- * to 3. The comment before the array tells another layout, that of PCM arrays; this one is right.
- * An array that was made without header has its first code byte in byte 0, and ends in nine zeros
- * that belong to no sample.
+ *   a byte of code:     bit 7       4 3       0
+ *                          +---------+---------+
+ *                          | sample  | sample  |
+ *                          | 2n + 1  | 2n      |
+ *                          +---------+---------+
+ *
+ * docs/manual.md defines this layout ("The arrays, byte by byte").
+ *
+ * All numbers have their low byte first. The comment before the array tells another layout, that of
+ * PCM arrays; this one is right. An array that was made without header has its first code byte in
+ * byte 0, and ends in nine zeros that belong to no sample.
  *
  * Predictor and index are what the decoder starts from. Every array says 0 and 0, which is true of
  * the first fragment that the tool encoded after its start: its encoder runs on from one fragment

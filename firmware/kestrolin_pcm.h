@@ -6,6 +6,8 @@
  *       | unsigned              | in Hz     | signed    | signed    |
  *       +-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+--
  *
+ * docs/manual.md defines this layout ("The arrays, byte by byte").
+ *
  * All numbers have their low byte first. An array that was made without header has sample 0 in
  * bytes 0 and 1, and ends in six zeros that belong to no sample.
  *

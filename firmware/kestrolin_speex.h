@@ -6,6 +6,8 @@
  *       | in Hz     | samples   |      | frame 0        |      | frame 1        |
  *       +-----+-----+-----+-----+------+------+-- ... --+------+------+-- ... --+--
  *
+ * docs/manual.md defines this layout ("The arrays, byte by byte").
+ *
  * Both numbers are unsigned and have their low byte first. The second one is the low 16 bits of the
  * number of samples; the comment in the array calls it a number of frames, which it is not. The
  * size bytes n0, n1 and so on are unsigned, 0 to 200. Nothing marks the end of the array: its size

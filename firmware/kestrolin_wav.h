@@ -5,6 +5,8 @@
  *       | "RIFF"  | size    | "WAVE"  | "fmt ", size   | format    | chunks    |
  *       +---------+---------+---------+-------- ... ---+---- ... --+---- ... --+--
  *
+ * docs/manual.md defines this layout ("The arrays, byte by byte").
+ *
  * A chunk is four letters, a size of four bytes, so many bytes of content, and a byte more where
  * that is odd. "fmt " holds, from its byte 0 on
  *

@@ -15,6 +15,7 @@ import time
 from pathlib import Path
 from typing import Optional
 
+import vensters
 from schermwerk import NietGebeurd, opdracht, toets, typ, wacht
 from teksten import BEKENDE_REGELS, BEWAAR_TITEL, OPEN_TITEL, TAAL_TITEL, TITEL
 from toegang import AANGEVINKT, ACTIEF, BRUIKBAAR, GEKOZEN, Element, Toegang
@@ -80,17 +81,7 @@ class Programma:
 
     def venstertitels(self) -> list[str]:
         """Titles of this program's windows, as the window manager lists them."""
-        lijst = opdracht("xprop", "-root", "_NET_CLIENT_LIST").decode()
-        titels = []
-        for nummer in re.findall(r"0x[0-9a-f]+", lijst):
-            gegevens = subprocess.run(
-                ["xprop", "-id", nummer, "_NET_WM_PID", "_NET_WM_NAME"],
-                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False,
-            ).stdout
-            if re.search(rf"_NET_WM_PID.* = {self.proces.pid}\b", gegevens):
-                naam = re.search(r'_NET_WM_NAME.* = "(.*)"', gegevens)
-                titels.append(naam.group(1) if naam else "")
-        return titels
+        return vensters.titels(self.proces.pid)
 
     def venster(self, naam: str) -> Optional[Element]:
         """The top-level window that the bus knows by this name."""
@@ -106,6 +97,12 @@ class Programma:
             return venster if venster and venster.is_(ACTIEF) else None
 
         return wacht(klaar, f'a window named "{naam}"')
+
+    def wacht_op_hoofdvenster(self) -> None:
+        """Waits until the main window alone is on the screen, and has the keyboard."""
+        # A box leaves the bus before it leaves the screen.
+        wacht(lambda: self.venstertitels() == [TITEL], "no other window than the main one")
+        self.wacht_op_venster()
 
     def wacht_op_vertrek(self, naam: str) -> None:
         wacht(lambda: self.venster(naam) is None, f'the window "{naam}" closes')
@@ -135,11 +132,12 @@ class Programma:
     def naar_voren(self) -> None:
         """Gives the keyboard to the main window; the window manager need not do so for a second
         program."""
-        wacht(lambda: TITEL in self.venstertitels(), "the main window")
-        opdracht(
-            "xdotool", "search", "--all", "--onlyvisible", "--pid", str(self.proces.pid),
-            "--name", TITEL, "windowactivate",
-        )
+        vensters.naar_voren(self.proces.pid, TITEL)
+
+    def geef_maat(self, titel: str, maat: tuple[int, int]) -> None:
+        """Makes the window of this title so large, in the middle of the screen."""
+        self.wacht_op_venster(titel)
+        vensters.geef_maat(self.proces.pid, titel, maat)
 
     def klik(self, element: Element) -> None:
         self._klik_op(wacht(lambda: _rustplaats(element), "a control that stays in its place"))
@@ -238,10 +236,11 @@ class Programma:
         self.wacht_op_vertrek(self.vertaal(titel))
 
     def wacht_op_box(self, tekst: str) -> Element:
-        """A window beside the main one that shows this text, whatever the desktop calls it."""
+        """A window beside the main one that shows this text, whatever the desktop calls it, and has
+        the keyboard."""
 
         def box() -> Optional[Element]:
-            andere = [v for v in self._toegang.vensters() if v.naam() != TITEL]
+            andere = [v for v in self._toegang.vensters() if v.naam() != TITEL and v.is_(ACTIEF)]
             return next((v for v in andere if any(tekst in e.naam() for e in v.zoek("label"))), None)
 
         return wacht(box, f'a box that says "{tekst}"')
@@ -249,7 +248,6 @@ class Programma:
     def sluit_box(self, tekst: str) -> None:
         """Closes a box by the button that it opens with."""
         box = self.wacht_op_box(tekst)
-        wacht(lambda: box.is_(ACTIEF), f'the box with "{tekst}" has the keyboard')
         toets("Return")
         wacht(lambda: box.pad not in [v.pad for v in self._toegang.vensters()], "the box closes")
 
@@ -282,7 +280,9 @@ class Programma:
     def kies_taal(self, naam: str) -> None:
         """Chooses a language in the dialog, and leaves that open."""
         self.menu("alt+f", "Language")
-        self.klik(self.element("table cell", naam, venster=self.vertaal(TAAL_TITEL)))
+        rij = self.element("table cell", naam, venster=self.vertaal(TAAL_TITEL))
+        self.klik(rij)
+        wacht(lambda: rij.is_(GEKOZEN), f'"{naam}" is chosen')
 
     def bevestig_taal(self) -> int:
         """Accepts the language and the end of the program, and gives its exit status."""

@@ -45,10 +45,11 @@ def typ(tekst: str) -> None:
 
 def schermafdruk(pad: Path) -> None:
     """Writes what is on the screen to a PNG file, as soon as it stands still."""
-    beeld = b""
-    for _ in range(10):
+    beeld, gelijk = b"", 0
+    for _ in range(20):
         vorige, beeld = beeld, opdracht("import", "-window", "root", "-depth", "8", "ppm:-")
-        if beeld == vorige:
+        gelijk = gelijk + 1 if beeld == vorige else 0
+        if gelijk == 3:
             break
         time.sleep(0.1)
     opdracht("convert", "ppm:-", "-trim", "+repage", str(pad), invoer=beeld)

@@ -6,6 +6,7 @@ takes a screenshot of every step, and checks what came out. Started by `tour/tou
 
 from __future__ import annotations
 
+import calendar
 import os
 import shutil
 import subprocess
@@ -16,13 +17,21 @@ from typing import Callable
 import nakijken
 from bediening import Programma
 from schermwerk import NietGebeurd, schermafdruk, toets, wacht
-from teksten import INBED_TITEL, MELDING_ADPCM, MELDING_PCM, MELDING_SPEEX, OPEN_TITEL
+from teksten import (
+    BEWAAR_TITEL, INBED_TITEL, MELDING_ADPCM, MELDING_PCM, MELDING_SPEEX, OPEN_TITEL, TITEL,
+)
 from toegang import Fout
 
 FRAGMENTEN = Path(__file__).resolve().parent.parent / "fragmenten"
 BESTANDEN = ("ready.wav", "warning.wav")
 KLASSE = "Sounds"
 SOORTEN = ("Speex", "Adpcm", "Pcm")
+# When the fragments are from, as the open dialog shows it; noon, for the day to be that everywhere.
+DATUM = calendar.timegm((2024, 1, 2, 12, 0, 0))
+# Wide enough for what the tree says of a file, and no higher than the window is, for the text field to
+# end above the date. The file dialogs leave what is behind them in sight.
+VENSTERMAAT = (940, 645)
+DIALOOGMAAT = (760, 480)
 
 
 def geluid_naar(bestand: Path) -> dict[str, str]:
@@ -46,7 +55,7 @@ class Tour:
         self._firmware.mkdir()
         self._fragmenten.mkdir()
         for naam in BESTANDEN:
-            shutil.copy(FRAGMENTEN / naam, self._fragmenten)
+            os.utime(shutil.copy(FRAGMENTEN / naam, self._fragmenten), (DATUM, DATUM))
         self._foto_nummer = 0
         self._p = Programma(programma, thuis, variabelen=geluid_naar(self._gehoord))
 
@@ -78,21 +87,28 @@ class Tour:
         self._foto_nummer += 1
         schermafdruk(self._resultaten / f"{self._foto_nummer}-{naam}.png")
 
+    def _foto_hoofdvenster(self, naam: str) -> None:
+        self._p.wacht_op_hoofdvenster()
+        self.foto(naam)
+
     def _start(self) -> None:
         self._p.element("push button", "Open")
         self.foto("start")
+        self._p.geef_maat(TITEL, VENSTERMAAT)
 
     def _kies(self) -> None:
         self._p.knop("Open")
+        self._p.geef_maat(OPEN_TITEL, DIALOOGMAAT)
         self._p.kies_map(self._fragmenten)
         self.foto("choose")
 
     def _laad(self) -> None:
         self._p.bevestig(OPEN_TITEL)
         # The tree stands closed after a load; its first file opens too.
+        self._p.wacht_op_hoofdvenster()
         self._p.klik(self._p.element("scroll pane"))
         toets("Home", "Right", "Down", "Right")
-        self.foto("loaded")
+        self._foto_hoofdvenster("loaded")
 
     def _speel_bronnen(self) -> None:
         self._p.knop("Play WAV Files")
@@ -109,7 +125,7 @@ class Tour:
 
     def _stel_in(self) -> None:
         self._p.klassenaam(KLASSE)
-        self.foto("settings")
+        self._foto_hoofdvenster("settings")
 
     def _codeer_speex(self) -> None:
         self._p.codeer(MELDING_SPEEX)
@@ -127,6 +143,7 @@ class Tour:
     def _bewaar_speex(self) -> None:
         doel = self._firmware / f"{KLASSE}Speex.cpp"
         self._p.knop("Save")
+        self._p.geef_maat(BEWAAR_TITEL, DIALOOGMAAT)
         self._p.kies_doel(doel)
         self.foto("save")
         self._p.bevestig_doel(doel)
@@ -147,7 +164,7 @@ class Tour:
         self._p.codeer(MELDING_PCM)
         self._p.sluit_melding()
         self._p.bewaar(doel)
-        self.foto("c")
+        self._foto_hoofdvenster("c")
         self._neem_over(doel)
         nakijken.compileer_c(doel)
         nakijken.keur_arrays(doel, self._bronnen())
@@ -157,8 +174,7 @@ class Tour:
         self._p.knop("Save As")
         self._p.kies_doel(doel, INBED_TITEL)
         self._p.bevestig_doel(doel, INBED_TITEL)
-        self._p.wacht_op_venster()
-        self.foto("embed")
+        self._foto_hoofdvenster("embed")
         self._neem_over(doel)
         nakijken.compileer_c(doel)
         nakijken.keur_beelden(doel, self._bronnen())
@@ -178,6 +194,7 @@ class Tour:
     def _codeer_in_het_nederlands(self) -> None:
         doel = self._firmware / "soundsNl.c"
         self._p = Programma(self._programma, self._thuis, "nl")
+        self._p.geef_maat(TITEL, VENSTERMAAT)
         self._p.open_map(self._fragmenten)
         self._p.codeer(MELDING_PCM)
         self.foto("dutch")
@@ -208,7 +225,7 @@ class Tour:
         self._p.keuzerondje(encoder)
         self._p.codeer(melding)
         self._p.sluit_melding()
-        self.foto(foto)
+        self._foto_hoofdvenster(foto)
         self._p.bewaar(doel)
         self._compileer_klasse(doel)
         return doel
@@ -227,7 +244,7 @@ def maak_leeg(resultaten: Path) -> None:
     """Makes the folder and takes an earlier tour's results out of it, but nothing else."""
     resultaten.mkdir(parents=True, exist_ok=True)
     bronnen = (f"{KLASSE}{soort}.{uitgang}" for soort in SOORTEN for uitgang in ("cpp", "h"))
-    for patroon in ("[0-9]*-*.png", "sounds*.c", *bronnen):
+    for patroon in ("[0-9]*-*.png", "differs-*.png", "sounds*.c", *bronnen):
         for oud in resultaten.glob(patroon):
             oud.unlink()
 

@@ -6,8 +6,8 @@
 //
 //   byte  0     1     2     3     4     5     6     7     8     9     10   ...
 //       +-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+--
-//       |number of bytes of code| frequency | predictor |index|code |code |
-//       |    unsigned 32-bit    | 16-bit Hz | signed 16 |     | 0,1 | 2,3 |
+//       | number of code bytes  | frequency | predictor |index| code| code|
+//       | unsigned              | in Hz     | signed    |     | 0, 1| 2, 3|
 //       +-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+--
 //
 //   a byte of code:     bit 7       4 3       0
@@ -15,6 +15,8 @@
 //                          | sample  | sample  |
 //                          | 2n + 1  | 2n      |
 //                          +---------+---------+
+//
+// docs/manual.md defines this layout ("The arrays, byte by byte").
 //
 // Without header the codes start at byte 0.
 #pragma once

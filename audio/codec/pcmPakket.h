@@ -5,9 +5,11 @@
 //
 //   byte  0     1     2     3     4     5     6     7     8     9    ...
 //       +-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+--
-//       |   number of samples   | frequency | sample 0  | sample 1  |
-//       |    unsigned 32-bit    | 16-bit Hz | signed 16 | signed 16 |
+//       | number of samples     | frequency | sample 0  | sample 1  |
+//       | unsigned              | in Hz     | signed    | signed    |
 //       +-----+-----+-----+-----+-----+-----+-----+-----+-----+-----+--
+//
+// docs/manual.md defines this layout ("The arrays, byte by byte").
 //
 // Without header the samples start at byte 0.
 #pragma once

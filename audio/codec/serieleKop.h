@@ -5,6 +5,8 @@
 //       |         count         | frequency |
 //       |    unsigned 32-bit    | 16-bit Hz |
 //       +-----+-----+-----+-----+-----+-----+
+//
+// docs/manual.md defines the whole layouts ("The arrays, byte by byte").
 #pragma once
 
 #include "numeriek/breuk.h"
