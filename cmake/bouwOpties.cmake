@@ -43,10 +43,26 @@ if(KESTROLIN_FUZZ)
   target_link_options(bouwOpties INTERFACE -fsanitize=address,undefined)
 endif()
 
+# What users run opens files of anybody's making: the guards of the compiler and the linker stand by.
+include(CheckPIESupported)
+check_pie_supported()
+
+# bewaak(doel): for what an installation holds. Not for tests, which are not optimised: the guard of
+# buffers does nothing there and says so.
+function(bewaak doel)
+  set_target_properties(${doel} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  if(NOT KESTROLIN_SANITIZE)
+    target_compile_options(${doel} PRIVATE
+                           "$<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
+    target_link_options(${doel} PRIVATE "$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
+  endif()
+endfunction()
+
 # voeg_kamer_toe(naam bron...): one folder's static library, built with the shared options.
 function(voeg_kamer_toe naam)
   add_library(${naam} STATIC ${ARGN})
   target_link_libraries(${naam} PUBLIC bouwOpties)
+  bewaak(${naam})
   if(KESTROLIN_SANITIZE)
     # Optimised a little, so that the tests keep within CI's time.
     target_compile_options(${naam} PRIVATE -O1)

@@ -10,7 +10,7 @@ from functools import cached_property
 from pathlib import Path
 
 TALEN = ("nl", "de", "fr", "it", "es")
-DOMEINEN = ("Velmoradesktop", "Kestrolin")
+DOMEINEN = ("Velmoradesktop", "Kestrolin", "Pakket")
 SJABLOON = Path(__file__).resolve().parents[2] / "vertalingen" / "sjabloon"
 
 

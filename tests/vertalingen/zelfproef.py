@@ -184,6 +184,11 @@ def _kopie(c: Catalogi, wortel: Path) -> Catalogi:
         doel = wortel / "bron" / bron
         doel.parent.mkdir(parents=True, exist_ok=True)
         shutil.copy(c.bron / bron, doel)
+    # Texts that stand in no code.
+    for teksten in (*c.bron.glob("packaging/*.desktop"), *c.bron.glob("packaging/*.metainfo.xml")):
+        doel = wortel / "bron" / "packaging" / teksten.name
+        doel.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy(teksten, doel)
     return Catalogi(folder, wortel / "bron", c.versie)
 
 

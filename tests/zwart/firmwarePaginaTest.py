@@ -13,9 +13,7 @@ from __future__ import annotations
 import os
 import re
 import shutil
-import subprocess
 import sys
-import wave
 from array import array
 from pathlib import Path
 from typing import NamedTuple
@@ -26,28 +24,11 @@ sys.path[:0] = [str(WORTEL / "tour"), str(WORTEL / "tests" / "firmware" / "examp
 # pylint: disable=wrong-import-position
 import exampleTest
 from bediening import Programma
+from pagina import blokken, samples_in, stappen, voer_uit
 from teksten import MELDING_PCM
 from toegang import AANGEVINKT
 
 BESTANDEN = ("sounds.h", "sounds.c", "main.c")
-
-
-def stappen() -> str:
-    """The page from the empty folder to the sound, without what follows."""
-    pagina = (WORTEL / "docs" / "firmware.md").read_text(encoding="utf-8")
-    begin = pagina.index("## Ten minutes, from an empty folder\n")
-    return pagina[begin:pagina.index("\n## ", begin + 1)]
-
-
-def blokken(tekst: str) -> list[tuple[str, str, str]]:
-    """The code of the page in its order: the language, the text, and the last name in backquotes
-    before it."""
-    gevonden = []
-    for blok in re.finditer(r"^```(\w+)\n(.*?)^```$", tekst, re.M | re.S):
-        namen = re.findall(r"`([^`\n]+)`", re.sub(r"^```.*?^```$", "", tekst[:blok.start()],
-                                                  flags=re.M | re.S))
-        gevonden.append((blok[1], blok[2], namen[-1] if namen else ""))
-    return gevonden
 
 
 class Stap(NamedTuple):
@@ -92,20 +73,6 @@ def keur_pakketten(tekst: str) -> None:
     assert genoemd and genoemd[1].split() == [*exampleTest.PACKAGES.split(), "sox"], "packages"
 
 
-def voer_uit(opdrachten: str, map_: Path) -> str:
-    klaar = subprocess.run(
-        ["sh", "-euc", opdrachten], cwd=map_, env=dict(os.environ, KESTROLIN=str(WORTEL)),
-        check=False, text=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT,
-    )
-    assert klaar.returncode == 0, f"{opdrachten}{klaar.stdout}"
-    return klaar.stdout
-
-
-def samples_in(wav: Path) -> tuple[list[int], int]:
-    with wave.open(str(wav), "rb") as bron:
-        return list(array("h", bron.readframes(bron.getnframes()))), bron.getframerate()
-
-
 def keur(fragment: Path, map_: Path, getoond: str) -> None:
     samples, frequentie = samples_in(fragment)
     codes = list(array("H", (map_ / "ready.dac").read_bytes()))
@@ -125,7 +92,7 @@ def main() -> None:
     leeg = thuis / "leeg"
     leeg.mkdir()
     doorbell = leeg / "doorbell"
-    tekst = stappen()
+    tekst = stappen("firmware.md", "Ten minutes, from an empty folder")
     keur_pakketten(tekst)
     assert "mid-scale, 2048," in tekst, "the page tells another mid-scale"
     opdrachten = [blok for taal, blok, _ in blokken(tekst) if taal == "sh"]
@@ -133,7 +100,7 @@ def main() -> None:
     bestanden = {naam: blok for taal, blok, naam in blokken(tekst) if taal == "c"}
     assert tuple(bestanden) == BESTANDEN, f"the page has the files {list(bestanden)}"
 
-    voer_uit(opdrachten[0], leeg)
+    voer_uit(opdrachten[0], leeg, KESTROLIN=str(WORTEL))
     stap = stap_1(tekst)
     maak_array(programma, thuis / "een", stap, doorbell)
     for naam, blok in bestanden.items():

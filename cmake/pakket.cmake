@@ -1,0 +1,37 @@
+# The Debian package: cmake --build BUILD --target package. It holds what `cmake --install` installs,
+# with what Debian asks for put in place by pakketInhoud.cmake.
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME kestrolin)
+set(CPACK_PACKAGE_VENDOR "The Kestrolin team")
+set(CPACK_PACKAGE_CONTACT "The Kestrolin team <team@kestrolin.example>")
+set(CPACK_PACKAGE_HOMEPAGE_URL "https://kestrolin.example")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "turn WAV fragments into source arrays for firmware")
+set(CPACK_PACKAGE_DESCRIPTION
+    "Kestrolin takes short WAV fragments and turns them into C or C++ source text
+that a microcontroller program compiles in and plays through a DAC: compressed
+with Speex, compressed with 4-bit ADPCM, as plain PCM, or as a whole WAV file,
+scaled to the width of the DAC.
+.
+The package brings the readers of these arrays in portable C, ready to be
+copied into a project, and a manual that tells every byte of the formats.")
+set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/pakketInhoud.cmake")
+set(CPACK_KESTROLIN_DEBIAN "${PROJECT_SOURCE_DIR}/packaging/debian")
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_PACKAGE_SECTION devel)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+# A language of the program needs its locale; the toolkit's own texts come from wx3.2-i18n. Both can be
+# left out by who is content with English.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "locales-all, wx3.2-i18n")
+# What the first hour with a result asks for.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS
+    "gcc-arm-none-eabi, libnewlib-arm-none-eabi, qemu-system-arm, sox")
+
+include(CPack)

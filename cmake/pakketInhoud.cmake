@@ -1,0 +1,24 @@
+# Run by CPack over what was installed for the package, before it is packed: the program without what
+# only a debugger reads, and the documents in the place and the form that Debian has for them.
+execute_process(
+  COMMAND strip --remove-section=.comment --remove-section=.note
+          "${CPACK_TEMPORARY_DIRECTORY}/usr/bin/Kestrolin" COMMAND_ERROR_IS_FATAL ANY)
+
+set(_doc "${CPACK_TEMPORARY_DIRECTORY}/usr/share/doc/kestrolin")
+
+# pak_in(bestand): BESTAND.gz in its place, the same for the same content.
+function(pak_in bestand)
+  execute_process(COMMAND gzip -9n "${bestand}" COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+file(RENAME "${_doc}/CHANGELOG.md" "${_doc}/changelog")
+pak_in("${_doc}/changelog")
+file(COPY_FILE "${CPACK_KESTROLIN_DEBIAN}/changelog" "${_doc}/changelog.Debian")
+pak_in("${_doc}/changelog.Debian")
+# It stands in there.
+file(REMOVE "${_doc}/LICENSE")
+file(COPY_FILE "${CPACK_KESTROLIN_DEBIAN}/copyright" "${_doc}/copyright")
+
+set(_afwijkingen "${CPACK_TEMPORARY_DIRECTORY}/usr/share/lintian/overrides")
+file(MAKE_DIRECTORY "${_afwijkingen}")
+file(COPY_FILE "${CPACK_KESTROLIN_DEBIAN}/lintian-overrides" "${_afwijkingen}/kestrolin")

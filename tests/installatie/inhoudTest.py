@@ -1,0 +1,163 @@
+"""Test of what an installation holds beside the program and its catalogs.
+
+    inhoudTest.py CMAKE BUILD
+"""
+
+from __future__ import annotations
+
+import configparser
+import struct
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+from xml.etree import ElementTree
+
+ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tests" / "vertalingen"))
+
+# pylint: disable=wrong-import-position
+from catalogi import TALEN
+
+METAINFO = "share/metainfo/example.kestrolin.kestrolin.metainfo.xml"
+MENU = "share/applications/Kestrolin.desktop"
+MAN = "share/man/man1/Kestrolin.1.gz"
+MATEN = (16, 22, 24, 32, 48, 64, 96, 128, 256, 512)
+# No domain ends in this one, which is set apart for names that are nobody's: it cannot be known.
+BEKEND = "cid-maybe-not-rdns"
+# What makes the example from the source tree is of no use without it, and the page about the source
+# is none for users.
+NIET_VOOR_GEBRUIKERS = {"firmware/example/run", "docs/architecture.md"}
+
+
+def gelijk(gevonden: object, verwacht: object, wat: str) -> None:
+    assert gevonden == verwacht, f"{wat}: {gevonden!r} instead of {verwacht!r}"
+
+
+def zeg(*woorden: str | Path) -> str:
+    """What a command says; it has to succeed."""
+    uitkomst = subprocess.run(
+        [str(w) for w in woorden], capture_output=True, text=True, check=False,
+        env={"PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8"},
+    )
+    alles = (uitkomst.stdout + uitkomst.stderr).strip()
+    assert uitkomst.returncode == 0, f"{woorden}: {alles}"
+    return alles
+
+
+def bestanden(map_: Path) -> set[str]:
+    return {str(p.relative_to(map_)) for p in map_.rglob("*") if p.is_symlink() or not p.is_dir()}
+
+
+def van_boom(naam: str) -> set[str]:
+    """The files of a folder of the source tree, as version control has them or will."""
+    uitvoer = zeg("git", "-C", ROOT, "-c", f"safe.directory={ROOT}", "ls-files", "--cached",
+                  "--others", "--exclude-standard", naam)
+    return {pad for pad in uitvoer.splitlines() if (ROOT / pad).exists()}
+
+
+def keur_namen(prefix: Path) -> None:
+    """Everything lies in its place, and nothing else does."""
+    verwacht = {"bin/Kestrolin", MENU, METAINFO, MAN, "share/icons/hicolor/scalable/apps/kestrolin.svg"}
+    verwacht |= {f"share/icons/hicolor/{m}x{m}/apps/kestrolin.png" for m in MATEN}
+    verwacht |= {f"share/locale/{t}/LC_MESSAGES/{d}.mo"
+                 for t in TALEN for d in ("Kestrolin", "Velmoradesktop")}
+    verwacht |= {f"share/doc/kestrolin/{naam}" for naam in ("CHANGELOG.md", "LICENSE", "manual")}
+    van_ons = van_boom("firmware") | van_boom("docs")
+    van_ons |= {pad for pad in van_boom("fragmenten") if pad.endswith(".wav")}
+    verwacht |= {f"share/kestrolin/{pad}" for pad in van_ons - NIET_VOOR_GEBRUIKERS}
+    gelijk(verwacht - bestanden(prefix), set(), "what is not installed")
+    gelijk(bestanden(prefix) - verwacht, set(), "what is installed too")
+    for pad in van_ons - NIET_VOOR_GEBRUIKERS:
+        gelijk((prefix / "share/kestrolin" / pad).read_bytes(), (ROOT / pad).read_bytes(), pad)
+    handleiding = prefix / "share/doc/kestrolin/manual/manual.md"
+    gelijk(handleiding.read_bytes(), (ROOT / "docs/manual.md").read_bytes(), "the manual by its link")
+
+
+def keur_menu(prefix: Path) -> None:
+    """The menu entry is sound, and speaks every language."""
+    gelijk(zeg("desktop-file-validate", prefix / MENU), "", "desktop-file-validate")
+    ontleed = configparser.RawConfigParser(strict=True)
+    ontleed.optionxform = str  # type: ignore[assignment]
+    ontleed.read(prefix / MENU, encoding="utf-8")
+    ingang = dict(ontleed["Desktop Entry"])
+    gelijk(ingang["Exec"], "Kestrolin", "the command")
+    gelijk(ingang["Icon"], "kestrolin", "the icon")
+    for sleutel in ("GenericName", "Comment", "Keywords"):
+        teksten = [ingang[f"{sleutel}[{taal}]"] for taal in TALEN] + [ingang[sleutel]]
+        gelijk(len(set(teksten)), len(TALEN) + 1, f"different texts of {sleutel}")
+        gelijk([t.endswith(";") for t in teksten], [sleutel == "Keywords"] * 6, sleutel)
+
+
+def keur_metainfo(prefix: Path) -> None:
+    uitspraak = zeg("appstreamcli", "validate", "--no-net", "--pedantic", prefix / METAINFO)
+    gelijk([r for r in uitspraak.splitlines() if r[:2] in ("E:", "W:", "I:", "P:")
+            and BEKEND not in r], [], "appstreamcli validate")
+    component = ElementTree.parse(prefix / METAINFO).getroot()
+    taal = "{http://www.w3.org/XML/1998/namespace}lang"
+    for naam in ("summary", "description/p"):
+        talen = {deel.get(taal, "en") for deel in component.findall(naam)}
+        gelijk(talen, {"en", *TALEN}, f"languages of {naam}")
+    gelijk(component.findtext("launchable"), Path(MENU).name, "what it launches")
+    nieuwste = component.find("releases/release")
+    assert nieuwste is not None
+    gelijk(nieuwste.get("version"), VERSIE, "the newest release")
+
+
+def keur_handleiding_van_man(prefix: Path) -> None:
+    gelijk(zeg("man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z", prefix / MAN)
+           .count("warning"), 0, "warnings of the man page")
+    assert "Kestrolin - turn WAV fragments" in zeg("lexgrog", prefix / MAN)
+    assert f"Kestrolin {VERSIE}" in zeg("man", "-l", prefix / MAN)
+
+
+def keur_icoon(prefix: Path) -> None:
+    """Each PNG has the size that its folder tells."""
+    for maat in MATEN:
+        png = (prefix / f"share/icons/hicolor/{maat}x{maat}/apps/kestrolin.png").read_bytes()
+        gelijk(png[:8], b"\x89PNG\r\n\x1a\n", "the mark of PNG")
+        gelijk(struct.unpack(">II", png[16:24]), (maat, maat), f"the icon of {maat} pixels")
+
+
+def keur_lezers(prefix: Path, cmake: str, werk: Path) -> None:
+    """A project of anybody's takes the readers from there."""
+    (werk / "CMakeLists.txt").write_text(
+        "cmake_minimum_required(VERSION 3.13)\nproject(doorbell C)\n"
+        f"add_subdirectory({prefix}/share/kestrolin/firmware readers)\n"
+        "add_executable(doorbell main.c)\ntarget_link_libraries(doorbell kestrolin_readers)\n"
+    )
+    (werk / "main.c").write_text(
+        '#include "kestrolin_pcm.h"\nint main(void) {\n  kestrolin_pcm pcm;\n'
+        "  return kestrolin_pcm_open(&pcm, 0, 0) == KESTROLIN_TRUNCATED ? 0 : 1;\n}\n"
+    )
+    zeg(cmake, "-S", werk, "-B", werk / "bouw")
+    zeg(cmake, "--build", werk / "bouw")
+    zeg(werk / "bouw" / "doorbell")
+
+
+def versie() -> str:
+    for regel in (ROOT / "CMakeLists.txt").read_text(encoding="utf-8").splitlines():
+        if regel.startswith("project("):
+            return regel.split("VERSION ")[1].split()[0]
+    raise AssertionError("no version")
+
+
+VERSIE = versie()
+
+
+def main() -> None:
+    cmake, bouw = sys.argv[1], sys.argv[2]
+    with tempfile.TemporaryDirectory() as tijdelijk:
+        prefix, werk = Path(tijdelijk, "elsewhere"), Path(tijdelijk, "project")
+        werk.mkdir()
+        zeg(cmake, "--install", bouw, "--prefix", prefix)
+        keur_namen(prefix)
+        keur_menu(prefix)
+        keur_metainfo(prefix)
+        keur_handleiding_van_man(prefix)
+        keur_icoon(prefix)
+        keur_lezers(prefix, cmake, werk)
+
+
+if __name__ == "__main__":
+    main()

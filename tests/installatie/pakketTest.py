@@ -1,0 +1,165 @@
+"""Test of the Debian package on a machine that has nothing yet: it installs, its menu entry starts the
+program, all languages work, and removing it leaves nothing but the user's own settings.
+
+    pakketTest.py PACKAGE RESULTS
+
+Run inside `tour/sessie` and `schoneWortel`, which give it a screen and a fresh Debian. A screenshot in
+each language goes to RESULTS.
+"""
+
+from __future__ import annotations
+
+import gettext
+import os
+import shutil
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+sys.path[:0] = [str(ROOT / "tour"), str(ROOT / "tests" / "zwart")]
+
+# pylint: disable=wrong-import-position
+from schermwerk import opdracht, schermafdruk, toets, wacht
+from teksten import OPEN_TITEL, TITEL
+from zwarteDoosTest import gelijk
+
+# The toolkit's numbers of the languages.
+TALEN = {"en": 175, "nl": 161, "de": 373, "fr": 301, "it": 423, "es": 735}
+GEBRUIKER = "engineer"
+MENU = "usr/share/applications/Kestrolin.desktop"
+
+
+def omgeving(gebruiker: str) -> dict[str, str]:
+    return {
+        "PATH": "/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin",
+        "HOME": "/root" if gebruiker == "root" else f"/home/{gebruiker}",
+        "DISPLAY": os.environ["DISPLAY"], "GDK_BACKEND": "x11",
+        "DEBIAN_FRONTEND": "noninteractive",
+    }
+
+
+class Machine:
+    """The fresh Debian."""
+
+    def __init__(self, wortel: Path) -> None:
+        self.wortel = wortel
+        self.thuis = wortel / "home" / GEBRUIKER
+
+    def doe(self, *woorden: str, als: str = "root") -> str:
+        """What a command there says. It has to succeed."""
+        with tempfile.TemporaryFile("w+") as gezegd:
+            # Not a pipe, which whatever the command starts would keep open.
+            gedaan = subprocess.run(
+                ["chroot", f"--userspec={als}:{als}", str(self.wortel), *woorden],
+                env=omgeving(als), stdin=subprocess.DEVNULL, stdout=gezegd,
+                stderr=subprocess.STDOUT, check=False,
+            )
+            gezegd.seek(0)
+            tekst = gezegd.read()
+        assert gedaan.returncode == 0, f"{woorden}: status {gedaan.returncode}\n{tekst}"
+        return tekst
+
+    def bestanden(self) -> set[str]:
+        """Every file and folder, but what the system writes about itself."""
+        eigen = ("proc", "dev", "var/lib/dpkg", "var/lib/apt", "var/cache/apt", "var/log", "tmp")
+        gevonden = set()
+        for map_, mappen, namen in os.walk(self.wortel):
+            plaats = os.path.relpath(map_, self.wortel)
+            mappen[:] = [m for m in mappen if os.path.normpath(f"{plaats}/{m}") not in eigen]
+            gevonden |= {os.path.normpath(f"{plaats}/{naam}") for naam in [*mappen, *namen]}
+        return gevonden
+
+
+def installeer(machine: Machine, pakket: Path) -> set[str]:
+    """Installs the package with all that comes along by itself. What is there without it."""
+    machine.doe("useradd", "--create-home", GEBRUIKER)
+    shutil.copy(pakket, machine.wortel / "root")
+    machine.doe("apt-get", "update", "-q")
+    machine.doe("apt-get", "install", "-q", "-y", f"/root/{pakket.name}")
+    (machine.wortel / "root" / pakket.name).unlink()
+    van_pakket = [pad for pad in machine.doe("dpkg", "-L", "kestrolin").split() if pad != "/."]
+    # Folders that it shares with others: "a, b: path".
+    van_meer = {
+        regel.split(": ", maxsplit=1)[1].lstrip("/")
+        for regel in machine.doe("dpkg", "-S", *van_pakket).splitlines()
+        if "," in regel.split(": ", maxsplit=1)[0]
+    }
+    return machine.bestanden() - ({pad.lstrip("/") for pad in van_pakket} - van_meer)
+
+
+def venster(titel: str) -> str:
+    """The number of the window of this title, once it stands there."""
+
+    def gezocht() -> str:
+        return subprocess.run(
+            ["xdotool", "search", "--onlyvisible", "--name", f"^{titel}$"],
+            # A window that goes while it is looked at is told of there.
+            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False,
+        ).stdout.split("\n", maxsplit=1)[0]
+
+    return wacht(gezocht, f'a window named "{titel}"', 60)
+
+
+def weg(titel: str) -> bool:
+    return subprocess.run(
+        ["xdotool", "search", "--name", f"^{titel}$"], stdout=subprocess.DEVNULL,
+        stderr=subprocess.DEVNULL, check=False,
+    ).returncode != 0
+
+
+def werk_in(machine: Machine, taal: str, resultaten: Path) -> None:
+    """Starts the program by its menu entry, has it speak, and leaves it."""
+    instellingen = machine.thuis / ".Kestrolin"
+    instellingen.write_text(f"[Gebruikersinstellingen]\nTaal={TALEN[taal]}\n")
+    shutil.chown(instellingen, *eigenaar(machine.thuis))
+    gezegd = machine.doe("gtk-launch", "Kestrolin.desktop", als=GEBRUIKER)
+    assert "Error" not in gezegd, gezegd
+    hoofd = venster(TITEL)
+    icoon = opdracht("xprop", "-id", hoofd, "_NET_WM_ICON").decode()
+    assert "Icon (48 x 48)" in icoon, "the window bears no icon"
+    catalogus = gettext.translation(
+        "Kestrolin", machine.wortel / "usr/share/locale", [taal], fallback=taal == "en"
+    )
+    titel = catalogus.gettext(OPEN_TITEL)
+    gelijk(titel == OPEN_TITEL, taal == "en", f"the open dialog speaks {taal}")
+    opdracht("xdotool", "windowactivate", "--sync", hoofd)
+    toets("ctrl+o")
+    venster(titel)
+    schermafdruk(resultaten / f"{taal}.png")
+    toets("Escape")
+    wacht(lambda: weg(titel), "the dialog closes")
+    toets("ctrl+q")
+    wacht(lambda: weg(TITEL), "the window closes")
+    # The settings are written after that.
+    wacht(lambda: "StopTijd" in instellingen.read_text(), "the settings are written")
+
+
+def eigenaar(pad: Path) -> tuple[int, int]:
+    return pad.stat().st_uid, pad.stat().st_gid
+
+
+def verwijder(machine: Machine, vooraf: set[str]) -> None:
+    machine.doe("apt-get", "purge", "-q", "-y", "kestrolin")
+    over = machine.bestanden() - vooraf
+    # The user's folders are the toolkit's below it.
+    van_gebruiker = {pad for pad in over if pad.startswith(f"home/{GEBRUIKER}/")}
+    gelijk(over - van_gebruiker, set(), "left behind")
+    gelijk({pad for pad in van_gebruiker if "estrolin" in pad},
+           {f"home/{GEBRUIKER}/.Kestrolin"}, "the user's own")
+    gelijk(list((machine.wortel / "tmp").glob("*estrolin*")), [], "lock files")
+
+
+def main() -> None:
+    pakket, resultaten = Path(sys.argv[1]), Path(sys.argv[2])
+    resultaten.mkdir(parents=True, exist_ok=True)
+    machine = Machine(Path(os.environ["WORTEL"]))
+    vooraf = installeer(machine, pakket)
+    for taal in TALEN:
+        werk_in(machine, taal, resultaten)
+    verwijder(machine, vooraf)
+
+
+if __name__ == "__main__":
+    main()
