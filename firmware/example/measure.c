@@ -69,7 +69,7 @@ static void report(const char* name, const result* measured) {
 enum { PAINTED_WORDS = 2048, PAINT = 0x5AFE57AC };
 
 static inline __attribute__((always_inline)) volatile uint32_t* stack_pointer(void) {
-  volatile uint32_t* pointer;
+  volatile uint32_t* pointer = NULL;
   __asm__ volatile("mov %0, sp" : "=r"(pointer));
   return pointer;
 }

@@ -6,6 +6,7 @@
 from __future__ import annotations
 
 import configparser
+import re
 import struct
 import subprocess
 import sys
@@ -135,6 +136,12 @@ def keur_lezers(prefix: Path, cmake: str, werk: Path) -> None:
     zeg(werk / "bouw" / "doorbell")
 
 
+def keur_veranderingen() -> None:
+    """The newest version that is told of is this one."""
+    koppen = re.findall(r"^## (\d\S*)", (ROOT / "CHANGELOG.md").read_text(encoding="utf-8"), re.M)
+    gelijk(koppen[0], VERSIE, "the newest version in CHANGELOG.md")
+
+
 def versie() -> str:
     for regel in (ROOT / "CMakeLists.txt").read_text(encoding="utf-8").splitlines():
         if regel.startswith("project("):
@@ -147,6 +154,7 @@ VERSIE = versie()
 
 def main() -> None:
     cmake, bouw = sys.argv[1], sys.argv[2]
+    keur_veranderingen()
     with tempfile.TemporaryDirectory() as tijdelijk:
         prefix, werk = Path(tijdelijk, "elsewhere"), Path(tijdelijk, "project")
         werk.mkdir()

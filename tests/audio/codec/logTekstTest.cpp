@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <vector>
 
 #include "tests/steun/logboek.h"
@@ -15,25 +16,25 @@ struct Geval {
 };
 
 // "%%" has always shown as one sign; every other per cent sign shows as itself.
-constexpr Geval gevallen[] = {
-    {"", ""},
-    {"%", "%"},
-    {"%%", "%"},
-    {"%%%", "%%"},
-    {"%%%%", "%%"},
-    {"100%.wav", "100%.wav"},
-    {"a%%b", "a%b"},
-    {"a%%b.wav", "a%b.wav"},
-    {"%s%n", "%s%n"},
-    {"%s%s%s%s%s%s%s%s.wav", "%s%s%s%s%s%s%s%s.wav"},
-    {"%*d.wav", "%*d.wav"},
-    {"%999999999d", "%999999999d"},
-    {"% b", "% b"},
-    {"%", "%"},
-    {"end%", "end%"},
-    {"%start", "%start"},
-    {"caf\xC3\xA9 100%", "caf\xC3\xA9 100%"},
-    {"no sign at all", "no sign at all"},
+constexpr std::array gevallen = {
+    Geval{"", ""},
+    Geval{"%", "%"},
+    Geval{"%%", "%"},
+    Geval{"%%%", "%%"},
+    Geval{"%%%%", "%%"},
+    Geval{"100%.wav", "100%.wav"},
+    Geval{"a%%b", "a%b"},
+    Geval{"a%%b.wav", "a%b.wav"},
+    Geval{"%s%n", "%s%n"},
+    Geval{"%s%s%s%s%s%s%s%s.wav", "%s%s%s%s%s%s%s%s.wav"},
+    Geval{"%*d.wav", "%*d.wav"},
+    Geval{"%999999999d", "%999999999d"},
+    Geval{"% b", "% b"},
+    Geval{"%", "%"},
+    Geval{"end%", "end%"},
+    Geval{"%start", "%start"},
+    Geval{"caf\xC3\xA9 100%", "caf\xC3\xA9 100%"},
+    Geval{"no sign at all", "no sign at all"},
 };
 
 TEST(VeiligFormaat, PrintsTheLineItself) {
@@ -46,9 +47,10 @@ TEST(VeiligFormaat, PrintsTheLineItself) {
 
 TEST(VeiligFormaat, LogsTheLineItself) {
   std::vector<LogRegel> regels;
-  wxLog* const oud = wxLog::SetActiveTarget(new VerzamelLog(regels));
+  VerzamelLog verzamelaar(regels);
+  wxLog* const oud = wxLog::SetActiveTarget(&verzamelaar);
   wxLogError(veiligFormaat("100%s%n.wav cannot be loaded"));
-  delete wxLog::SetActiveTarget(oud);
+  wxLog::SetActiveTarget(oud);
   ASSERT_EQ(regels.size(), 1U);
   EXPECT_EQ(regels[0].niveau, static_cast<unsigned long>(wxLOG_Error));
   EXPECT_EQ(regels[0].tekst, "100%s%n.wav cannot be loaded");

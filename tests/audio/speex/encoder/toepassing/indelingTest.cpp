@@ -64,6 +64,8 @@ std::string vensterNaam(wxWindow const& venster) {
   return (kenmerk.empty() ? soort : soort + " " + kenmerk).ToStdString();
 }
 
+// As deep as the sizers lie in each other.
+// NOLINTNEXTLINE(misc-no-recursion)
 void loopAf(wxSizer const& sizer, int diepte, std::vector<Element>& elementen) {
   for (wxSizerItem const* item : sizer.GetChildren()) {
     elementen.push_back(
