@@ -11,17 +11,12 @@
 
 #include "tests/externals/desktop/desktopProef.h"
 #include "tests/steun/catalogusMaker.h"
+#include "tests/steun/machine.h"
 
 namespace {
 
 class Taal : public DesktopProef {
  protected:
-  // Hides the locales of the machine: the toolkit finds none then.
-  void verbergLocales() {
-    std::filesystem::create_directories(map.pad("locales"));
-    setenv("LOCPATH", map.pad("locales").c_str(), 1);
-  }
-
   // A catalog of the frame or the application in a language, where the toolkit looks for it.
   void voegCatalogusToe(std::string const& taal, std::string const& naam, std::string const& id,
                         std::string const& vertaling) {
@@ -34,6 +29,29 @@ class Taal : public DesktopProef {
   // A path with an accent as the bytes of the file system.
   static std::string padBytes(char const* utf8) {
     return wxString::FromUTF8(utf8).mb_str(wxConvLibc).data();
+  }
+};
+
+class TaalZonderCatalogus : public Taal {
+ protected:
+  void SetUp() override {
+    if (heeftCatalogi()) {
+      GTEST_SKIP() << "Kestrolin is installed on this machine, and its catalogs are found";
+    }
+    Taal::SetUp();
+  }
+};
+
+// The locales of the machine are hidden: the toolkit finds none.
+class TaalZonderLocale : public Taal {
+ protected:
+  void SetUp() override {
+    if (heeftLocaleMappen()) {
+      GTEST_SKIP() << "the locales of this machine cannot be hidden";
+    }
+    Taal::SetUp();
+    std::filesystem::create_directories(map.pad("locales"));
+    setenv("LOCPATH", map.pad("locales").c_str(), 1);
   }
 };
 
@@ -56,7 +74,7 @@ TEST_F(Taal, EnglishAddsNoCatalogWhateverIsOnDisk) {
   EXPECT_FALSE(wxGetLocale()->IsLoaded(proefNaam()));
 }
 
-TEST_F(Taal, MissingCatalogsLogOneErrorEachInOrderAndTheTextsStayEnglish) {
+TEST_F(TaalZonderCatalogus, MissingCatalogsLogOneErrorEachInOrderAndTheTextsStayEnglish) {
   startInTaal(nummer(wxLANGUAGE_DUTCH));
   EXPECT_EQ(fouten(), (std::vector<wxString>{
                           "Could not add Velmora catalog for language : Dutch",
@@ -65,14 +83,14 @@ TEST_F(Taal, MissingCatalogsLogOneErrorEachInOrderAndTheTextsStayEnglish) {
   EXPECT_EQ(wxGetTranslation("proefwoord"), "proefwoord");
 }
 
-TEST_F(Taal, EveryLanguageOfTheToolNamesItselfInTheErrors) {
+TEST_F(TaalZonderCatalogus, EveryLanguageOfTheToolNamesItselfInTheErrors) {
   startInTaal(nummer(wxLANGUAGE_GERMAN));
   EXPECT_EQ(fouten(), (std::vector<wxString>{
                           "Could not add Velmora catalog for language : German",
                           "Could not add application language catalog for language : German"}));
 }
 
-TEST_F(Taal, CatalogsOnDiskAreUsedWithoutAWord) {
+TEST_F(TaalZonderCatalogus, CatalogsOnDiskAreUsedWithoutAWord) {
   voegCatalogusToe("nl", "Velmoradesktop", "proefwoord", "raamwoord");
   voegCatalogusToe("nl", proefNaam().ToStdString(), "proefzin", "eigen caf\xC3\xA9");
   startInTaal(nummer(wxLANGUAGE_DUTCH));
@@ -81,14 +99,14 @@ TEST_F(Taal, CatalogsOnDiskAreUsedWithoutAWord) {
   EXPECT_EQ(wxGetTranslation("proefzin"), wxString::FromUTF8("eigen caf\xC3\xA9"));
 }
 
-TEST_F(Taal, MissingFrameCatalogDoesNotKeepTheApplicationsOut) {
+TEST_F(TaalZonderCatalogus, MissingFrameCatalogDoesNotKeepTheApplicationsOut) {
   voegCatalogusToe("nl", proefNaam().ToStdString(), "proefzin", "eigen zin");
   startInTaal(nummer(wxLANGUAGE_DUTCH));
   EXPECT_EQ(fouten(), std::vector<wxString>{"Could not add Velmora catalog for language : Dutch"});
   EXPECT_EQ(wxGetTranslation("proefzin"), "eigen zin");
 }
 
-TEST_F(Taal, MissingApplicationCatalogAlone) {
+TEST_F(TaalZonderCatalogus, MissingApplicationCatalogAlone) {
   voegCatalogusToe("nl", "Velmoradesktop", "proefwoord", "raamwoord");
   startInTaal(nummer(wxLANGUAGE_DUTCH));
   EXPECT_EQ(fouten(), std::vector<wxString>{
@@ -96,16 +114,14 @@ TEST_F(Taal, MissingApplicationCatalogAlone) {
   EXPECT_EQ(wxGetTranslation("proefwoord"), "raamwoord");
 }
 
-TEST_F(Taal, LocaleThatCannotBeInitialisedLogsItsLanguageAndGoesOn) {
-  verbergLocales();
+TEST_F(TaalZonderLocale, LocaleThatCannotBeInitialisedLogsItsLanguageAndGoesOn) {
   setenv("LC_ALL", "C", 1);
   startInTaal(nummer(wxLANGUAGE_ENGLISH));
   EXPECT_EQ(fouten(), std::vector<wxString>{"Could not initialise the Locale for English"});
   EXPECT_EQ(stop().at("/Gebruikersinstellingen/Taal"), nummer(wxLANGUAGE_ENGLISH));
 }
 
-TEST_F(Taal, LocaleThatCannotBeInitialisedAddsNoCatalog) {
-  verbergLocales();
+TEST_F(TaalZonderLocale, LocaleThatCannotBeInitialisedAddsNoCatalog) {
   voegCatalogusToe("nl", "Velmoradesktop", "proefwoord", "raamwoord");
   voegCatalogusToe("nl", proefNaam().ToStdString(), "proefzin", "eigen zin");
   startInTaal(nummer(wxLANGUAGE_DUTCH));
@@ -114,8 +130,7 @@ TEST_F(Taal, LocaleThatCannotBeInitialisedAddsNoCatalog) {
   EXPECT_EQ(wxGetTranslation("proefzin"), "proefzin");
 }
 
-TEST_F(Taal, WithoutALocaleOnlyTheCharacterTypeChangesAndNamesWithAccentsWork) {
-  verbergLocales();
+TEST_F(TaalZonderLocale, WithoutALocaleOnlyTheCharacterTypeChangesAndNamesWithAccentsWork) {
   setenv("LC_ALL", "C", 1);
   startInTaal(nummer(wxLANGUAGE_ENGLISH));
   EXPECT_STREQ(nl_langinfo(CODESET), "UTF-8");
@@ -126,8 +141,7 @@ TEST_F(Taal, WithoutALocaleOnlyTheCharacterTypeChangesAndNamesWithAccentsWork) {
   EXPECT_EQ(padBytes("caf\xC3\xA9.wav"), "caf\xC3\xA9.wav");
 }
 
-TEST_F(Taal, WithoutALocaleTheCharacterTypeOfTheEnvironmentIsTaken) {
-  verbergLocales();
+TEST_F(TaalZonderLocale, WithoutALocaleTheCharacterTypeOfTheEnvironmentIsTaken) {
   std::string const doel = map.pad("locales/nl_NL.UTF-8");
   if (std::system(("localedef -i nl_NL -f UTF-8 " + doel + " 2>/dev/null").c_str()) != 0) {
     GTEST_SKIP() << "this machine cannot compile locales";
