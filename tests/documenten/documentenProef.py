@@ -1,4 +1,4 @@
-"""Tests of the documents: their links, spelling, drawings and commands.
+"""Tests of the documents: their links, spelling, drawings, commands, and the texts of the program.
 
     documentenProef.py CHECK TREE [BUILD]
 
@@ -14,6 +14,7 @@ from pathlib import Path
 sys.dont_write_bytecode = True
 
 # pylint: disable=wrong-import-position
+from berichten import berichten
 from boom import Boom
 from koppelingen import koppelingen
 from opdrachten import opdrachten
@@ -21,7 +22,8 @@ from spelling import spelling
 from tekeningen import tekeningen
 from zelfproef import zelfproef
 
-CONTROLES = {"koppelingen": koppelingen, "spelling": spelling, "tekeningen": tekeningen}
+CONTROLES = {"koppelingen": koppelingen, "spelling": spelling, "tekeningen": tekeningen,
+             "berichten": berichten}
 
 
 def main() -> int:

@@ -179,3 +179,25 @@ SLECHTE_OPDRACHTEN = [
     ("goes on in the next line", "cmake --preset release \\"),
     ("No closing quotation", "echo 'a"),
 ]
+
+
+_POT = 'msgid ""\nmsgstr "Content-Type: text/plain; charset=UTF-8\\n"\n\n'
+GOEDE_BERICHTEN = {
+    "docs/manual.md": '| `It said "no"`<br>`and 7 % of N` | `channels` | `/* a\tb */` |\n',
+    "vertalingen/Kestrolin.pot": _POT + 'msgid "It said \\"no\\"\\nand 7 %% of %d"\nmsgstr ""\n\n'
+                                        'msgid "channels:"\nmsgstr ""\n',
+    "vertalingen/Velmoradesktop.pot": _POT + 'msgid ""\n"/* a\\tb"\n" */"\nmsgstr ""\n',
+}
+
+
+def _vervang(oud: str, nieuw: str, naam: str = "docs/manual.md") -> Bestanden:
+    return {**GOEDE_BERICHTEN, naam: GOEDE_BERICHTEN[naam].replace(oud, nieuw, 1)}
+
+
+SLECHTE_BERICHTEN = [
+    ("'It said \"no\"'", _vervang('"no"', "no")),
+    ("'and 7 % of'", _vervang("7 %", "7%")),
+    ("does not tell '/* a\\tb */' of vertalingen/Velmoradesktop.pot", _vervang("\t", " ")),
+    ("'seekable:'", _vervang("channels:", "seekable:", "vertalingen/Kestrolin.pot")),
+    ("Kestrolin.pot: no texts", {**GOEDE_BERICHTEN, "vertalingen/Kestrolin.pot": _POT}),
+]

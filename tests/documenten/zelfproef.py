@@ -8,9 +8,10 @@ import tempfile
 from pathlib import Path
 from typing import Callable, Iterator
 
+from berichten import berichten
 from boom import Boom
-from gevallen import (DOEL, GOEDE_KOPPELINGEN, GOEDE_OPDRACHTEN, GOEDE_SPELLING, GOEDE_TEKENINGEN,
-                      SLECHTE_KOPPELINGEN, SLECHTE_OPDRACHTEN, SLECHTE_SPELLING, SLECHTE_TEKENINGEN,
+from gevallen import (DOEL, GOEDE_BERICHTEN, GOEDE_KOPPELINGEN, GOEDE_OPDRACHTEN, GOEDE_SPELLING,
+                      GOEDE_TEKENINGEN, SLECHTE_BERICHTEN, SLECHTE_KOPPELINGEN, SLECHTE_OPDRACHTEN, SLECHTE_SPELLING, SLECHTE_TEKENINGEN,
                       Bestanden, Geval)
 from koppelingen import koppelingen
 from opdrachten import opdrachten
@@ -63,6 +64,7 @@ PROEVEN: dict[str, tuple[Controle, Bestanden, list[Geval]]] = {
                     + [(klacht, _bladzijde(tekst)) for klacht, tekst in SLECHTE_KOPPELINGEN]),
     "spelling": (spelling, GOEDE_SPELLING, SLECHTE_SPELLING),
     "tekeningen": (tekeningen, GOEDE_TEKENINGEN, SLECHTE_TEKENINGEN),
+    "berichten": (berichten, GOEDE_BERICHTEN, SLECHTE_BERICHTEN),
     "opdrachten": (_opdrachten, GOEDE_OPDRACHTEN,
                    [(klacht, _regel(regel)) for klacht, regel in SLECHTE_OPDRACHTEN]
                    + [("no commands", {**GOEDE_OPDRACHTEN, "README.md": "./start\n"}),
