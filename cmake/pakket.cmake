@@ -34,4 +34,8 @@ set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "locales-all, wx3.2-i18n")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS
     "gcc-arm-none-eabi, libnewlib-arm-none-eabi, qemu-system-arm, sox")
 
+# All there is, under the name that CMake has for what is in no component: the list of files of a user's
+# own `cmake --install` is left alone so.
+set(CPACK_INSTALL_CMAKE_PROJECTS "${CMAKE_BINARY_DIR};${PROJECT_NAME};Unspecified;/")
+
 include(CPack)

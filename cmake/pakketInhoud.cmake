@@ -22,3 +22,7 @@ file(COPY_FILE "${CPACK_KESTROLIN_DEBIAN}/copyright" "${_doc}/copyright")
 set(_afwijkingen "${CPACK_TEMPORARY_DIRECTORY}/usr/share/lintian/overrides")
 file(MAKE_DIRECTORY "${_afwijkingen}")
 file(COPY_FILE "${CPACK_KESTROLIN_DEBIAN}/lintian-overrides" "${_afwijkingen}/kestrolin")
+
+# Whatever rights the source tree has.
+execute_process(COMMAND chmod -R u=rwX,go=rX "${CPACK_TEMPORARY_DIRECTORY}/usr"
+                COMMAND_ERROR_IS_FATAL ANY)

@@ -17,7 +17,8 @@ OVERGESLAGEN = {".git", ".cache", "__pycache__", "build"}
 def _volgens_git(wortel: Path) -> list[str]:
     """Known to git, or new and not ignored."""
     uitkomst = subprocess.run(
-        ["git", "-C", str(wortel), "ls-files", "-coz", "--exclude-standard"],
+        ["git", "-c", f"safe.directory={wortel}", "-C", str(wortel), "ls-files", "-coz",
+         "--exclude-standard"],
         capture_output=True, check=True,
     )
     return [naam for naam in uitkomst.stdout.decode().split("\0") if naam]

@@ -79,7 +79,8 @@ SLECHTE_SPELLING = [
     ("a.c:1: teh", {"a.c": f'char a[] = "\\""; /* {FOUT} */\n'}),
     ("b/a.cpp:2: teh", {"b/a.cpp": f"auto a = '\"';\nint a;  // {FOUT}\n"}),
     ("b/CMakeLists.txt:1: teh", {"b/CMakeLists.txt": f"# {FOUT}\n"}),
-    ("hulp/a:1: teh", {"hulp/a": f"  # {FOUT}\n"}),
+    ("hulp/a:2: teh", {"hulp/a": f"#!/bin/sh\n  # {FOUT}\n"}),
+    ("a.py:3: teh", {"a.py": f'def teh():\n    """The.\n    {FOUT}"""\n    return "teh"\n'}),
     ("nothing to read", {}),
 ]
 

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import ast
 import re
 import subprocess
 import tempfile
@@ -50,28 +51,40 @@ def alleen_hekjes(bron: str) -> str:
     return "\n".join(regel if regel.lstrip().startswith("#") else "" for regel in bron.splitlines())
 
 
+def van_python(bron: str) -> str:
+    """The comments and the texts that tell what things are for, each on its own line."""
+    regels = alleen_hekjes(bron).split("\n")
+    for knoop in ast.walk(ast.parse(bron)):
+        if isinstance(knoop, (ast.Module, ast.ClassDef, ast.FunctionDef)) and ast.get_docstring(knoop):
+            eerste = knoop.body[0]
+            deel = slice(eerste.lineno - 1, eerste.end_lineno)
+            regels[deel] = bron.split("\n")[deel]
+    return "\n".join(regels)
+
+
 # What is read, and which part of it.
 DELEN: list[tuple[tuple[str, ...], Callable[[str], str]]] = [
-    (("*.md",), str),
+    (("*.md", "*.pot", "packaging/debian/*"), str),
+    (("*.py",), van_python),
     (("packaging/*.1", "packaging/*.in", "packaging/*.xml", "packaging/*.desktop"),
      zonder_vertaling),
     (("*.c", "*.h", "*.cpp"), alleen_commentaar),
-    (("*CMakeLists.txt", "*.cmake", "*.py", ".ci/*", "hulp/*", "start", "test"), alleen_hekjes),
+    (("*CMakeLists.txt", "*.cmake"), alleen_hekjes),
 ]
 
 
 def spelling(boom: Boom) -> list[str]:
     """codespell has nothing to say of documents and comments."""
     with tempfile.TemporaryDirectory() as folder:
-        aantal = 0
-        for vormen, deel in DELEN:
-            for naam in boom.met(*vormen):
-                kopie = Path(folder) / naam
-                kopie.parent.mkdir(parents=True, exist_ok=True)
-                kopie.write_text(deel(boom.lees(naam)), encoding="utf-8")
-                aantal += 1
-        if not aantal:
+        te_lezen = {naam: deel for vormen, deel in DELEN for naam in boom.met(*vormen)}
+        scripts = (naam for naam in boom.bestanden if boom.is_script(naam))
+        te_lezen = dict.fromkeys(scripts, alleen_hekjes) | te_lezen
+        if not te_lezen:
             return ["nothing to read"]
+        for naam, deel in te_lezen.items():
+            kopie = Path(folder) / naam
+            kopie.parent.mkdir(parents=True, exist_ok=True)
+            kopie.write_text(deel(boom.lees(naam)), encoding="utf-8")
         uitkomst = subprocess.run(
             ["codespell", "--builtin=clear", f"--ignore-words={WOORDEN}", "--check-hidden", "."],
             cwd=folder, capture_output=True, text=True, check=False,

@@ -81,8 +81,10 @@ def keur_menu(prefix: Path) -> None:
     ontleed.optionxform = str  # type: ignore[assignment]
     ontleed.read(prefix / MENU, encoding="utf-8")
     ingang = dict(ontleed["Desktop Entry"])
-    gelijk(ingang["Exec"], "Kestrolin", "the command")
-    gelijk(ingang["Icon"], "kestrolin", "the icon")
+    vast = {"Type": "Application", "Name": "Kestrolin", "Exec": "Kestrolin", "Icon": "kestrolin",
+            "Terminal": "false", "StartupNotify": "true", "Categories": "Development;"}
+    gelijk({sleutel: ingang.get(sleutel) for sleutel in vast}, vast, "the menu entry")
+    assert "NoDisplay" not in ingang and "Hidden" not in ingang, "no menu shows it"
     for sleutel in ("GenericName", "Comment", "Keywords"):
         teksten = [ingang[f"{sleutel}[{taal}]"] for taal in TALEN] + [ingang[sleutel]]
         gelijk(len(set(teksten)), len(TALEN) + 1, f"different texts of {sleutel}")
@@ -99,6 +101,10 @@ def keur_metainfo(prefix: Path) -> None:
         talen = {deel.get(taal, "en") for deel in component.findall(naam)}
         gelijk(talen, {"en", *TALEN}, f"languages of {naam}")
     gelijk(component.findtext("launchable"), Path(MENU).name, "what it launches")
+    gelijk(component.findtext("icon"), "kestrolin", "its icon")
+    gelijk(component.findtext("provides/binary"), "Kestrolin", "its program")
+    beelden = {Path(beeld.text or "").name for beeld in component.findall("screenshots//image")}
+    gelijk(beelden - {p.name for p in (ROOT / "docs/pictures").iterdir()}, set(), "no such picture")
     nieuwste = component.find("releases/release")
     assert nieuwste is not None
     gelijk(nieuwste.get("version"), VERSIE, "the newest release")
@@ -157,7 +163,8 @@ def main() -> None:
     with tempfile.TemporaryDirectory() as tijdelijk:
         prefix, werk = Path(tijdelijk, "elsewhere"), Path(tijdelijk, "project")
         werk.mkdir()
-        zeg(cmake, "--install", bouw, "--prefix", prefix)
+        # A component: the list of files of a user's own installation is left alone so.
+        zeg(cmake, "--install", bouw, "--prefix", prefix, "--component", "Unspecified")
         keur_namen(prefix)
         keur_menu(prefix)
         keur_metainfo(prefix)

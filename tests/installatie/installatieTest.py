@@ -68,7 +68,7 @@ def main() -> None:
     thuis = Path(os.environ["HOME"]) / "een"
     doel = Path(os.environ["TMPDIR"]) / "installatie"
     subprocess.run(
-        [cmake, "--install", str(bouw), "--prefix", str(doel)],
+        [cmake, "--install", str(bouw), "--prefix", str(doel), "--component", "Unspecified"],
         stdout=subprocess.DEVNULL, check=True,
     )
     keur_catalogi(doel / "share/locale", bouw / "share/locale")

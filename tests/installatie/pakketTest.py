@@ -11,6 +11,7 @@ from __future__ import annotations
 
 import gettext
 import os
+import re
 import shutil
 import subprocess
 import sys
@@ -63,7 +64,7 @@ class Machine:
 
     def bestanden(self) -> set[str]:
         """Every file and folder, but what the system writes about itself."""
-        eigen = ("proc", "dev", "var/lib/dpkg", "var/lib/apt", "var/cache/apt", "var/log", "tmp")
+        eigen = ("proc", "dev", "var/lib/dpkg", "var/lib/apt", "var/cache/apt", "tmp")
         gevonden = set()
         for map_, mappen, namen in os.walk(self.wortel):
             plaats = os.path.relpath(map_, self.wortel)
@@ -73,20 +74,17 @@ class Machine:
 
 
 def installeer(machine: Machine, pakket: Path) -> set[str]:
-    """Installs the package with all that comes along by itself. What is there without it."""
+    """Installs the package with all that comes along by itself. What was there before it."""
     machine.doe("useradd", "--create-home", GEBRUIKER)
     shutil.copy(pakket, machine.wortel / "root")
     machine.doe("apt-get", "update", "-q")
+    plan = machine.doe("apt-get", "install", "-s", f"/root/{pakket.name}")
+    anderen = [naam for naam in re.findall(r"^Inst (\S+)", plan, re.M) if naam != "kestrolin"]
+    assert {"locales-all", "wx3.2-i18n"} < set(anderen), "what is recommended does not come along"
+    machine.doe("apt-get", "install", "-q", "-y", *anderen)
+    vooraf = machine.bestanden()
     machine.doe("apt-get", "install", "-q", "-y", f"/root/{pakket.name}")
-    (machine.wortel / "root" / pakket.name).unlink()
-    van_pakket = [pad for pad in machine.doe("dpkg", "-L", "kestrolin").split() if pad != "/."]
-    # Folders that it shares with others: "a, b: path".
-    van_meer = {
-        regel.split(": ", maxsplit=1)[1].lstrip("/")
-        for regel in machine.doe("dpkg", "-S", *van_pakket).splitlines()
-        if "," in regel.split(": ", maxsplit=1)[0]
-    }
-    return machine.bestanden() - ({pad.lstrip("/") for pad in van_pakket} - van_meer)
+    return vooraf
 
 
 def venster(titel: str) -> str:
@@ -119,6 +117,10 @@ def werk_in(machine: Machine, taal: str, resultaten: Path) -> None:
     hoofd = venster(TITEL)
     icoon = opdracht("xprop", "-id", hoofd, "_NET_WM_ICON").decode()
     assert "Icon (48 x 48)" in icoon, "the window bears no icon"
+    # By this a desktop knows that the window is that of the menu entry.
+    klasse = opdracht("xprop", "-id", hoofd, "WM_CLASS").decode()
+    verwacht = re.search(r"^StartupWMClass=(.*)", (machine.wortel / MENU).read_text(), re.M)
+    assert verwacht and klasse.endswith(f'"{verwacht[1]}"\n'), klasse
     catalogus = gettext.translation(
         "Kestrolin", machine.wortel / "usr/share/locale", [taal], fallback=taal == "en"
     )

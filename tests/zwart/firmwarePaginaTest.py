@@ -12,59 +12,28 @@ from __future__ import annotations
 
 import os
 import re
-import shutil
 import sys
 from array import array
 from pathlib import Path
-from typing import NamedTuple
 
 WORTEL = Path(__file__).resolve().parents[2]
-sys.path[:0] = [str(WORTEL / "tour"), str(WORTEL / "tests" / "firmware" / "example")]
+sys.path.insert(0, str(WORTEL / "tests" / "firmware" / "example"))
 
 # pylint: disable=wrong-import-position
 import exampleTest
-from bediening import Programma
-from pagina import blokken, samples_in, stappen, voer_uit
-from teksten import MELDING_PCM
-from toegang import AANGEVINKT
+from pagina import Keuzes, blokken, maak_tekst, samples_in, stappen, voer_uit
 
 BESTANDEN = ("sounds.h", "sounds.c", "main.c")
 
 
-class Stap(NamedTuple):
+def stap_1(tekst: str) -> tuple[Keuzes, str]:
     """Step 1, by the names in bold and the file names that it has."""
-
-    fragment: Path
-    encoder: str
-    taal: str
-    dac: str
-    vinkje: str
-    bestand: str
-
-
-def stap_1(tekst: str) -> Stap:
     alinea = re.search(r"\*\*1\. The array\.\*\*(.*?)\n\n", tekst, re.S)
     assert alinea, "the page has no step 1"
     open_, encoder, taal, dac, vinkje, codeer, bewaar = re.findall(r"\*\*([^*]+)\*\*", alinea[1])
     assert (open_, codeer, bewaar) == ("Open", "Encode", "Save"), alinea[1]
     fragment, bestand = re.findall(r"`([^`]+)`", alinea[1])
-    return Stap(WORTEL / fragment, encoder, taal, dac, vinkje, bestand)
-
-
-def maak_array(programma: Path, thuis: Path, stap: Stap, map_: Path) -> None:
-    geluid = thuis / "geluid"
-    geluid.mkdir(parents=True)
-    shutil.copy(stap.fragment, geluid)
-    with Programma(programma, thuis) as p:
-        p.open_map(geluid)
-        p.keuzerondje(stap.encoder)
-        p.keuzerondje(stap.taal)
-        p.keuze("16 Bit DAC", stap.dac)
-        assert p.element("check box", stap.vinkje).is_(AANGEVINKT), f"{stap.vinkje} is off"
-        p.codeer(MELDING_PCM)
-        p.sluit_melding()
-        p.bewaar(map_ / stap.bestand)
-        p.verlaat()
+    return Keuzes([WORTEL / fragment], encoder, taal, dac, vinkje), bestand
 
 
 def keur_pakketten(tekst: str) -> None:
@@ -101,12 +70,12 @@ def main() -> None:
     assert tuple(bestanden) == BESTANDEN, f"the page has the files {list(bestanden)}"
 
     voer_uit(opdrachten[0], leeg, KESTROLIN=str(WORTEL))
-    stap = stap_1(tekst)
-    maak_array(programma, thuis / "een", stap, doorbell)
+    keuzes, bestand = stap_1(tekst)
+    maak_tekst(programma, thuis / "een", keuzes, doorbell / bestand)
     for naam, blok in bestanden.items():
         (doorbell / naam).write_text(blok, encoding="utf-8")
     voer_uit(opdrachten[1], doorbell)
-    keur(stap.fragment, doorbell, voer_uit(opdrachten[2], doorbell))
+    keur(keuzes.fragmenten[0], doorbell, voer_uit(opdrachten[2], doorbell))
 
 
 if __name__ == "__main__":

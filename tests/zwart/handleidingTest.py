@@ -11,40 +11,19 @@ from __future__ import annotations
 
 import os
 import re
-import shutil
 import subprocess
 import sys
 from array import array
 from pathlib import Path
-from typing import NamedTuple
 
-WORTEL = Path(__file__).resolve().parents[2]
-sys.path.insert(0, str(WORTEL / "tour"))
-
-# pylint: disable=wrong-import-position
-from bediening import Programma
-from pagina import blokken, samples_in, stappen, voer_uit
-from teksten import MELDING_PCM
-from toegang import AANGEVINKT
+from pagina import Keuzes, blokken, maak_tekst, samples_in, stappen, voer_uit
 
 GEDEELD = "/usr/share/kestrolin"
 BESTANDEN = ("sounds.h", "sounds.cpp", "main.cpp")
 
 
-class Stap(NamedTuple):
-    """Step 1, by the names in bold and the names in backquotes that it has."""
-
-    fragmenten: list[Path]
-    encoder: str
-    taal: str
-    dac: str
-    vinkje: str
-    klasse: str
-    map: str
-    bestand: str
-
-
-def stap_1(tekst: str) -> Stap:
+def stap_1(tekst: str) -> tuple[Keuzes, str]:
+    """Step 1, by the names in bold and in backquotes that it has, and where it saves the text."""
     alinea = re.search(r"\*\*1\. The arrays\.\*\*(.*?)\n\n", tekst, re.S)
     assert alinea, "the page has no step 1"
     open_, encoder, taal, veld, dac, vinkje, codeer, bewaar, stop = re.findall(
@@ -52,26 +31,8 @@ def stap_1(tekst: str) -> Stap:
     )
     assert (open_, veld, codeer, bewaar, stop) == ("Open", "Class :", "Encode", "Save", "Quit")
     map_, een, twee, klasse, doel, bestand = re.findall(r"`([^`]+)`", alinea[1])
-    return Stap([Path(map_, een), Path(map_, twee)], encoder, taal, dac, vinkje, klasse, doel, bestand)
-
-
-def maak_arrays(programma: Path, thuis: Path, stap: Stap, leeg: Path) -> None:
-    geluid = thuis / "geluid"
-    geluid.mkdir(parents=True)
-    for fragment in stap.fragmenten:
-        shutil.copy(fragment, geluid)
-    with Programma(programma, thuis) as p:
-        p.open_map(geluid)
-        p.keuzerondje(stap.encoder)
-        p.keuzerondje(stap.taal)
-        p.klassenaam(stap.klasse)
-        p.element("combo box", stap.dac)
-        assert p.element("check box", stap.vinkje).is_(AANGEVINKT), f"{stap.vinkje} is off"
-        p.codeer(MELDING_PCM)
-        p.sluit_melding()
-        p.bewaar(leeg / stap.map / stap.bestand)
-        p.knop("Quit")
-        assert p.wacht_op_einde() == 0
+    fragmenten = [Path(map_, een), Path(map_, twee)]
+    return Keuzes(fragmenten, encoder, taal, dac, vinkje, klasse), f"{doel}/{bestand}"
 
 
 def keur_declaraties(tekst: str, opgeslagen: str) -> None:
@@ -80,10 +41,12 @@ def keur_declaraties(tekst: str, opgeslagen: str) -> None:
     assert getoond in opgeslagen, f"the text does not hold\n{getoond}"
 
 
-def keur_geluid(fragmenten: list[Path], map_: Path) -> None:
+def keur_geluid(fragmenten: list[Path], map_: Path, getoond: str) -> None:
     samples = [sample for fragment in fragmenten for sample in samples_in(fragment)[0]]
     codes = list(array("H", (map_ / "sounds.dac").read_bytes()))
     assert codes == [sample + 32768 for sample in samples], "the DAC got something else"
+    getallen = [int(woord) for woord in getoond.splitlines()[0].split()[1:]]
+    assert getallen == codes[400:410], f"od shows {getallen}"
     assert samples_in(map_ / "heard.wav") == (samples, 8000), "something else is heard"
 
 
@@ -92,7 +55,7 @@ def main() -> None:
     thuis = Path(os.environ["HOME"])
     prefix, leeg = thuis / "prefix", thuis / "leeg"
     leeg.mkdir()
-    subprocess.run([cmake, "--install", bouw, "--prefix", str(prefix)],
+    subprocess.run([cmake, "--install", bouw, "--prefix", str(prefix), "--component", "Unspecified"],
                    stdout=subprocess.DEVNULL, check=True)
     # As if it lay where the package puts it.
     tekst = stappen("manual.md", "From a WAV file to a C++ class").replace(
@@ -104,17 +67,17 @@ def main() -> None:
     assert tuple(bestanden) == BESTANDEN, f"the page has the files {list(bestanden)}"
 
     voer_uit(opdrachten[0], leeg)
-    stap = stap_1(tekst)
-    maak_arrays(prefix / "bin/Kestrolin", thuis / "een", stap, leeg)
-    map_ = leeg / stap.map
-    keur_declaraties(tekst, (map_ / stap.bestand).read_text(encoding="utf-8"))
+    keuzes, bestand = stap_1(tekst)
+    opgeslagen = leeg / bestand
+    maak_tekst(prefix / "bin/Kestrolin", thuis / "een", keuzes, opgeslagen)
+    map_ = opgeslagen.parent
+    keur_declaraties(tekst, opgeslagen.read_text(encoding="utf-8"))
     for naam, blok in bestanden.items():
         (map_ / naam).write_text(blok, encoding="utf-8")
     gezegd = voer_uit(opdrachten[1], map_)
     afdruk = [blok for taal, blok, _ in blokken(tekst) if taal == "text"][1]
     assert gezegd == afdruk, f"it says\n{gezegd}instead of\n{afdruk}"
-    voer_uit(opdrachten[2], map_)
-    keur_geluid(stap.fragmenten, map_)
+    keur_geluid(keuzes.fragmenten, map_, voer_uit(opdrachten[2], map_))
 
 
 if __name__ == "__main__":

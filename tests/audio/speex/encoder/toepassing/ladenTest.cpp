@@ -10,6 +10,7 @@
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/vreemdeBestanden.h"
 #include "tests/audio/speex/encoder/toepassing/werkProef.h"
+#include "tests/steun/machine.h"
 
 namespace {
 
@@ -183,6 +184,9 @@ TEST_F(LadenProef, NamesWithBlanksDotsAccentsAndPerCentSignsLoad) {
 }
 
 TEST_F(LadenProef, AccentsLoadAndEncodeAlsoWithoutAnyLocale) {
+  if (heeftLocaleMappen()) {
+    GTEST_SKIP() << "the locales of this machine cannot be hidden";
+  }
   wxString const leeg = submap("leeg");
   setenv("LOCPATH", leeg.utf8_str(), 1);
   setenv("LANG", "C", 1);
