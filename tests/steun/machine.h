@@ -17,13 +17,15 @@ bool heeftMap(std::filesystem::path const& map, Eis const& eis) {
   });
 }
 
-// Kestrolin is installed: the toolkit looks for catalogs there too, wherever the program lies.
-inline bool heeftCatalogi() {
-  auto const heeftCatalogus = [](std::filesystem::path const& taal) {
+// Kestrolin is installed with this prefix: the toolkit looks for catalogs in /usr, and before those
+// of a test in /usr/local, wherever the program lies.
+inline bool heeftCatalogi(std::filesystem::path const& prefix) {
+  return heeftMap(prefix / "share/locale", [](std::filesystem::path const& taal) {
     return std::filesystem::exists(taal / "LC_MESSAGES/Velmoradesktop.mo");
-  };
-  return heeftMap("/usr/share/locale", heeftCatalogus) ||
-         heeftMap("/usr/local/share/locale", heeftCatalogus);
+  });
+}
+inline bool heeftCatalogi() {
+  return heeftCatalogi("/usr") || heeftCatalogi("/usr/local");
 }
 
 // Locales lie in folders, as of the package locales-all, and not in one archive: the C library
