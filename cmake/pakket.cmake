@@ -15,8 +15,6 @@ scaled to the width of the DAC.
 The package brings the readers of these arrays in portable C, ready to be
 copied into a project, and a manual that tells every byte of the formats.")
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
-set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
-    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/pakketInhoud.cmake")
 set(CPACK_KESTROLIN_DEBIAN "${PROJECT_SOURCE_DIR}/packaging/debian")
 set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_CURRENT_LIST_DIR}/pakketDatum.cmake")

@@ -112,10 +112,15 @@ GOEDE_TEKENINGEN = {
 }
 
 
+def _vervang(bestanden: Bestanden, naam: str, oud: str, nieuw: str) -> Bestanden:
+    """The tree with one thing in one file replaced."""
+    inhoud = bestanden[naam].replace(oud, nieuw, 1)
+    assert inhoud != bestanden[naam], f"{naam} is as it was"
+    return {**bestanden, naam: inhoud}
+
+
 def _anders(naam: str, oud: str, nieuw: str) -> Bestanden:
-    inhoud = GOEDE_TEKENINGEN[naam].replace(oud, nieuw, 1)
-    assert inhoud != GOEDE_TEKENINGEN[naam], f"{naam} is as it was"
-    return {**GOEDE_TEKENINGEN, naam: inhoud}
+    return _vervang(GOEDE_TEKENINGEN, naam, oud, nieuw)
 
 
 _PCM, _SPEEX = "firmware/kestrolin_pcm.h", "externals/software/extern/speex/speexHeader.h"
@@ -191,14 +196,14 @@ GOEDE_BERICHTEN = {
 }
 
 
-def _vervang(oud: str, nieuw: str, naam: str = "docs/manual.md") -> Bestanden:
-    return {**GOEDE_BERICHTEN, naam: GOEDE_BERICHTEN[naam].replace(oud, nieuw, 1)}
+def _verteld(oud: str, nieuw: str, naam: str = "docs/manual.md") -> Bestanden:
+    return _vervang(GOEDE_BERICHTEN, naam, oud, nieuw)
 
 
 SLECHTE_BERICHTEN = [
-    ("'It said \"no\"'", _vervang('"no"', "no")),
-    ("'and 7 % of'", _vervang("7 %", "7%")),
-    ("does not tell '/* a\\tb */' of vertalingen/Velmoradesktop.pot", _vervang("\t", " ")),
-    ("'seekable:'", _vervang("channels:", "seekable:", "vertalingen/Kestrolin.pot")),
+    ("'It said \"no\"'", _verteld('"no"', "no")),
+    ("'and 7 % of'", _verteld("7 %", "7%")),
+    ("does not tell '/* a\\tb */' of vertalingen/Velmoradesktop.pot", _verteld("\t", " ")),
+    ("'seekable:'", _verteld("channels:", "seekable:", "vertalingen/Kestrolin.pot")),
     ("Kestrolin.pot: no texts", {**GOEDE_BERICHTEN, "vertalingen/Kestrolin.pot": _POT}),
 ]

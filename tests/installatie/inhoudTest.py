@@ -1,6 +1,7 @@
-"""Test of what an installation holds beside the program and its catalogs.
+"""Test of what an installation holds, or, of its files alone, the Debian package.
 
     inhoudTest.py CMAKE BUILD
+    inhoudTest.py PACKAGE
 """
 
 from __future__ import annotations
@@ -56,19 +57,23 @@ def van_boom(naam: str) -> set[str]:
     return {pad for pad in Boom(ROOT).bestanden if pad.startswith(f"{naam}/")}
 
 
-def keur_namen(prefix: Path) -> None:
-    """Everything lies in its place, and nothing else does."""
+def deelbaar() -> set[str]:
+    """What of the source tree is installed as it is."""
+    fragmenten = {pad for pad in van_boom("fragmenten") if pad.endswith(".wav")}
+    return (van_boom("firmware") | van_boom("docs") | fragmenten) - NIET_VOOR_GEBRUIKERS
+
+
+def keur_namen(prefix: Path, documenten: set[str]) -> None:
+    """Everything lies in its place, these documents among it, and nothing else does."""
     verwacht = {"bin/Kestrolin", MENU, METAINFO, MAN, "share/icons/hicolor/scalable/apps/kestrolin.svg"}
     verwacht |= {f"share/icons/hicolor/{m}x{m}/apps/kestrolin.png" for m in MATEN}
     verwacht |= {f"share/locale/{t}/LC_MESSAGES/{d}.mo"
                  for t in TALEN for d in ("Kestrolin", "Velmoradesktop")}
-    verwacht |= {f"share/doc/kestrolin/{naam}" for naam in ("CHANGELOG.md", "LICENSE", "manual")}
-    van_ons = van_boom("firmware") | van_boom("docs")
-    van_ons |= {pad for pad in van_boom("fragmenten") if pad.endswith(".wav")}
-    verwacht |= {f"share/kestrolin/{pad}" for pad in van_ons - NIET_VOOR_GEBRUIKERS}
+    verwacht |= {f"share/doc/kestrolin/{naam}" for naam in {"manual"} | documenten}
+    verwacht |= {f"share/kestrolin/{pad}" for pad in deelbaar()}
     gelijk(verwacht - bestanden(prefix), set(), "what is not installed")
     gelijk(bestanden(prefix) - verwacht, set(), "what is installed too")
-    for pad in van_ons - NIET_VOOR_GEBRUIKERS:
+    for pad in deelbaar():
         gelijk((prefix / "share/kestrolin" / pad).read_bytes(), (ROOT / pad).read_bytes(), pad)
     handleiding = prefix / "share/doc/kestrolin/manual/manual.md"
     gelijk(handleiding.read_bytes(), (ROOT / "docs/manual.md").read_bytes(), "the manual by its link")
@@ -157,15 +162,25 @@ def versie() -> str:
 VERSIE = versie()
 
 
-def main() -> None:
-    cmake, bouw = sys.argv[1], sys.argv[2]
+def keur_pakket(pakket: str) -> None:
+    """The package holds what is installed, with Debian's own documents."""
+    with tempfile.TemporaryDirectory() as uitgepakt:
+        zeg("dpkg-deb", "-x", pakket, uitgepakt)
+        afwijkingen = Path(uitgepakt, "usr/share/lintian/overrides/kestrolin")
+        gelijk(afwijkingen.read_bytes(), (ROOT / "packaging/debian/lintian-overrides").read_bytes(),
+               "what lintian is told")
+        afwijkingen.unlink()
+        keur_namen(Path(uitgepakt, "usr"), {"changelog.gz", "changelog.Debian.gz", "copyright"})
+
+
+def keur_installatie(cmake: str, bouw: str) -> None:
     keur_veranderingen()
     with tempfile.TemporaryDirectory() as tijdelijk:
         prefix, werk = Path(tijdelijk, "elsewhere"), Path(tijdelijk, "project")
         werk.mkdir()
         # A component: the list of files of a user's own installation is left alone so.
         zeg(cmake, "--install", bouw, "--prefix", prefix, "--component", "Unspecified")
-        keur_namen(prefix)
+        keur_namen(prefix, {"CHANGELOG.md", "LICENSE"})
         keur_menu(prefix)
         keur_metainfo(prefix)
         keur_handleiding_van_man(prefix)
@@ -174,4 +189,7 @@ def main() -> None:
 
 
 if __name__ == "__main__":
-    main()
+    if len(sys.argv) == 2:
+        keur_pakket(sys.argv[1])
+    else:
+        keur_installatie(*sys.argv[1:])
