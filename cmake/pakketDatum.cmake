@@ -1,5 +1,5 @@
 # Read by CPack before anything else: the package bears the date of Debian's changelog, so that the same
-# sources give the same package at any time.
+# tree in the same place gives the same package at any time.
 if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})
   execute_process(
     COMMAND dpkg-parsechangelog -l "${CPACK_KESTROLIN_DEBIAN}/changelog" -S Timestamp
