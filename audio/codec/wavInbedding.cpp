@@ -1,18 +1,18 @@
 #include "audio/codec/wavInbedding.h"
 
-#include <wx/datstrm.h>
 #include <wx/filename.h>
 #include <wx/intl.h>
 #include <wx/wfstream.h>
 
-#include <algorithm>
 #include <string>
+#include <string_view>
 #include <utility>
-#include <vector>
 
 #include "audio/codec/byteTekst.h"
 #include "audio/codec/fragmentTekst.h"
 #include "audio/codec/sndBestand.h"
+#include "audio/codec/tijdelijkBestand.h"
+#include "audio/codec/wavBeeld.h"
 
 namespace {
 
@@ -31,67 +31,52 @@ void schrijfKop(FragmentTekst& tekst, wxFileName const& wav, SF_INFO const& info
   tekst.schrijfSchaal(dacBits);
 }
 
-// Copies the samples of `bron` to a file of its kind, scaled. The count is one of frames and not of
-// samples: a file of two channels goes over by half. libsndfile takes whole frames alone.
-void schaal(SndBestand bron, wxFileName const& doel, int dacBits) {
-  constexpr int sampleBits = 16;
-  SF_INFO const& info = bron.info();
-  SndBestand uit = SndBestand::schrijf(doel, info.samplerate, info.channels, info.format);
-  if (!bron.isOpen()) {
-    return;
-  }
-  int const verschuiving = sampleBits - dacBits;
-  std::vector<short> frame(static_cast<std::size_t>(info.channels));
-  auto const lengte = static_cast<sf_count_t>(frame.size());
-  for (sf_count_t plaats = 0; plaats + lengte <= info.frames; plaats += lengte) {
-    // What cannot be read counts as zero.
-    std::fill(frame.begin(), frame.end(), short{0});
-    bron.leesItems(frame.data(), lengte);
-    // The floor of the quotient, so that -1 stays -1 at every width.
-    std::transform(frame.begin(), frame.end(), frame.begin(), [verschuiving](short sample) {
-      return static_cast<short>(sample >> verschuiving);
-    });
-    uit.schrijfItems(frame.data(), lengte);
-  }
-}
-
-// All bytes of the file, the line broken and a new one begun behind every eighth, also the last.
-void schrijfBytes(FragmentTekst& tekst, wxFileName const& beeld) {
+// All bytes of the image, the line broken and a new one begun behind every eighth, also the last.
+// True where they are those of an image of `frames` frames.
+bool schrijfBytes(FragmentTekst& tekst, wxFileName const& beeld, sf_count_t frames) {
   wxFileInputStream bestand(beeld.GetFullPath());
   if (!bestand.IsOk()) {
-    return;
+    return false;
   }
-  // The file alone would make a system call for each byte.
-  constexpr std::size_t bufferBytes = 65536;
-  wxBufferedInputStream buffer(bestand, bufferBytes);
-  wxDataInputStream bytes(buffer);
-  auto const lengte = static_cast<std::size_t>(bestand.GetLength());
-  std::wstring rij;
-  for (std::size_t nummer = 1; nummer <= lengte; ++nummer) {
-    rij += byteTeksten[bytes.Read8()].zicht();
-    if (nummer % bytesPerRij == 0) {
-      rij += L"\n\t";
-      tekst.schrijf(rij);
-      rij.clear();
+  // Whole rows, and no more of a long file than of a short one.
+  constexpr std::size_t blokBytes = 8192 * bytesPerRij;
+  constexpr std::size_t rijTekens = bytesPerRij * 5 + 2;
+  std::string blok(blokBytes, '\0');
+  std::wstring rijen;
+  rijen.reserve(blokBytes / bytesPerRij * rijTekens);
+  std::size_t lengte = 0;
+  bool heel = true;
+  while (bestand.ReadAll(blok.data(), blokBytes) || bestand.LastRead() > 0) {
+    std::string_view const bytes(blok.data(), bestand.LastRead());
+    if (lengte == 0) {
+      heel = isHeelWavBeeld(bytes, static_cast<std::size_t>(bestand.GetLength()), frames);
     }
+    rijen.clear();
+    for (char const een : bytes) {
+      rijen += byteTeksten[static_cast<unsigned char>(een)].zicht();
+      if (++lengte % bytesPerRij == 0) {
+        rijen += L"\n\t";
+      }
+    }
+    tekst.schrijf(rijen);
   }
-  tekst.schrijf(rij);
+  return heel && lengte > 0 && lengte == static_cast<std::size_t>(bestand.GetLength());
 }
 
 }  // namespace
 
-void schrijfInbedding(wxFileName const& wav, InbedOpties const& opties, wxOutputStream& uit) {
+bool schrijfInbedding(wxFileName const& wav, InbedOpties const& opties, wxOutputStream& uit) {
   FragmentTekst tekst(uit);
-  wxFileName const beeld(wxFileName::CreateTempFileName(wav.GetName()));
+  wxFileName const beeld(maakTijdelijkBestand(wav.GetName()));
   SndBestand bron = SndBestand::lees(wav);
+  sf_count_t const frames = framesInBeeld(bron.info());
   schrijfKop(tekst, wav, bron.info(), opties.dacBits);
   // Both files are complete and closed behind this.
-  schaal(std::move(bron), beeld, opties.dacBits);
+  bool const isGemaakt = maakWavBeeld(std::move(bron), beeld, opties.dacBits);
   tekst.schrijfArrayKop({opties.taal, opties.klasse, wav.GetName()}, "unsigned char");
   tekst.schrijf("\t");
-  if (beeld.IsOk()) {
-    schrijfBytes(tekst, beeld);
-  }
+  bool const isGelezen = beeld.IsOk() && schrijfBytes(tekst, beeld, frames);
   tekst.schrijf("};\n\n");
   tekst.schrijf("/* end of WAV file         : " + wav.GetFullName() + "         */\n");
+  return isGemaakt && isGelezen;
 }

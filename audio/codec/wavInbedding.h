@@ -20,7 +20,11 @@ struct InbedOpties {
 // bits wide, signed. Of a file with several channels it takes as many interleaved values as the
 // file has frames, without the part of a frame that may be left at the end.
 //
-// Samples pass a frame and bytes a buffer at a time, so that no file's size is ever held. Nothing
-// here reports an error: a file that cannot be read has the format line of IMA ADPCM, zeros and
-// "nan" in the lines below it, and an empty array.
-void schrijfInbedding(wxFileName const& wav, InbedOpties const& opties, wxOutputStream& uit);
+// Samples and bytes pass a block at a time, so that no file's size is ever held. A file that cannot
+// be read has the format line of IMA ADPCM, zeros and "nan" in the lines below it, and an empty
+// array.
+//
+// Returns whether the array holds all of that image: false where the source could not be read to
+// its end, or the image not be written and read back. The text is complete but for the array then.
+// What becomes of the text in `uit` is the affair of that stream.
+bool schrijfInbedding(wxFileName const& wav, InbedOpties const& opties, wxOutputStream& uit);

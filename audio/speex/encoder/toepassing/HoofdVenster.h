@@ -20,6 +20,7 @@
 
 #include "audio/codec/adpcmDesktopConverter.h"
 #include "audio/codec/pcmDesktopConverter.h"
+#include "audio/codec/uitvoerBestand.h"
 #include "audio/speex/encoder/toepassing/kestrolinConfig.h"
 
 class wxButton;
@@ -152,15 +153,18 @@ class HoofdVenster : public wxFrame {
   void meldCoderenMislukt(wxFileName const& wav);
   // False when the run ended before its last file.
   bool voerRunUit(CoderingsRun const& run);
-  void schrijfInbeddingen(wxFile& bestand, wxProgressDialog& voortgang) const;
+  void schrijfInbeddingen(wxOutputStream& bestand, wxProgressDialog& voortgang) const;
 
   struct GekozenDoel {
     wxString meldNaam;  // as the status bar tells it
-    wxString map;
+    wxString map;       // of the chosen file
   };
   // Lets the user choose the file for text of the output language; `bestand` is the last choice and
   // becomes the new one. Nothing when the user gave up: `bestand` then has the proposed name.
   std::optional<GekozenDoel> vraagDoel(wxString const& vraag, wxFileName& bestand);
+  // Opens the chosen file, to replace or to append as the user says. Not open where nothing may be
+  // saved or the file cannot be opened; the log tells why.
+  UitvoerBestand openDoel(wxFileName const& bestand);
   wxFile::OpenMode vraagOpenModus(wxFileName const& bestand);
 
   wxStaticBox* codeGeneratieBox = nullptr;

@@ -1,6 +1,5 @@
 // Playback: of the loaded files, and of the encoded result as firmware would decode it.
 #include <sndfile.h>
-#include <wx/file.h>
 #include <wx/intl.h>
 #include <wx/log.h>
 #include <wx/radiobox.h>
@@ -9,10 +8,11 @@
 #include <wx/treectrl.h>
 
 #include <memory>
+#include <utility>
 
 #include "audio/codec/logTekst.h"
+#include "audio/codec/uitvoerBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
-#include "audio/speex/encoder/toepassing/stroomKopie.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "externals/software/extern/speex/speexDesktop.h"
 
@@ -21,11 +21,16 @@ namespace {
 // What the status bar tells of a playback by a converter that counts nothing.
 constexpr int geenTelling = 0;
 
-// The sound of a loaded file. One that cannot be played is passed over without a word, the
-// toolkit's own included.
+// The sound of a loaded file, or null. One that cannot be played is passed over without a word, the
+// toolkit's own included. What took the place of a file is not opened: the toolkit would wait for a
+// named pipe, and ask for as much memory as a directory tells it has.
 std::unique_ptr<wxSound> openBron(wxFileName const& wav) {
+  if (wav.Exists() && !wav.FileExists()) {
+    return nullptr;
+  }
   wxLogNull const stil;
-  return std::make_unique<wxSound>(wav.GetFullPath(), false);
+  auto geluid = std::make_unique<wxSound>(wav.GetFullPath(), false);
+  return geluid->IsOk() ? std::move(geluid) : nullptr;
 }
 
 }  // namespace
@@ -39,7 +44,7 @@ void HoofdVenster::playMusicHandler(wxCommandEvent& /*event*/) {
   for (wxString const& pad : wavBestanden) {
     wxFileName const wav(pad);
     std::unique_ptr<wxSound> const geluid = openBron(wav);
-    if (!geluid->IsOk()) {
+    if (!geluid) {
       continue;
     }
     // The search goes on where the last one ended. The files of a load stand in the tree in the
@@ -117,15 +122,10 @@ void HoofdVenster::speelResultaat(
     std::function<int(wxFileName const& tekst, wxFileName const& wav)> const& decodeer) {
   wxFileName const tekst(wxFileName::CreateTempFileName(voorvoegsel));
   wxFileName const wav(wxFileName::CreateTempFileName("wavTmpBestand"));
-  wxFile tekstBestand;
-  wxFile wavBestand;
-  tekstBestand.Create(tekst.GetFullPath(), true, wxS_IWUSR);
-  wavBestand.Create(wav.GetFullPath(), true, wxS_IWUSR);
-  wavBestand.Close();
+  UitvoerBestand tekstBestand(tekst.GetFullPath(), wxS_IWUSR);
+  UitvoerBestand(wav.GetFullPath(), wxS_IWUSR).sluit();
   // What could not be created has been logged by the toolkit, and makes no sound.
-  if (tekstBestand.IsOpened()) {
-    kopieer(uitvoerStroom, tekstBestand);
-  }
+  tekstBestand.schrijf(uitvoerStroom);
   int const aantal = decodeer(tekst, wav);
   wxSound const geluid(wav.GetFullPath(), false);
   if (geluid.IsOk()) {
@@ -140,5 +140,5 @@ void HoofdVenster::speelResultaat(
     wxLogError(veiligFormaat(_("Could not decode and play encoded audio fragments.")));
     statusBalk->SetStatusText(_("Error playing decoded audio fragments."), 0);
   }
-  tekstBestand.Close();
+  tekstBestand.sluit();
 }

@@ -1,13 +1,14 @@
 // Saving of the generated text, and the questions that every save asks.
-#include <wx/file.h>
 #include <wx/filedlg.h>
 #include <wx/intl.h>
+#include <wx/log.h>
 #include <wx/msgdlg.h>
 #include <wx/statusbr.h>
 
+#include "audio/codec/uitvoerBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/bestandsNamen.h"
-#include "audio/speex/encoder/toepassing/stroomKopie.h"
+#include "audio/speex/encoder/toepassing/doelKeuring.h"
 
 void HoofdVenster::speexSaveHandler(wxCommandEvent& /*event*/) {
   std::optional<GekozenDoel> const doel =
@@ -16,13 +17,12 @@ void HoofdVenster::speexSaveHandler(wxCommandEvent& /*event*/) {
     return;
   }
   speexDirectory = doel->map;
-  wxFile bestand(speexBestand.GetFullPath(), vraagOpenModus(speexBestand));
-  // A file that cannot be opened has been logged by the toolkit; the text stays in memory.
-  if (bestand.IsOpened()) {
-    kopieer(uitvoerStroom, bestand);
-  }
+  UitvoerBestand bestand = openDoel(speexBestand);
+  // A file that takes nothing has been logged; the text stays in memory.
+  bestand.schrijf(uitvoerStroom);
   statusBalk->SetStatusText(_("Speex embedded data saved in ") + doel->meldNaam, 0);
   opgeslagen = true;
+  bestand.sluit();
 }
 
 std::optional<HoofdVenster::GekozenDoel> HoofdVenster::vraagDoel(wxString const& vraag,
@@ -37,7 +37,17 @@ std::optional<HoofdVenster::GekozenDoel> HoofdVenster::vraagDoel(wxString const&
     return std::nullopt;
   }
   bestand.Assign(dialoog.GetPath());
-  return GekozenDoel{::meldNaam(dialoog.GetFilename(), extensie), dialoog.GetDirectory()};
+  // The dialog's own directory is the one that it shows, which need not be that of a typed path.
+  return GekozenDoel{::meldNaam(dialoog.GetFilename(), extensie), bestand.GetPath()};
+}
+
+UitvoerBestand HoofdVenster::openDoel(wxFileName const& bestand) {
+  wxString const bezwaar = keurDoel(bestand, wavBestanden);
+  if (!bezwaar.empty()) {
+    wxLogError("%s", bezwaar);
+    return {};
+  }
+  return {bestand.GetFullPath(), vraagOpenModus(bestand)};
 }
 
 wxFile::OpenMode HoofdVenster::vraagOpenModus(wxFileName const& bestand) {

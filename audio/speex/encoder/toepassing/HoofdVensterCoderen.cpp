@@ -1,6 +1,5 @@
 // The encoding runs: from the loaded files to one text in the output stream and the text field.
 #include <wx/checkbox.h>
-#include <wx/file.h>
 #include <wx/intl.h>
 #include <wx/log.h>
 #include <wx/msgdlg.h>
@@ -13,9 +12,10 @@
 #include <utility>
 
 #include "audio/codec/logTekst.h"
+#include "audio/codec/tijdelijkBestand.h"
+#include "audio/codec/uitvoerBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/coderingsRun.h"
-#include "audio/speex/encoder/toepassing/stroomKopie.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "externals/software/extern/speex/speexDesktop.h"
 #include "numeriek/lopendGemiddelde.h"
@@ -185,13 +185,16 @@ bool HoofdVenster::voerRunUit(CoderingsRun const& run) {
 }
 
 void HoofdVenster::kopieerNaarTekstVeld(wxMemoryOutputStream const& stroom) const {
-  wxString const pad = wxFileName::CreateTempFileName(speexBestand.GetName());
-  wxFile bestand;
-  if (pad.empty() || !bestand.Create(pad, true, wxS_IWUSR)) {
+  wxString const pad = maakTijdelijkBestand(speexBestand.GetName());
+  if (pad.empty()) {
     // The toolkit has logged why. The text is safe in memory and can be saved from there.
     return;
   }
-  kopieer(stroom, bestand);
+  UitvoerBestand bestand(pad, wxS_IWUSR);
+  if (!bestand.isOpen()) {
+    return;
+  }
+  bestand.schrijf(stroom);
   tekstVeld->LoadFile(pad, wxTEXT_TYPE_ANY);
-  bestand.Close();
+  bestand.sluit();
 }

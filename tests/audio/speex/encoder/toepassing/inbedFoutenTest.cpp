@@ -1,6 +1,7 @@
 // Embedding to places that take no file: the toolkit's own words in the log, and everything else as
 // after a save that went well.
 #include <wx/button.h>
+#include <wx/filename.h>
 #include <wx/msgdlg.h>
 
 #include <algorithm>
@@ -10,6 +11,7 @@
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/inbedVensterProef.h"
+#include "tests/steun/volleSchijf.h"
 
 namespace {
 
@@ -98,13 +100,41 @@ TEST_F(InbedFoutenProef, AFailedSaveKeepsItsDirectoryForTheNextDialog) {
 TEST_F(InbedFoutenProef, WithoutRoomForAnImageTheArrayIsEmptyAndTheRestIsAsEver) {
   setenv("TMPDIR", "/proc", 1);
   inbed(pad("uit.c"));
-  EXPECT_EQ(fouten().size(), 1U);
+  ASSERT_EQ(fouten().size(), 2U);
+  EXPECT_EQ(fouten()[1], "Could not embed the whole of " + pad("bel.wav"));
   std::string const gevonden = gelezen(pad("uit.c"));
   EXPECT_NE(gevonden.find("/* Size                       : 2 bytes\t\t*/\n"), std::string::npos);
   EXPECT_NE(gevonden.find("const unsigned char bel[] = \n{\n\t};\n\n/* end of WAV file"),
             std::string::npos);
   EXPECT_EQ(status(), "WAV embedded data saved in uit.c");
   EXPECT_EQ(tekst(), inhoud(pad("uit.c")));
+}
+
+// The image of lang.wav is cut, and so is the text, which is longer.
+TEST_F(InbedFoutenProef, ADiskThatFillsUpIsToldForEachRecordingAndForTheText) {
+  laad({wav("bel.wav"), wav("100%s %n.wav", std::vector<std::int16_t>(500, 7))});
+  {
+    VolleSchijf const vol(1001);
+    inbed(pad("uit.c"));
+  }
+  std::vector<wxString> const gevonden = fouten();
+  ASSERT_EQ(gevonden.size(), 3U);
+  EXPECT_EQ(gevonden[0], "Could not embed the whole of " + pad("100%s %n.wav"));
+  EXPECT_TRUE(gevonden[1].Contains("File too large"));
+  EXPECT_EQ(gevonden[2], "Could not write the whole of " + pad("uit.c"));
+  EXPECT_EQ(wxFileName::GetSize(pad("uit.c")), 1001);
+  EXPECT_EQ(status(), "WAV embedded data saved in uit.c");
+}
+
+TEST_F(InbedFoutenProef, ALongNameHasItsImageToo) {
+  for (std::string const& naam : {std::string(251, 'a'), std::string(249, 'a')}) {
+    laad({wav(naam + ".wav")});
+    inbed(pad(naam + ".c"));
+    EXPECT_TRUE(fouten().empty());
+    EXPECT_TRUE(zelfdeTekst(
+        gelezen(pad(naam + ".c")),
+        verwachteTekst("// extern const unsigned char " + naam + "[];\n", {{naam, {1, -1}}})));
+  }
 }
 
 TEST_F(InbedFoutenProef, AnImageInTheTemporaryDirectoryForEachFileStaysBehind) {

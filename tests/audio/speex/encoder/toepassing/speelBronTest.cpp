@@ -1,4 +1,5 @@
 // The source files as they are heard, and their lines in the tree.
+#include <sys/stat.h>
 #include <wx/button.h>
 #include <wx/sound.h>
 #include <wx/treectrl.h>
@@ -143,6 +144,20 @@ TEST_F(SpeelBronProef, AFileThatIsGoneSinceTheLoadIsPassedOverWithoutAWord) {
   EXPECT_EQ(neemGeluidPaden(), paden);
   EXPECT_EQ(lengten(), (Lengten{5, 7}));
   EXPECT_EQ(vet(), (Vet{{0}, {2}}));
+  EXPECT_TRUE(log().empty());
+}
+
+// The toolkit would ask for as much memory as the directory tells it has, and wait for the pipe.
+TEST_F(SpeelBronProef, WhatTookTheFilesPlaceIsPassedOverWithoutAWord) {
+  laad({klank("a.wav", 5), klank("b.wav", 6), klank("c.wav", 7)});
+  std::filesystem::remove(map.pad("a.wav"));
+  std::filesystem::remove(map.pad("b.wav"));
+  std::filesystem::create_directory(map.pad("a.wav"));
+  ASSERT_EQ(mkfifo(map.pad("b.wav").c_str(), 0600), 0);
+  klik(ID_SPEEL_BRON);
+  EXPECT_EQ(neemGeluidPaden(), Paden{pad("c.wav")});
+  EXPECT_EQ(lengten(), Lengten{7});
+  EXPECT_EQ(vet(), Vet{{2}});
   EXPECT_TRUE(log().empty());
 }
 
