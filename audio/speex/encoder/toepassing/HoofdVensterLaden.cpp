@@ -34,7 +34,11 @@ void HoofdVenster::wavOpenHandler(wxCommandEvent& /*event*/) {
   }
   wxArrayString paden;
   dialoog.GetPaths(paden);
-  wavDirectory = dialoog.GetDirectory();
+  if (!paden.empty()) {
+    // The dialog's own directory is the one that it shows. A typed path need not lie there, and a
+    // file chosen from the recent ones has none there.
+    wavDirectory = wxFileName(paden[0]).GetPath();
+  }
   openWavFiles(paden);
 }
 
