@@ -22,7 +22,7 @@ sys.path.insert(0, str(WORTEL / "tour"))
 import nakijken
 from bediening import Programma
 from schermwerk import toets, wacht
-from teksten import MELDING_ADPCM, MELDING_PCM, MELDING_SPEEX, TITEL
+from teksten import MELDING_ADPCM, MELDING_PCM, MELDING_SPEEX, OPEN_TITEL, TITEL
 
 FRAGMENTEN = WORTEL / "fragmenten"
 
@@ -130,6 +130,33 @@ def weg(programma: Path, thuis: Path) -> None:
     gelijk(configuratie["Convertertype"], "2", "Convertertype")
     gelijk(configuratie["wavDirectory"], str(geluid), "wavDirectory")
     gelijk({configuratie["file1"], configuratie["file2"]}, {str(w) for w in wavs}, "history")
+
+
+def mappen(programma: Path, thuis: Path) -> None:
+    """The folder that counts is that of a typed path, and not the one that the dialog shows."""
+    geluid, doel = thuis / "ver" / "geluid", thuis / "elders" / "uit.c"
+    geluid.mkdir(parents=True)
+    doel.parent.mkdir()
+    wav = Path(shutil.copy(FRAGMENTEN / "ready.wav", geluid))
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        toets("ctrl+o")
+        p.kies_doel(wav, OPEN_TITEL)
+        p.bevestig(OPEN_TITEL)
+        p.keuzerondje("PCM")
+        p.keuzerondje("C")
+        p.knop("Encode")
+        p.sluit_box(f"Audio data in\n{geluid}\nwas successfully encoded to PCM.")
+        p.bewaar(doel)
+        # Onto the recording itself, which stays as it is.
+        p.bewaar(wav)
+        p.sluit_box(f"{wav} is a loaded recording, and nothing is saved to it")
+        keur_einde(p, p.verlaat())
+    gelijk(wav.read_bytes(), (FRAGMENTEN / "ready.wav").read_bytes(), "the recording")
+    nakijken.keur_arrays(doel, [wav])
+    configuratie = lees_instellingen(thuis)["Configuratie"]
+    gelijk(configuratie["wavDirectory"], str(geluid), "wavDirectory")
+    gelijk(configuratie["speexDirectory"], str(geluid), "speexDirectory")
 
 
 def codeer_speex(p: Programma, doel: Path) -> None:
@@ -280,6 +307,7 @@ def sluitvak(programma: Path, thuis: Path) -> None:
 GEVALLEN: dict[str, Callable[[Path, Path], None]] = {
     "eersteStart": eerste_start,
     "weg": weg,
+    "mappen": mappen,
     "speex": speex,
     "adpcm": adpcm,
     "adpcmEinde": adpcm_einde,
