@@ -9,6 +9,7 @@
 #include <string>
 
 #include "bench/adpcmTekst.h"
+#include "bench/inbedTekst.h"
 #include "bench/pcmTekst.h"
 #include "bench/speexTekst.h"
 
@@ -20,8 +21,9 @@ int main() {
   }
   wxLog::SetLogLevel(wxLOG_Warning);
   bool const pcm = meetPcm(map);
+  bool const inbedding = meetInbedding(map);
   bool const adpcm = meetAdpcm(map);
   bool const speex = meetSpeex(map);
   wxFileName::Rmdir(map, wxPATH_RMDIR_RECURSIVE);
-  return pcm && adpcm && speex ? 0 : 1;
+  return pcm && inbedding && adpcm && speex ? 0 : 1;
 }
