@@ -35,14 +35,20 @@ bool isWindows(wxOperatingSystemId systeem) {
          systeem == wxOS_WINDOWS_MICRO || systeem == wxOS_WINDOWS_CE;
 }
 
-// Without a locale the process is in "C", in which no name with an accent can be turned into the
-// bytes of a path. The character type of the user's environment, or that of C.UTF-8 where the
-// environment offers ASCII alone (glibc's name for it), brings such names back and changes nothing
-// else.
+// glibc's name of the character set of "C".
+bool isAscii() {
+  return std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0;
+}
+
+// In a locale of ASCII alone no name with an accent can be turned into the bytes of a path. Without
+// a locale the process is in "C"; and one that was made can be "C" as well, where the toolkit takes
+// over what the environment says. The character type of the user's environment, or that of C.UTF-8
+// where the environment offers no more, brings such names back and changes nothing else.
 void zetTekensoort() {
-  bool const gezet = std::setlocale(LC_CTYPE, "") != nullptr;
-  if (!gezet || std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0) {
-    static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8"));
+  for (char const* const naam : {"", "C.UTF-8"}) {
+    if (isAscii()) {
+      static_cast<void>(std::setlocale(LC_CTYPE, naam));
+    }
   }
 }
 
@@ -96,9 +102,9 @@ void DesktopAppBasis::startTaal(wxString const& naam) {
   }
   // A file edited by hand may hold the one number that the toolkit meets with an assertion.
   bool const gezet = taal != wxLANGUAGE_UNKNOWN && locale.Init(taal, wxLOCALE_LOAD_DEFAULT);
+  zetTekensoort();
   if (!gezet) {
     wxLogError("Could not initialise the Locale for %s", taalNaam);
-    zetTekensoort();
   } else if (taal != wxLANGUAGE_ENGLISH) {
     // The source texts are English, so that English needs no catalog.
     voegCatalogiToe(naam, taalNaam);

@@ -155,6 +155,67 @@ TEST_F(TaalZonderLocale, WithoutALocaleTheCharacterTypeOfTheEnvironmentIsTaken) 
   EXPECT_EQ(padBytes("caf\xC3\xA9.wav"), "caf\xC3\xA9.wav");
 }
 
+// The locale of English that the toolkit makes here knows ASCII alone, as that of the environment
+// "C" does.
+TEST_F(TaalZonderLocale, LocaleOfAsciiAloneKeepsItsCategoriesAndNamesWithAccentsWork) {
+  std::string const doel = map.pad("locales/en_US");
+  if (std::system(("localedef -i en_US -f ANSI_X3.4-1968 " + doel + " 2>/dev/null").c_str()) != 0) {
+    GTEST_SKIP() << "this machine cannot compile locales";
+  }
+  setenv("LC_ALL", "C", 1);
+  startInTaal(nummer(wxLANGUAGE_ENGLISH));
+  EXPECT_TRUE(log.empty());
+  EXPECT_STREQ(nl_langinfo(CODESET), "UTF-8");
+  for (int const soort : {LC_NUMERIC, LC_TIME, LC_COLLATE, LC_MONETARY, LC_MESSAGES}) {
+    EXPECT_STREQ(std::setlocale(soort, nullptr), "en_US");
+  }
+  EXPECT_EQ(padBytes("caf\xC3\xA9.wav"), "caf\xC3\xA9.wav");
+}
+
+// The toolkit takes over what the environment says, which may be ASCII.
+class TaalInKaleOmgeving : public Taal, public ::testing::WithParamInterface<char const*> {
+ protected:
+  void SetUp() override {
+    Taal::SetUp();
+    for (char const* naam : {"LC_ALL", "LC_CTYPE", "LANG"}) {
+      unsetenv(naam);
+    }
+    std::string const toekenning = GetParam();
+    std::size_t const is = toekenning.find('=');
+    setenv(toekenning.substr(0, is).c_str(), toekenning.substr(is + 1).c_str(), 1);
+  }
+
+  static void verwachtNamenMetAccenten() {
+    EXPECT_STREQ(nl_langinfo(CODESET), "UTF-8");
+    EXPECT_EQ(padBytes("caf\xC3\xA9 \xE6\x97\xA5.wav"), "caf\xC3\xA9 \xE6\x97\xA5.wav");
+  }
+};
+
+TEST_P(TaalInKaleOmgeving, NamesWithAccentsWorkWithTheLanguageOfTheEnvironment) {
+  startInTaal(nummer(wxLANGUAGE_DEFAULT));
+  verwachtNamenMetAccenten();
+  EXPECT_STREQ(std::setlocale(LC_NUMERIC, nullptr), "C");
+}
+
+TEST_P(TaalInKaleOmgeving, EveryLanguageOfTheToolKeepsItsOwnLocale) {
+  std::map<wxLanguage, std::string> const talen{
+      {wxLANGUAGE_ENGLISH, "en_"}, {wxLANGUAGE_DUTCH, "nl_"},   {wxLANGUAGE_GERMAN, "de_"},
+      {wxLANGUAGE_FRENCH, "fr_"},  {wxLANGUAGE_ITALIAN, "it_"}, {wxLANGUAGE_SPANISH, "es_"}};
+  for (auto const& [taal, begin] : talen) {
+    SCOPED_TRACE(begin);
+    startInTaal(nummer(taal));
+    verwachtNamenMetAccenten();
+    for (int const soort : {LC_CTYPE, LC_NUMERIC}) {
+      std::string const naam = std::setlocale(soort, nullptr);
+      EXPECT_EQ(naam.substr(0, 3), begin) << naam;
+    }
+    stop();
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(, TaalInKaleOmgeving,
+                         ::testing::Values("LC_ALL=C", "LC_ALL=POSIX", "LANG=C", "LC_CTYPE=C"));
+
 TEST_F(Taal, LocaleOfTheProcessEndsWithTheApplication) {
   start();
   EXPECT_NE(std::strcmp(std::setlocale(LC_CTYPE, nullptr), "C"), 0);
