@@ -13,6 +13,7 @@
 #include "audio/codec/logTekst.h"
 #include "audio/codec/uitvoerBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/speexConfig.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "externals/software/extern/speex/speexDesktop.h"
 
@@ -89,8 +90,7 @@ void HoofdVenster::playEncodedHandler(wxCommandEvent& event) {
 }
 
 void HoofdVenster::playEncodedSpeex(wxCommandEvent& /*event*/) {
-  auto const decoder = std::make_unique<SpeexDesktopDecoder>(
-      static_cast<SpeexBandFormaat>(instellingen->speexFormat), this);
+  auto const decoder = std::make_unique<SpeexDesktopDecoder>(speexBandVan(*instellingen), this);
   speelResultaat("speexTmpBestand", [&decoder](wxFileName const& tekst, wxFileName const& wav) {
     unsigned long long aantal = 0;
     decoder->decode(tekst, wav, aantal, SF_FORMAT_WAV | SF_FORMAT_PCM_16);

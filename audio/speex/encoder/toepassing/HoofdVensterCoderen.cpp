@@ -16,6 +16,7 @@
 #include "audio/codec/uitvoerBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/coderingsRun.h"
+#include "audio/speex/encoder/toepassing/speexConfig.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "externals/software/extern/speex/speexDesktop.h"
 #include "numeriek/lopendGemiddelde.h"
@@ -118,12 +119,8 @@ void HoofdVenster::maakSpeexEncoder() {
   if (speexEncoder) {
     mislukteEncoders.push_back(std::move(speexEncoder));
   }
-  SpeexEncodeConfig const opties(static_cast<SpeexBandFormaat>(instellingen->speexFormat),
-                                 instellingen->speexQuality, instellingen->speexComplexity,
-                                 static_cast<SpeexBitrateType>(instellingen->speexBitRateChoice),
-                                 instellingen->speexBitRate,
-                                 static_cast<unsigned int>(geefBitShift()), instellingen->speexVAC,
-                                 instellingen->speexDenoise, instellingen->speexAGC);
+  SpeexEncodeConfig const opties =
+      maakSpeexConfig(*instellingen, static_cast<unsigned int>(geefBitShift()));
   speexEncoder = std::make_unique<SpeexDesktopEncoder>(
       opties, instellingen->speexOutputLanguage == UitvoerTaalC ? SpeexEncoderOpties()
                                                                 : SpeexEncoderOpties(klasseNaam));

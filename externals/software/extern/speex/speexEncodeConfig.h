@@ -1,5 +1,6 @@
 // All settings of a Speex encoder, as a plain record that holds what it is handed: no range is
-// checked here, nor by the encoder, and the Speex library gets the values as they stand.
+// checked here, nor by the encoder, and the Speex library gets the values as they stand. Values
+// beyond the ranges below can end the program in the library.
 #pragma once
 
 #include "audio/codec/audioConfig.h"
