@@ -5,6 +5,7 @@
 // noemer; nothing moves a sign or brings the pair to lowest terms on its own. Nothing is reported,
 // thrown or allocated; integer arithmetic that leaves 64 bits wraps (two's complement), and what
 // the processor or the loop could not end has a result all the same: see rondAf and normaliseer.
+// The results of a zero divisor and of 0/0, as told below, are settled: callers may rely on them.
 #pragma once
 
 #include <array>

@@ -40,7 +40,8 @@ class VelmoraMemBuffer {
   // All bytes of the block.
   unsigned long long grootte() const { return grootte_; }
 
-  // The bytes of one slot: grootte() divided by sloten(), truncated; 0 without slots.
+  // The bytes of one slot: grootte() divided by sloten(), truncated. Without slots it is 0; that is
+  // settled, and callers may rely on it.
   unsigned long long slotGrootte() const { return sloten_ == 0 ? 0 : grootte_ / sloten_; }
 
  private:

@@ -70,7 +70,8 @@ constexpr char const* speexFileSleutel = "speexFile";
 constexpr char const* klasseNaamSleutel = "klasseNaam";
 constexpr char const* encoderSoortSleutel = "Convertertype";
 
-// The home directory without a separator at its end, so that its last part can name a file.
+// The home directory without a separator at its end, so that its last part can name a file. It is
+// kept so, shown so in messages, and written so into the configuration.
 wxString geefThuis() {
   wxString thuis = wxFileName(wxGetHomeDir()).GetFullPath();
   while (thuis.length() > 1 && wxFileName::IsPathSeparator(thuis.Last())) {

@@ -33,7 +33,8 @@ class SpeexDesktopDecoder : public SpeexDecoder {
   //
   // A text that ends between the two header fields has a fragment of 0 frames there.
   // Any text may be handed in. It ends by itself: past the end of the text no count is run on above
-  // what two header bytes can tell, and a WAV file that is full ends the decoding.
+  // what two header bytes can tell, and a WAV file that is full ends the decoding. Only the counts
+  // of an edited text get there: 65535 frames of 640 samples are a sixth of what fits.
   int decode(wxFileName const& invoer, wxFileName const& uitvoer,
              unsigned long long& aantalFragmenten, unsigned int sfFormaat);
 

@@ -41,6 +41,13 @@ TEST_F(InbedFoutenProef, ADirectoryThatTakesNoFiles) {
   verwachtMislukt("'/proc/uit.c'", "uit.c");
 }
 
+// No image either: there is nowhere to put the text.
+TEST_F(InbedFoutenProef, NothingIsEmbeddedWhereTheTargetCannotBeOpened) {
+  inbed("/proc/uit.c");
+  EXPECT_TRUE(std::filesystem::is_empty(map.pad("tmp")));
+  verwachtMislukt("'/proc/uit.c'", "uit.c");
+}
+
 TEST_F(InbedFoutenProef, APathThatIsADirectory) {
   submap("map.c");
   inbed(pad("map.c"));
