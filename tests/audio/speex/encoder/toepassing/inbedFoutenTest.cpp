@@ -48,6 +48,12 @@ TEST_F(InbedFoutenProef, NothingIsEmbeddedWhereTheTargetCannotBeOpened) {
   verwachtMislukt("'/proc/uit.c'", "uit.c");
 }
 
+// A file that even an administrator cannot open for writing, and anybody can read.
+TEST_F(InbedFoutenProef, TheTextOfATargetThatCannotBeOpenedIsNotShown) {
+  inbedOver("/sys/devices/system/cpu/online", wxID_NO);
+  verwachtMislukt("'/sys/devices/system/cpu/online'", "onlinec");
+}
+
 TEST_F(InbedFoutenProef, APathThatIsADirectory) {
   submap("map.c");
   inbed(pad("map.c"));
