@@ -1,7 +1,5 @@
 #include "tests/steun/logboek.h"
 
-#include <gtest/gtest.h>
-
 void VerzamelLog::DoLogRecord(wxLogLevel niveau, wxString const& tekst,
                               wxLogRecordInfo const& /*info*/) {
   // Tests run side by side as one user, so that each is another's second copy and meets its lock
@@ -10,6 +8,15 @@ void VerzamelLog::DoLogRecord(wxLogLevel niveau, wxString const& tekst,
   if (niveau < wxLOG_Debug && !overSlot) {
     regels.push_back({niveau, tekst});
   }
+}
+
+testing::AssertionResult nietsGelogd(std::vector<LogRegel> const& log) {
+  testing::AssertionResult uitslag =
+      log.empty() ? testing::AssertionSuccess() : testing::AssertionFailure() << "logged:";
+  for (LogRegel const& regel : log) {
+    uitslag << "\n  level " << regel.niveau << ": " << regel.tekst.utf8_str();
+  }
+  return uitslag;
 }
 
 void meldAssertie(wxString const& bestand, int regel, wxString const& functie,

@@ -1,6 +1,7 @@
 // Collects what the program logs, and turns assertions of the toolkit into failures of the test.
 #pragma once
 
+#include <gtest/gtest.h>
 #include <wx/log.h>
 #include <wx/string.h>
 
@@ -22,6 +23,9 @@ class VerzamelLog : public wxLog {
  private:
   std::vector<LogRegel>& regels;
 };
+
+// For EXPECT_TRUE: succeeds where nothing was logged, and tells what was where it fails.
+testing::AssertionResult nietsGelogd(std::vector<LogRegel> const& log);
 
 // For wxSetAssertHandler: fails the running test and goes on.
 void meldAssertie(wxString const& bestand, int regel, wxString const& functie,

@@ -17,7 +17,12 @@ TEST(TestOmgeving, logWordtVerzameldEnGeleegd) {
   std::vector<LogRegel> const meldingen = neemLog();
   ASSERT_EQ(meldingen.size(), 1U);
   EXPECT_EQ(meldingen[0].tekst, "first");
-  EXPECT_TRUE(neemLog().empty());
+  EXPECT_TRUE(nietsGelogd(neemLog()));
+}
+
+TEST(TestOmgeving, logDieNietLeegIsWordtGetoond) {
+  EXPECT_NONFATAL_FAILURE(EXPECT_TRUE(nietsGelogd({{wxLOG_Error, "first"}, {wxLOG_Message, "%s"}})),
+                          "logged:\n  level 1: first\n  level 3: %s");
 }
 
 }  // namespace

@@ -99,7 +99,7 @@ TEST_F(BewarenProef, ANewFileIsWrittenWithoutAQuestion) {
   EXPECT_EQ(status(), "Speex embedded data saved in uit.c");
   // The message of the run, and no other.
   EXPECT_EQ(antwoorden.berichten.size(), 1U);
-  EXPECT_TRUE(fouten().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
 }
 
 TEST_F(BewarenProef, ANameWithoutExtensionStaysAndOnlyTheStatusTextGluesItOn) {

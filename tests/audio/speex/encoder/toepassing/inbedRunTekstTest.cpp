@@ -16,7 +16,7 @@ TEST_F(InbedTekstProef, ANewFileIsWrittenWithoutAQuestion) {
   EXPECT_EQ(tekst(), inhoud(pad("uit.c")));
   EXPECT_EQ(status(), "WAV embedded data saved in uit.c");
   EXPECT_TRUE(antwoorden.berichten.empty());
-  EXPECT_TRUE(fouten().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
 }
 
 TEST_F(InbedTekstProef, ThreeFilesStandInTheOrderOfTheirPathsWithTheirNumbersInTheMarks) {
@@ -85,7 +85,7 @@ TEST_F(InbedTekstProef, NoFilesGiveTheHeadWithTheNumber0AndNoBlock) {
   EXPECT_EQ(tekst(), inhoud(pad("uit.c")));
   EXPECT_EQ(status(), "WAV embedded data saved in uit.c");
   EXPECT_EQ(voortgang(), nullptr);
-  EXPECT_TRUE(fouten().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
 }
 
 TEST_F(InbedTekstProef, NoFilesInCPlusPlusKeepTheShellOfTheClass) {

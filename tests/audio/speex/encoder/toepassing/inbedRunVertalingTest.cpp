@@ -59,7 +59,7 @@ class InbedVertalingProef : public InbedVensterProef {
     maakCatalogus(map.pad("cat/nl/LC_MESSAGES/Kestrolin.mo"), teksten);
     begin(0, wxEmptyString, wxEmptyString,
           wxString::Format("[Gebruikersinstellingen]\nTaal=%d\n", wxLANGUAGE_DUTCH));
-    ASSERT_TRUE(fouten().empty());
+    ASSERT_TRUE(nietsGelogd(log()));
     ASSERT_EQ(wxGetTranslation("Embedded"), "VERTAALD");
     laad({wav("bel.wav")});
   }

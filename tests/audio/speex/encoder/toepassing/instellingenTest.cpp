@@ -194,7 +194,7 @@ TEST_F(InstellingenProef, ClassNameIsStoredAsTypedAndGivesTheResultUp) {
 TEST_F(InstellingenProef, BitRateThatIsANumberIsTakenOver) {
   start();
   geefRate("12345");
-  EXPECT_TRUE(log().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
   EXPECT_EQ(stopSpeex("speexBitRate"), "12345");
 }
 
@@ -202,7 +202,7 @@ TEST_F(InstellingenProef, BitRateKeepsItsLow32Bits) {
   start();
   // 2^32 + 7.
   geefRate("4294967303");
-  EXPECT_TRUE(log().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
   EXPECT_EQ(stopSpeex("speexBitRate"), "7");
 }
 

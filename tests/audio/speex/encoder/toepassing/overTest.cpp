@@ -62,7 +62,7 @@ TEST_F(OverEngels, EveryFieldIsThePrograms) {
   EXPECT_FALSE(info.HasArtists());
   EXPECT_FALSE(info.HasTranslators());
   EXPECT_EQ(ouder, venster);
-  EXPECT_TRUE(log().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
 }
 
 TEST_F(OverEngels, DescriptionStartsWithThePlatformAndTheTextOfTheCallerFollowsOnTheNextLine) {

@@ -35,7 +35,7 @@ class SpeelBronProef : public SpeelProef {
     ASSERT_EQ(laad(paden).size(), paden.size());
     log().clear();
     klik(ID_SPEEL_BRON);
-    EXPECT_TRUE(log().empty());
+    EXPECT_TRUE(nietsGelogd(log()));
     EXPECT_EQ(vetteRijen(), Rijen{});
   }
 
@@ -62,7 +62,7 @@ TEST_F(SpeelBronProef, WithNothingLoadedNothingHappens) {
   stuur(knop(ID_SPEEL_BRON), wxEVT_BUTTON);
   EXPECT_TRUE(neemGeluidPaden().empty());
   EXPECT_TRUE(gehoord.empty());
-  EXPECT_TRUE(log().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
 }
 
 TEST_F(SpeelBronProef, AfterALoadOfOnlyUnusableFilesTheButtonWorksAndNothingHappens) {
@@ -144,7 +144,7 @@ TEST_F(SpeelBronProef, AFileThatIsGoneSinceTheLoadIsPassedOverWithoutAWord) {
   EXPECT_EQ(neemGeluidPaden(), paden);
   EXPECT_EQ(lengten(), (Lengten{5, 7}));
   EXPECT_EQ(vet(), (Vet{{0}, {2}}));
-  EXPECT_TRUE(log().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
 }
 
 // The toolkit would ask for as much memory as the directory tells it has, and wait for the pipe.
@@ -167,7 +167,7 @@ TEST_F(SpeelBronProef, WithAllFilesGoneNothingIsHeard) {
   klik(ID_SPEEL_BRON);
   EXPECT_TRUE(gehoord.empty());
   EXPECT_EQ(vetteRijen(), Rijen{});
-  EXPECT_TRUE(log().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
 }
 
 TEST_F(SpeelBronProef, FilesAreHeardInTheOrderOfTheirPathsAndBoldWhereTheSearchFindsThem) {

@@ -27,7 +27,7 @@ class SpeelVertalingProef : public SpeelProef {
           "Eén deel %d: %ld Hz, %ld keer"}});
     beginSpeex(0, wxEmptyString,
                wxString::Format("[Gebruikersinstellingen]\nTaal=%d\n", wxLANGUAGE_DUTCH));
-    ASSERT_TRUE(fouten().empty());
+    ASSERT_TRUE(nietsGelogd(log()));
     neemOp();
     laadFragmenten({korteBel()});
     codeer();

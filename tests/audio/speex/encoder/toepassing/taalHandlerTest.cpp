@@ -234,7 +234,7 @@ TEST_P(TaalHandlerElkeTaal, AfterYesTheNextStartComesUpInIt) {
     EXPECT_EQ(eindigNaHoofdlus().at(taalSleutel), getal(GetParam().nummer));
   });
   start();
-  EXPECT_TRUE(log().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
   laad({wav("bel.wav")});
   EXPECT_EQ(status().utf8_string(), anders("Audio files loaded"));
   EXPECT_EQ(stopSleutels().at(taalSleutel), getal(GetParam().nummer));
@@ -249,7 +249,7 @@ TEST_P(TaalHandlerElkeTaal, OutOfItEnglishIsChosenAndNeedsNoCatalogAtTheNextStar
   std::filesystem::create_directories(map.pad("leeg"));
   OmgevingsWaarde const geenCatalogi("LC_PATH", map.pad("leeg"));
   start();
-  EXPECT_TRUE(log().empty());
+  EXPECT_TRUE(nietsGelogd(log()));
   laad({wav("bel.wav")});
   EXPECT_EQ(status(), "Audio files loaded");
 }
