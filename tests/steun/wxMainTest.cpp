@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <wx/debug.h>
 #include <wx/log.h>
+#include <wx/utils.h>
 
 #include "tests/steun/wxMain.h"
 
@@ -23,6 +24,13 @@ TEST(TestOmgeving, logWordtVerzameldEnGeleegd) {
 TEST(TestOmgeving, logDieNietLeegIsWordtGetoond) {
   EXPECT_NONFATAL_FAILURE(EXPECT_TRUE(nietsGelogd({{wxLOG_Error, "first"}, {wxLOG_Message, "%s"}})),
                           "logged:\n  level 1: first\n  level 3: %s");
+}
+
+TEST(TestOmgeving, slotVanEenAndereKopieKomtNietInHetLog) {
+  wxString const slot = "/tmp/Kestrolin-" + wxGetUserId();
+  wxLogError("can't open file '%s' (error 2: No such file or directory)", slot);
+  wxLogError("Failed to inspect the lock file '%s' (error 2: No such file or directory)", slot);
+  EXPECT_TRUE(nietsGelogd(neemLog()));
 }
 
 }  // namespace
