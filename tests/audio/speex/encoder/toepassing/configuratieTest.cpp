@@ -182,6 +182,8 @@ TEST_F(ConfiguratieProef, EnhancementIsTickedAtEveryStartAndNeverStored) {
   verwacht["/Gebruikersinstellingen/Speex/speexVAC"] = "0";
   verwacht["/Gebruikersinstellingen/Speex/perpenh"] = "0";
   EXPECT_EQ(sleutels, verwacht);
+  start();
+  EXPECT_TRUE(vakje(ID_PERPENH)->GetValue());
 }
 
 TEST_F(ConfiguratieProef, UnknownKeysAndGroupsAreKept) {

@@ -129,7 +129,18 @@ TEST_F(FrequentiesProef, TheResultAndTheStatusTextOutliveABrokenLoad) {
   EXPECT_EQ(zonderMoment(inhoud(pad("uit.c"))), text);
 }
 
-TEST_F(FrequentiesProef, OnlyTheFirstFilesAreLeftForAnEncoder) {
+// Save proposes the name of a file that is alone in the list, and the directory's for any other
+// number.
+TEST_F(FrequentiesProef, TheFirstFileAloneIsLeftInTheList) {
+  begin();
+  laad({opRate("c.wav", 8000)});
+  codeer();
+  laad({opRate("b.wav", 16000), opRate("a.wav", 8000)});
+  bewaar(pad("uit.c"));
+  EXPECT_EQ(antwoorden.bestandsVragen.back().naam, "b.c");
+}
+
+TEST_F(FrequentiesProef, OnlyAGoodLoadBringsTheAudioBack) {
   begin();
   antwoorden.opBericht(wxID_OK);
   laad({opRate("b.wav", 8000), opRate("a.wav", 16000)});

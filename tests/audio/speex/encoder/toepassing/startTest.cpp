@@ -4,6 +4,7 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
+#include <wx/image.h>
 #include <wx/panel.h>
 #include <wx/radiobox.h>
 #include <wx/spinctrl.h>
@@ -201,6 +202,11 @@ TEST_F(StartProef, BoxesAreAllTicked) {
   for (int const id : {ID_VAD, ID_AGC, ID_DENOISE, ID_PERPENH, ID_INCL_HEADER}) {
     EXPECT_TRUE(vakje(id)->GetValue()) << id;
   }
+}
+
+TEST_F(StartProef, PicturesInXpmCanBeRead) {
+  start();
+  EXPECT_NE(wxImage::FindHandler(wxBITMAP_TYPE_XPM), nullptr);
 }
 
 TEST_F(StartProef, FieldsHoldTheBitRateAndNoClass) {
