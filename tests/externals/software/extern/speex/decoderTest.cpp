@@ -128,6 +128,43 @@ TEST(SpeexDecodeer, ASecondFragmentIsAbsorbedWhileTheCountOfTheFirstRuns) {
   verwachtGelukt(decodeer(runTekst({}, {eerste, tweede})), 1, luisteraar.samples);
 }
 
+// As a save leaves them that appends to the file of an earlier one.
+TEST(SpeexDecodeer, TwoWholeRunTextsInOneFileAreDecodedAsOne) {
+  // As below: of 411 frames in each the first 160 are played.
+  Samples const samples = ruis(2 * 65696);
+  Samples const eerste(samples.begin(), samples.begin() + 65696);
+  Samples const tweede(samples.begin() + 65696, samples.end());
+  Luisteraar luisteraar(SpeexNarrowband);
+  for (Samples const& een : {eerste, tweede}) {
+    Frames const frames = codeer(SpeexNarrowband, een);
+    luisteraar.hoorAlle({frames.begin(), frames.begin() + 160});
+  }
+  SpeexRun inKlasse;
+  inKlasse.klasse = "Klank";
+  verwachtGelukt(decodeer(runTekst({}, {eerste}) + runTekst(inKlasse, {tweede})), 2,
+                 luisteraar.samples);
+}
+
+TEST(SpeexDecodeer, TheSecondOfTwoRunTextsIsAbsorbedWhileTheCountOfTheFirstRuns) {
+  Samples const samples = ruis(1600);
+  Samples const eerste(samples.begin(), samples.begin() + 800);
+  Samples const tweede(samples.begin() + 800, samples.end());
+  Luisteraar luisteraar(SpeexNarrowband);
+  luisteraar.hoorAlle(codeer(SpeexNarrowband, eerste));
+  // The "x" of "Speex" in the first line of the run and that of "extern" come to the seven above.
+  luisteraar.herhaal(2 + 7);
+  Frames const frames = codeer(SpeexNarrowband, tweede);
+  Bytes woorden;
+  std::for_each(frames.begin(), frames.begin() + 3,
+                [&](Bytes const& frame) { voegWoordenToe(woorden, frame); });
+  ASSERT_GT(woorden.size(), headerAlsGrootte);
+  woorden.resize(headerAlsGrootte);
+  luisteraar.hoor(woorden);
+  luisteraar.hoorAlle({frames.begin() + 3, frames.end()});
+  luisteraar.herhaal(800 - 5 - 2 - 7 - 1 - 2);
+  verwachtGelukt(decodeer(runTekst({}, {eerste}) + runTekst({}, {tweede})), 1, luisteraar.samples);
+}
+
 TEST(SpeexDecodeer, AnAbsorbedArrayWithoutHeaderIsHeardWhole) {
   Frames const frames = maakFrames(SpeexNarrowband, 9);
   Luisteraar luisteraar(SpeexNarrowband);

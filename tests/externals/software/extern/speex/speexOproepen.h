@@ -33,6 +33,18 @@ class LiegendeBibliotheek {
   LiegendeBibliotheek& operator=(LiegendeBibliotheek&&) = delete;
 };
 
+// While it lives, every frame is as long as the encoder of the text allows, and holds the bytes 0,
+// 1, 2 and so on.
+class LangeFrames {
+ public:
+  LangeFrames();
+  ~LangeFrames();
+  LangeFrames(LangeFrames const&) = delete;
+  LangeFrames& operator=(LangeFrames const&) = delete;
+  LangeFrames(LangeFrames&&) = delete;
+  LangeFrames& operator=(LangeFrames&&) = delete;
+};
+
 // While it lives, no frame is decoded: each is said to be corrupt, and none is recorded.
 class StommeBibliotheek {
  public:

@@ -4,9 +4,11 @@
 #include <wx/mstream.h>
 
 #include <algorithm>
+#include <numeric>
 
 #include "externals/software/extern/speex/speexDesktop.h"
 #include "numeriek/percentage.h"
+#include "tests/externals/software/extern/speex/arrayRegels.h"
 #include "tests/externals/software/extern/speex/speexOproepen.h"
 #include "tests/steun/tijdelijkeMap.h"
 #include "tests/steun/wavMaker.h"
@@ -22,6 +24,7 @@ Regels buitenDeFrames(std::vector<Oproep> const& oproepen) {
   regels.erase(std::remove_if(regels.begin(), regels.end(),
                               [&](std::string const& regel) {
                                 return regel.rfind("speex_bits_read_from ", 0) == 0 ||
+                                       regel.rfind("speex_bits_write ", 0) == 0 ||
                                        std::count(frameRegels.begin(), frameRegels.end(), regel);
                               }),
                regels.end());
@@ -69,6 +72,41 @@ TEST_P(SpeexRun, NeitherPreprocessesNorResetsNorSetsUpAgain) {
   EXPECT_EQ(buitenDeFrames(decoderen), Regels{});
   // The widest band's header is one that cannot be read back.
   EXPECT_EQ(metBegin(decoderen, "speex_decode").empty(), band == SpeexUltraWideband);
+}
+
+// The encoder's own frames have 110 bytes at most.
+TEST(SpeexLangeFrames, AFrameOf200BytesGoesIntoTheTextAndBack) {
+  TijdelijkeMap const map;
+  maakWav(map.pad("a.wav"), proefSamples(160));
+  SpeexDesktopEncoder encoder({SpeexNarrowband, 7, 3, SpeexFixedBitrate, 0, 0, true, true, true},
+                              SpeexEncoderOpties());
+  wxMemoryOutputStream uit;
+  neemOproepen();
+  {
+    LangeFrames const lang;
+    Percentage verhouding;
+    EXPECT_EQ(encoder.encode(wxFileName(map.pad("a.wav")), uit, true, verhouding), 0);
+  }
+  EXPECT_EQ(teksten(metBegin(neemOproepen(), "speex_bits_write")), Regels{"speex_bits_write 200"});
+
+  std::string tekst(uit.GetSize(), '\0');
+  uit.CopyTo(tekst.data(), tekst.size());
+  Bytes frame(200);
+  std::iota(frame.begin(), frame.end(), static_cast<unsigned char>(0));
+  EXPECT_NE(tekst.find("/* Max bytes/encoded frame         : 200 bytes\t\t*/\n"),
+            std::string::npos);
+  std::string const regels = headerRegel(8000, 160) + frameRegels({frame});
+  EXPECT_NE(tekst.find(regels), std::string::npos) << tekst;
+
+  // Of the 160 frames that the header tells of, the first is the one that is there.
+  maakBestand(map.pad("tekst.c"), tekst);
+  SpeexDesktopDecoder decoder(SpeexNarrowband, nullptr);
+  unsigned long long fragmenten = 0;
+  decoder.decode(wxFileName(map.pad("tekst.c")), wxFileName(map.pad("uit.wav")), fragmenten,
+                 0x10002);
+  std::vector<Oproep> const gelezen = metBegin(neemOproepen(), "speex_bits_read_from");
+  ASSERT_FALSE(gelezen.empty());
+  EXPECT_EQ(gelezen[0].tekst, "speex_bits_read_from 200");
 }
 
 }  // namespace
