@@ -4,6 +4,7 @@
 
 #include "tests/externals/desktop/desktopProef.h"
 #include "tests/externals/desktop/slotHouder.h"
+#include "tests/steun/catalogusInGebruik.h"
 
 namespace {
 
@@ -27,6 +28,17 @@ TEST_F(SchermMaat, On1023x768IsTooNarrow) {
   start();
   ASSERT_EQ(wxGetDisplaySize(), wxSize(1023, 768));
   verwachtTeKlein();
+}
+
+TEST_F(SchermMaat, On1022x768TheLineSpeaksTheLanguage) {
+  start();
+  ASSERT_EQ(wxGetDisplaySize(), wxSize(1022, 768));
+  CatalogusInGebruik const catalogus(Vertalingen{
+      {"This application requires a minimum screen resolution of 1024x768 pixels.\nThe launch "
+       "will be cancelled.",
+       "Te klein, 1%s."}});
+  EXPECT_EQ(app().onInitRoutines(), 2);
+  EXPECT_EQ(fouten(), std::vector<wxString>{"Te klein, 1%s."});
 }
 
 TEST_F(SchermMaat, On1024x767IsTooLow) {
