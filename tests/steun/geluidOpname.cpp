@@ -19,6 +19,11 @@ std::function<void(OpgenomenGeluid const&, GeluidBytes const&)>& toehoorder() {
   return functie;
 }
 
+bool& speelt() {
+  static bool ja = true;
+  return ja;
+}
+
 // The toolkit's data begins at the head of the chunk of samples, 8 bytes before them.
 GeluidBytes bytesVan(wxSoundData const& geluid) {
   constexpr std::size_t kop = 8;
@@ -38,7 +43,7 @@ class Recorder : public wxSoundBackend {
     if (toehoorder()) {
       toehoorder()(OpgenomenGeluid(geluiden().back()), bytesVan(*geluid));
     }
-    return true;
+    return speelt();
   }
   void Stop() override {}
   bool IsPlaying() const override { return false; }
@@ -67,6 +72,10 @@ bool OpgenomenGeluid::operator==(OpgenomenGeluid const& ander) const {
 void bijElkGeluid(
     std::function<void(OpgenomenGeluid const& geluid, GeluidBytes const& bytes)> wat) {
   toehoorder() = std::move(wat);
+}
+
+void zegDatHetNietSpeelt() {
+  speelt() = false;
 }
 
 std::vector<OpgenomenGeluid> neemGeluiden() {

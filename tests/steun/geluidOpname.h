@@ -24,6 +24,9 @@ using GeluidBytes = std::vector<unsigned char>;
 // its bytes. An empty function ends that.
 void bijElkGeluid(std::function<void(OpgenomenGeluid const& geluid, GeluidBytes const& bytes)> wat);
 
+// From here on the player says of each sound that it could not be played, although it is recorded.
+void zegDatHetNietSpeelt();
+
 // What was played since the last call, in that order; the call empties the record. The first call
 // puts the recorder in the place of the toolkit's player, to the end of the process: sounds of
 // before that are not recorded.

@@ -84,6 +84,32 @@ TEST_F(SpeelFoutenProef, WithTheLogOffTheStatusTellsIt) {
   EXPECT_EQ(status(), misluktStatus);
 }
 
+TEST_F(SpeelFoutenProef, APlayerThatDoesNotPlayTheResultChangesNothingThatIsTold) {
+  begin(EncoderSpeex);
+  zegDatHetNietSpeelt();
+  klik(ID_SPEEL_RESULTAAT);
+  ASSERT_EQ(gehoord.size(), 1U);
+  EXPECT_EQ(gehoord[0].status, "Decoded 1 audio fragments from Speex data are now playing.");
+  EXPECT_EQ(status(), "Finished playing decoded audio fragments.");
+  ASSERT_EQ(log().size(), 1U);
+  EXPECT_EQ(log()[0].tekst, "Fragment 1: sampling frequency 8000 Hz, number of frames 160");
+  EXPECT_TRUE(isGecodeerd());
+}
+
+TEST_F(SpeelFoutenProef, APlayerThatDoesNotPlayTheFilesChangesNothingThatIsTold) {
+  WerkProef::begin();
+  neemOp();
+  laad({wav("bel.wav"), wav("zoem.wav")});
+  zegDatHetNietSpeelt();
+  klik(ID_SPEEL_BRON);
+  ASSERT_EQ(gehoord.size(), 2U);
+  EXPECT_EQ(gehoord[0].vet, Rijen{0});
+  EXPECT_EQ(gehoord[1].vet, Rijen{1});
+  EXPECT_EQ(vetteRijen(), Rijen{});
+  EXPECT_EQ(status(), "Audio files loaded");
+  EXPECT_TRUE(nietsGelogd(log()));
+}
+
 TEST_F(SpeelFoutenProef, TheNextPlaySucceeds) {
   begin(EncoderSpeex);
   {
