@@ -120,7 +120,7 @@ void WerkProef::verwachtMeldingVan(wxString const& encoder) {
   EXPECT_EQ(bericht.ouder, venster);
 }
 
-wxGenericProgressDialog* WerkProef::voortgang() {
+wxGenericProgressDialog* voortgang() {
   for (wxWindow* een : wxTopLevelWindows) {
     if (auto* const gevonden = dynamic_cast<wxGenericProgressDialog*>(een)) {
       return gevonden;

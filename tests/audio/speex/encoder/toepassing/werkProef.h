@@ -19,6 +19,9 @@ struct BoomBestand {
 
 class wxGenericProgressDialog;
 
+// The progress of a run, null where none stands.
+wxGenericProgressDialog* voortgang();
+
 class WerkProef : public VensterProef {
  protected:
   // Starts with the PCM encoder, this output language, the class name "Geluid" and everything else
@@ -61,8 +64,6 @@ class WerkProef : public VensterProef {
   // Loads a file from a directory of a strange name, encodes it, and expects the one message of
   // this encoder.
   void verwachtMeldingVan(wxString const& encoder);
-  // The progress of a run, null where none stands.
-  static wxGenericProgressDialog* voortgang();
 
   // The text with the date and time of each fragment replaced by "MOMENT". A moment of another
   // shape than 2020-12-31 : 23:59:59 stays.
