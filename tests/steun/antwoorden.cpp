@@ -4,7 +4,8 @@
 #include <wx/filedlg.h>
 #include <wx/filename.h>
 #include <wx/msgdlg.h>
-#include <wx/utils.h>
+
+#include "tests/steun/geduld.h"
 
 void Antwoorden::opBericht(int antwoord, std::function<void()> tijdens) {
   wachtrij.push_back({Soort::bericht, antwoord, wxEmptyString, std::move(tijdens), nullptr});
@@ -66,16 +67,12 @@ int Antwoorden::beantwoordBestand(wxFileDialog& dialoog, Antwoord const& antwoor
   }
   dialoog.SetPath(antwoord.pad);
   // GTK works its folder off in idle time.
-  constexpr int pogingen = 500;
-  constexpr unsigned long pauze = 10;
   wxArrayString paden;
-  for (int poging = 0; poging < pogingen; ++poging) {
-    wxYield();
-    dialoog.GetPaths(paden);
-    if (!paden.empty() && paden[0] == antwoord.pad) {
-      return wxID_OK;
-    }
-    wxMilliSleep(pauze);
+  if (wachtTot([&] {
+        dialoog.GetPaths(paden);
+        return !paden.empty() && paden[0] == antwoord.pad;
+      })) {
+    return wxID_OK;
   }
   ADD_FAILURE() << "the file dialog did not take " << antwoord.pad.utf8_str() << " but has "
                 << (paden.empty() ? "nothing" : paden[0].utf8_str().data());

@@ -62,14 +62,12 @@ void GeluidProef::startSpeler() {
   plaatsGeluidSpeler();
 }
 
-void GeluidProef::naarBestand(std::string const& naam, std::optional<int> pauze) {
+void GeluidProef::naarBestand(std::string const& naam, int pauze) {
   // The old values first: each puts back what it found.
   bestand.reset();
   tempo.reset();
   bestand.emplace("SDL_DISKAUDIOFILE", map.pad(naam));
-  if (pauze) {
-    tempo.emplace("SDL_DISKAUDIODELAY", std::to_string(*pauze));
-  }
+  tempo.emplace("SDL_DISKAUDIODELAY", std::to_string(pauze));
 }
 
 Bytes GeluidProef::gehoord(std::string const& naam, WavSoort const& soort) const {
@@ -97,8 +95,8 @@ std::unique_ptr<wxSound> GeluidProef::maakGeluid(WavSoort const& soort,
 }
 
 void GeluidProef::draaiTot(std::function<bool()> const& genoeg) {
-  constexpr int periode = 10;     // ms
-  constexpr int geduld = 60'000;  // ms
+  constexpr int periode = 10;      // ms
+  constexpr int geduld = 180'000;  // ms
   wxGUIEventLoop lus;
   wxTimer kijker;
   kijker.Bind(wxEVT_TIMER, [&lus, &genoeg](wxTimerEvent&) {

@@ -20,8 +20,8 @@ class GeluidProef : public DesktopProef {
   void startSpeler();
 
   // Sounds from here on go to a file of that name in the test's directory. The device takes a block
-  // of samples each `pauze` ms, and at the pace of a real one without it.
-  void naarBestand(std::string const& naam, std::optional<int> pauze = snel);
+  // of samples, 32 ms of sound or more, each `pauze` ms.
+  void naarBestand(std::string const& naam, int pauze = snel);
   // What the device of that file has been given so far, but the silence at the begin: a device that
   // is open hears as many blocks of that as it takes before the sound starts.
   Bytes gehoord(std::string const& naam, WavSoort const& soort = {}) const;

@@ -10,24 +10,27 @@
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/gereedProef.h"
+#include "tests/steun/geduld.h"
 
 namespace {
 
 class InvoerProef : public GereedProef {
  protected:
-  // Works events off until `gebeurd`, or until patience ends; returns whether it came about.
-  bool wacht(std::function<bool()> const& gebeurd, int rondes = 150) {
+  // The enable rules run too.
+  bool wacht(std::function<bool()> const& gebeurd) {
+    return wachtTot([this, &gebeurd] {
+      rust();
+      return gebeurd();
+    });
+  }
+  // Long enough for a key to have its effect, which here is a fault.
+  void wachtEven() {
+    constexpr int rondes = 25;
     constexpr unsigned long pauze = 20;
-    for (int ronde = 0; ronde < rondes && !gebeurd(); ++ronde) {
+    for (int ronde = 0; ronde < rondes; ++ronde) {
       rust();
       wxMilliSleep(pauze);
     }
-    return gebeurd();
-  }
-  // Long enough for a key to have its effect.
-  void wachtEven() {
-    constexpr int rondes = 25;
-    wacht([] { return false; }, rondes);
   }
 
   void richt(wxWindow* doel) {

@@ -13,6 +13,8 @@
 #include "tests/audio/codec/codecHulp.h"
 #include "tests/audio/speex/encoder/toepassing/overVertoning.h"
 #include "tests/audio/speex/encoder/toepassing/taalProef.h"
+#include "tests/steun/catalogusInGebruik.h"
+#include "tests/steun/geduld.h"
 #include "tests/steun/opdracht.h"
 
 namespace {
@@ -65,6 +67,14 @@ TEST_F(OverEngels, EveryFieldIsThePrograms) {
   EXPECT_TRUE(nietsGelogd(log()));
 }
 
+// No language has another name for it, so that the catalogs of the program cannot tell.
+TEST_F(OverEngels, TheNameIsTranslatedToo) {
+  start();
+  CatalogusInGebruik const catalogus(Vertalingen{{"Kestrolin", "Torenvalkje"}});
+  kiesMenu(wxID_ABOUT);
+  EXPECT_EQ(neemEne().info.GetName(), "Torenvalkje");
+}
+
 TEST_F(OverEngels, DescriptionStartsWithThePlatformAndTheTextOfTheCallerFollowsOnTheNextLine) {
   start();
   kiesMenu(wxID_ABOUT);
@@ -102,27 +112,21 @@ TEST_F(OverEngels, TheBoxComesUpWithoutWaitingForItsEndAndTheWindowClosesWhileIt
   start();
   laatVertoningenZien();
   bool gezien = false;
-  bool const geeindigd = doeInHoofdlus([this, &gezien] {
+  auto const toonEnSluit = [this, &gezien] {
     kiesMenu(wxID_ABOUT);
     EXPECT_TRUE(leeft());
     // The desktop's own name of the box.
     std::string const zoek = "xdotool search --onlyvisible --all --pid " +
                              std::to_string(getpid()) + " --name '^About Kestrolin$' > '" +
                              map.pad("gevonden") + "' 2>&1";
-    constexpr int pogingen = 200;
-    constexpr unsigned long pauze = 50;
-    for (int poging = 0; poging < pogingen && !gezien; ++poging) {
-      rust();
-      gezien = voerUit(zoek) == 0;
-      wxMilliSleep(pauze);
-    }
+    gezien = wachtTot([&zoek] { return voerUit(zoek) == 0; });
     // The window takes its events while the box stands.
     laad({wav("bel.wav")});
     EXPECT_EQ(status(), "Audio files loaded");
     kiesMenu(wxID_EXIT);
-  });
+  };
+  doeInHoofdlus(toonEnSluit, true);
   EXPECT_TRUE(gezien);
-  EXPECT_TRUE(geeindigd);
   EXPECT_FALSE(leeft());
   EXPECT_EQ(stopSleutels().at("/Configuratie/file1"), pad("bel.wav"));
 }

@@ -7,6 +7,7 @@
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/externals/desktop/pictogramMap.h"
+#include "tests/steun/geduld.h"
 #include "tests/steun/vensterProef.h"
 
 namespace {
@@ -29,8 +30,7 @@ class PictogramProef : public VensterProef {
     return gevonden;
   }
 
-  // The lines in which xprop tells the sizes that the window has on the screen, or that it has
-  // none.
+  // The lines in which xprop tells the sizes that the window has on the screen, once it has some.
   wxString opHetScherm() {
     // Windows of other tests have the program's title too.
     wxString const titel = wxString::Format("Pictogram %d", static_cast<int>(getpid()));
@@ -38,15 +38,7 @@ class PictogramProef : public VensterProef {
     std::string const vraag = "xprop -name '" + titel.utf8_string() +
                               "' _NET_WM_ICON 2>&1 | grep -o 'Icon ([0-9]* x [0-9]*)' > '" +
                               map.pad("xprop") + "'";
-    constexpr int pogingen = 100;
-    constexpr unsigned long pauze = 50;
-    for (int poging = 0; poging < pogingen; ++poging) {
-      rust();
-      if (voerUit(vraag) == 0) {
-        break;
-      }
-      wxMilliSleep(pauze);
-    }
+    EXPECT_TRUE(wachtTot([&vraag] { return voerUit(vraag) == 0; }));
     return inhoud(pad("xprop"));
   }
 };

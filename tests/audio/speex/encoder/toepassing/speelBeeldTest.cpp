@@ -60,7 +60,7 @@ class SpeelBeeldProef : public SpeelProef {
 
  private:
   SchermBeeld stilstaand(std::function<void()> const& intussen, SchermBeeld const& vorige) const {
-    constexpr int rondes = 250;
+    constexpr int rondes = 6000;
     constexpr int rustig = 5;
     constexpr unsigned long pauze = 20;
     SchermBeeld laatste;

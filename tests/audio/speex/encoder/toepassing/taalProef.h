@@ -30,9 +30,9 @@ class TaalProef : public SpeexRunProef {
   // fails here too. It takes over the home directory and all other files of the test.
   void inEigenProces(std::function<void()> const& doet);
 
-  // Does that inside the main loop. True when the loop ended by it, false when it went on: the
-  // loop is then ended from here.
-  bool doeInHoofdlus(std::function<void()> doet);
+  // Does that inside the main loop, and expects the loop to end by it or to go on: it is then ended
+  // from here.
+  void doeInHoofdlus(std::function<void()> doet, bool eindigt);
   // Ends the application as its main does behind the main loop, without closing the window, and
   // returns the configuration file by keys.
   std::map<wxString, wxString> eindigNaHoofdlus();

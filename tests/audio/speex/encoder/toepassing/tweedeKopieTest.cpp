@@ -12,6 +12,7 @@
 #include <memory>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/steun/geduld.h"
 #include "tests/steun/vensterProef.h"
 
 namespace {
@@ -54,15 +55,7 @@ int aantalVensters() {
 }
 
 bool wachtOpVensters(int aantal) {
-  constexpr int pogingen = 200;
-  constexpr unsigned long pauze = 100;
-  for (int poging = 0; poging < pogingen && aantalVensters() != aantal; ++poging) {
-    wxMilliSleep(pauze);
-    if (wxTheApp != nullptr) {
-      wxYield();
-    }
-  }
-  return aantalVensters() == aantal;
+  return wachtTot([aantal] { return aantalVensters() == aantal; });
 }
 
 class TweedeKopieProef : public VensterProef {};
