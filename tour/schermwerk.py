@@ -11,14 +11,17 @@ from toegang import Fout
 
 T = TypeVar("T")
 
+# Seconds. It ends only where nothing comes any more: no machine is too busy for it.
+GEDULD = 300.0
+
 
 class NietGebeurd(Exception):
     """Something that had to happen did not, within the time given."""
 
 
-def wacht(voorwaarde: Callable[[], Optional[T]], wat: str, grens: float = 30.0) -> T:
+def wacht(voorwaarde: Callable[[], Optional[T]], wat: str) -> T:
     """Polls until the condition gives something true, and returns that."""
-    einde = time.monotonic() + grens
+    einde = time.monotonic() + GEDULD
     while True:
         try:
             uitkomst = voorwaarde()
@@ -27,7 +30,7 @@ def wacht(voorwaarde: Callable[[], Optional[T]], wat: str, grens: float = 30.0) 
         if uitkomst:
             return uitkomst
         if time.monotonic() > einde:
-            raise NietGebeurd(f"waited {grens:.0f} s for this: {wat}")
+            raise NietGebeurd(f"waited {GEDULD:.0f} s for this: {wat}")
         time.sleep(0.05)
 
 
@@ -46,7 +49,7 @@ def typ(tekst: str) -> None:
 def schermafdruk(pad: Path) -> None:
     """Writes what is on the screen to a PNG file, as soon as it stands still."""
     beeld, gelijk = b"", 0
-    for _ in range(20):
+    for _ in range(100):
         vorige, beeld = beeld, opdracht("import", "-window", "root", "-depth", "8", "ppm:-")
         gelijk = gelijk + 1 if beeld == vorige else 0
         if gelijk == 3:

@@ -97,7 +97,7 @@ def venster(titel: str) -> str:
             stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False,
         ).stdout.split("\n", maxsplit=1)[0]
 
-    return wacht(gezocht, f'a window named "{titel}"', 60)
+    return wacht(gezocht, f'a window named "{titel}"')
 
 
 def weg(titel: str) -> bool:
