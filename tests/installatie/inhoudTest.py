@@ -26,8 +26,9 @@ METAINFO = "share/metainfo/example.kestrolin.kestrolin.metainfo.xml"
 MENU = "share/applications/Kestrolin.desktop"
 MAN = "share/man/man1/Kestrolin.1.gz"
 MATEN = (16, 22, 24, 32, 48, 64, 96, 128, 256, 512)
-# No domain ends in this one, which is set apart for names that are nobody's: it cannot be known.
-BEKEND = "cid-maybe-not-rdns"
+# What appstreamcli may say. No domain ends in the one of the component, which is set apart for names that
+# are nobody's. AppStream 0.16, of Debian 12, does not know the developer's tag that 1.0 asks for.
+BEKEND = ("cid-maybe-not-rdns", "unknown-tag developer")
 # What makes the example from the source tree is of no use without it, and the page about the source
 # is none for users.
 NIET_VOOR_GEBRUIKERS = {"firmware/example/run", "docs/architecture.md"}
@@ -99,7 +100,7 @@ def keur_menu(prefix: Path) -> None:
 def keur_metainfo(prefix: Path) -> None:
     uitspraak = zeg("appstreamcli", "validate", "--no-net", "--pedantic", prefix / METAINFO)
     gelijk([r for r in uitspraak.splitlines() if r[:2] in ("E:", "W:", "I:", "P:")
-            and BEKEND not in r], [], "appstreamcli validate")
+            and not any(bekend in r for bekend in BEKEND)], [], "appstreamcli validate")
     component = ElementTree.parse(prefix / METAINFO).getroot()
     taal = "{http://www.w3.org/XML/1998/namespace}lang"
     for naam in ("summary", "description/p"):
