@@ -131,7 +131,7 @@ Stand = tuple[int, int] | None
 def codes_van(wav: Path, stand: Stand) -> tuple[bytes, Stand]:
     """The codes of a fragment by another coder, and where it then stands."""
     codes, stand = audioop.lin2adpcm(smalle_samples(wav), 2, stand)
-    # That coder, which Python has up to 3.12, puts the earlier code in the high half of a byte.
+    # That coder puts the earlier code in the high half of a byte.
     return bytes((b & 0x0F) << 4 | b >> 4 for b in codes), stand
 
 
