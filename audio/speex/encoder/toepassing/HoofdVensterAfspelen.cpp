@@ -15,6 +15,7 @@
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/speexConfig.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
+#include "audio/speex/encoder/toepassing/wavGrens.h"
 #include "externals/software/extern/speex/speexDesktop.h"
 
 namespace {
@@ -31,7 +32,8 @@ std::unique_ptr<wxSound> openBron(wxFileName const& wav) {
   }
   wxLogNull const stil;
   auto geluid = std::make_unique<wxSound>(wav.GetFullPath(), false);
-  return geluid->IsOk() ? std::move(geluid) : nullptr;
+  bool const isGoed = geluid->IsOk() && eindigtInBestand(wav.GetFullPath());
+  return isGoed ? std::move(geluid) : nullptr;
 }
 
 }  // namespace
