@@ -26,7 +26,7 @@ class InbedGeheugen : public InbedProef {
 TEST_F(InbedGeheugen, tweeMiljoenSamplesVragenGeenGroterBlokDanTweeduizend) {
   std::size_t const klein = grootsteBij(2000);
   EXPECT_GT(klein, 0U);
-  EXPECT_EQ(grootsteBij(2000000), klein);
+  EXPECT_LE(grootsteBij(2000000), klein);
   // All of it went over: about 5 signs for each of 4000000 bytes.
   EXPECT_GT(std::filesystem::file_size(map.pad("uit.c")), 20000000U);
 }

@@ -103,6 +103,21 @@ TEST_F(GeluidSynchroon, SamplesThatSpellTheNameOfTheirChunkAreHeardToo) {
   verwachtGeheel(gehoord("uit"), samples, {});
 }
 
+TEST_F(GeluidSynchroon, ChunkBeforeTheSamplesIsNotHeard) {
+  startSpeler();
+  naarBestand("uit");
+  Bytes const samples = proefGeluid(4000);
+  std::string wav = wavBytes({}, std::string(samples.begin(), samples.end()));
+  // Behind "RIFF", its size, "WAVE", and a format chunk of 24 bytes.
+  wav.insert(36, std::string("LIST\x04\0\0\0INFO", 12));
+  wxSound const geluid(wav.size(), wav.data());
+  if (!geluid.IsOk()) {
+    GTEST_SKIP() << "this toolkit reads no such file";
+  }
+  EXPECT_TRUE(geluid.Play(wxSOUND_SYNC));
+  verwachtGeheel(gehoord("uit"), samples, {});
+}
+
 TEST_F(GeluidSynchroon, SoundFromMemoryIsHeardAsOneFromAFile) {
   startSpeler();
   naarBestand("uit");
