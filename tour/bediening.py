@@ -147,7 +147,7 @@ class Programma:
             opdracht("xdotool", "mousemove", *map(str, plaats), "click", "1")
 
     def knop(self, naam: str, venster: str = TITEL) -> None:
-        self.klik(self.element("push button", naam, venster=venster))
+        self.klik(self.element("button", naam, venster=venster))
 
     def keuzerondje(self, naam: str) -> None:
         rondje = self.element("radio button", naam)

@@ -22,6 +22,9 @@ GEKOZEN = 23
 BRUIKBAAR = 24
 ZICHTBAAR = 25
 
+# Roles that older releases call otherwise.
+_VROEGER = {"push button": "button"}
+
 Fout = GLib.Error
 
 
@@ -62,7 +65,8 @@ class Element:
         return self._eigenschap("Accessible", "Name")
 
     def rol(self) -> str:
-        return self._vraag(f"{_ATSPI}.Accessible", "GetRoleName")[0]
+        naam = self._vraag(f"{_ATSPI}.Accessible", "GetRoleName")[0]
+        return _VROEGER.get(naam, naam)
 
     def kinderen(self) -> list[Element]:
         paren = self._vraag(f"{_ATSPI}.Accessible", "GetChildren")[0]

@@ -92,7 +92,7 @@ class Tour:
         self.foto(naam)
 
     def _start(self) -> None:
-        self._p.element("push button", "Open")
+        self._p.element("button", "Open")
         self.foto("start")
         self._p.geef_maat(TITEL, VENSTERMAAT)
 

@@ -63,8 +63,8 @@ def lees_instellingen(thuis: Path) -> dict[str, dict[str, str]]:
 
 def wacht_op_rust(p: Programma) -> None:
     """The window is up, and has been idle once: only then are the unusable buttons grey."""
-    p.element("push button", "Open")
-    wacht(lambda: not p.bruikbaar("push button", "Encode"), "Encode is grey without audio")
+    p.element("button", "Open")
+    wacht(lambda: not p.bruikbaar("button", "Encode"), "Encode is grey without audio")
 
 
 def laad(p: Programma, geluid: Path, fragmenten: tuple[str, ...]) -> list[Path]:
@@ -298,7 +298,7 @@ def sluitvak(programma: Path, thuis: Path) -> None:
     with Programma(programma, thuis) as p:
         wacht_op_rust(p)
         laad_en_codeer(p, thuis / "geluid", ("alarm.wav",))
-        p.element("push button", "Save")
+        p.element("button", "Save")
         toets("alt+F4")
         keur_einde(p, p.wacht_op_einde())
     gelijk(lees_instellingen(thuis)["Gebruikersinstellingen"], {"Taal": "175"}, "settings")
