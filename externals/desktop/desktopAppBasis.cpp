@@ -11,6 +11,7 @@
 #include <clocale>
 #include <cstring>
 
+#include "externals/desktop/configBestand.h"
 #include "externals/desktop/configGetal.h"
 
 namespace {
@@ -57,9 +58,7 @@ void zetTekensoort() {
 // user's file is no fault of the program's, so that assertion is not heard.
 std::unique_ptr<wxFileConfig> openConfig(wxString const& naam) {
   wxAssertHandler_t const vorige = wxSetAssertHandler(nullptr);
-  auto config = std::make_unique<wxFileConfig>(naam, leverancier, wxEmptyString, wxEmptyString,
-                                               wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE,
-                                               wxConvAuto());
+  auto config = std::make_unique<ConfigBestand>(naam, leverancier);
   wxSetAssertHandler(vorige);
   return config;
 }
