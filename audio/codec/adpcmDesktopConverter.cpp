@@ -47,6 +47,7 @@ VelmoraADPCMPakket* ADPCMDesktopConverter::codeerBestand(wxFileName const& wav) 
   auto pakket = std::make_unique<VelmoraADPCMPakket>(frames >> 1U, freq);
   std::vector<short> samples(frames);
   bestand.leesItems(samples.data(), bestand.info().frames);
+  bestand.meldGebrek();
   encodeer(VelmoraPCMPakket(samples.data(), frames, freq), *pakket);
   return pakket.release();
 }

@@ -17,6 +17,9 @@ void schrijfArrayTekst(Pakket const& pakket, wxFileName const& wav, FragmentDoel
                        std::initializer_list<FragmentTelling> tellingen, bool metHeader,
                        wxMemoryOutputStream& uit) {
   SndBestand const bestand = SndBestand::lees(wav);
+  if (pakket.geefAantalSamples() > 0) {
+    bestand.meldGebrek();
+  }
   VelmoraArray<unsigned char> array(pakket.serieelGeefAantalBytes());
   pakket.maakSerieel(array, metHeader);
   FragmentTekst(uit).schrijfFragment(wav, bestand.info(), doel, tellingen, array, metHeader);

@@ -31,6 +31,7 @@ VelmoraPCMPakket* PCMDesktopConverter::codeerBestand(wxFileName const& wav) cons
   auto pakket = std::make_unique<VelmoraPCMPakket>(static_cast<unsigned long long>(info.frames),
                                                    Breuk(info.samplerate, 1));
   bestand.leesItems(pakket->geefData(), info.frames);
+  bestand.meldGebrek();
   pakket->vlakAf(bitShift);
   return pakket.release();
 }

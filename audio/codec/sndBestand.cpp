@@ -1,13 +1,15 @@
 #include "audio/codec/sndBestand.h"
 
 #include <wx/filename.h>
+#include <wx/intl.h>
+#include <wx/log.h>
 #include <wx/strconv.h>
 
 #include <algorithm>
 #include <string>
 
 SndBestand::SndBestand(wxFileName const& bestand, int modus, SF_INFO const& gevraagd)
-    : gegevens(gevraagd), toestand(open(bestand, modus, gegevens)) {}
+    : pad(bestand.GetFullPath()), gegevens(gevraagd), toestand(open(bestand, modus, gegevens)) {}
 
 std::shared_ptr<SndBestand::Toestand> SndBestand::open(wxFileName const& bestand, int modus,
                                                        SF_INFO& info) {
@@ -23,7 +25,8 @@ std::shared_ptr<SndBestand::Toestand> SndBestand::open(wxFileName const& bestand
     info = SF_INFO{};
     return nullptr;
   }
-  return std::make_shared<Toestand>(std::move(handvat));
+  bool const leesfout = sf_error(handvat.get()) == SF_ERR_SYSTEM;
+  return std::make_shared<Toestand>(std::move(handvat), leesfout);
 }
 
 SndBestand SndBestand::lees(wxFileName const& bestand) {
@@ -37,6 +40,19 @@ SndBestand SndBestand::schrijf(wxFileName const& bestand, int samplerate, int ka
   gevraagd.channels = kanalen;
   gevraagd.format = formaat;
   return {bestand, SFM_WRITE, gevraagd};
+}
+
+void SndBestand::meldGebrek() const {
+  if (!isOpen() || toestand->leesfout) {
+    wxLogError(_("Could not read the whole of %s"), pad);
+  }
+}
+
+// The library forgets at each call what went wrong in the one before.
+sf_count_t SndBestand::leesFrames(short* doel, sf_count_t aantal) {
+  sf_count_t const gelezen = sf_read_short(toestand->handvat.get(), doel, aantal);
+  toestand->leesfout = toestand->leesfout || sf_error(toestand->handvat.get()) == SF_ERR_SYSTEM;
+  return gelezen;
 }
 
 sf_count_t SndBestand::leesItems(short* doel, sf_count_t aantal) {
@@ -54,12 +70,11 @@ sf_count_t SndBestand::leesItems(short* doel, sf_count_t aantal) {
   sf_count_t gelezen = neemRest(0);
   sf_count_t const heel = (aantal - gelezen) / kanalen * kanalen;
   if (heel > 0) {
-    gelezen += sf_read_short(toestand->handvat.get(), doel + gelezen, heel);
+    gelezen += leesFrames(doel + gelezen, heel);
   }
   if (gelezen < aantal && aantal - gelezen < kanalen) {
     rest.resize(static_cast<std::size_t>(kanalen));
-    rest.resize(
-        static_cast<std::size_t>(sf_read_short(toestand->handvat.get(), rest.data(), kanalen)));
+    rest.resize(static_cast<std::size_t>(leesFrames(rest.data(), kanalen)));
     gelezen = neemRest(gelezen);
   }
   return gelezen;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <sndfile.h>
+#include <wx/string.h>
 
 #include <memory>
 #include <utility>
@@ -11,8 +12,8 @@
 class wxFileName;
 
 // Copies share one handle; the last one closes it, and for a written file that completes the
-// header. Nothing here reports an error: a file that could not be opened has an info() of zeros and
-// no samples.
+// header. A file that could not be opened has an info() of zeros and no samples. Nothing here
+// reports an error but meldGebrek.
 class SndBestand {
  public:
   // Opens for reading. info() tells what the header says.
@@ -22,6 +23,9 @@ class SndBestand {
   static SndBestand schrijf(wxFileName const& bestand, int samplerate, int kanalen, int formaat);
 
   bool isOpen() const { return toestand != nullptr; }
+  // Logs one error line, with the name of the file, where the file could not be opened or a read
+  // failed since. A file that is shorter than its header says has just fewer frames.
+  void meldGebrek() const;
   SF_INFO const& info() const { return gegevens; }
 
   // Reads up to `aantal` interleaved 16-bit values and returns how many it got. Calls go on where
@@ -40,15 +44,18 @@ class SndBestand {
 
   // The open file. The last holder closes it.
   struct Toestand {
-    explicit Toestand(Handvat open) : handvat(std::move(open)) {}
+    Toestand(Handvat open, bool fout) : handvat(std::move(open)), leesfout(fout) {}
 
     Handvat handvat;
+    bool leesfout;
     std::vector<short> rest;  // the values of a frame that was read but not yet handed out
   };
 
   SndBestand(wxFileName const& bestand, int modus, SF_INFO const& gevraagd);
+  sf_count_t leesFrames(short* doel, sf_count_t aantal);
   static std::shared_ptr<Toestand> open(wxFileName const& bestand, int modus, SF_INFO& info);
 
+  wxString pad;
   SF_INFO gegevens;
   std::shared_ptr<Toestand> toestand;
 };

@@ -62,12 +62,14 @@ void HoofdVenster::openWavFiles(wxArrayString& paden) {
   while (i < paden.size()) {
     wxString const pad = paden[i];
     wxFileName const bestand(pad);
-    SF_INFO const info = SndBestand::lees(bestand).info();
+    SndBestand const wav = SndBestand::lees(bestand);
+    SF_INFO const info = wav.info();
     if (!isBruikbaar(info)) {
       meldAfgewezen(bestand);
       paden.Remove(pad);
       continue;
     }
+    wav.meldGebrek();
     BestandKnoop const knoop = toonInBoom(bestand, info);
     if (!neemBandOver(i, info.samplerate)) {
       bestandGeladen = false;

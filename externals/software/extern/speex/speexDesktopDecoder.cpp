@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "audio/codec/logTekst.h"
 #include "audio/codec/sndBestand.h"
 #include "externals/software/extern/speex/doorlezendeConv.h"
 
@@ -34,6 +35,10 @@ std::optional<SndBestand> openUitvoer(wxFileName const& uitvoer, int samplerate,
   }
 }
 
+void meldMislukt() {
+  wxLogError(veiligFormaat(_("Could not decode and play encoded audio fragments.")));
+}
+
 // A NUL among the characters reads like the end of the text; the stream below knows the difference.
 bool isTenEinde(wxTextInputStream const& tekst) {
   return !tekst.GetInputStream().IsOk();
@@ -54,15 +59,24 @@ bool zoekX(wxTextInputStream& tekst) {
 // The WAV file, and the block of the frame that was decoded last: a frame that gives no samples
 // leaves it as it is, and it is written again.
 struct SpeexDesktopDecoder::Uitvoer {
-  SndBestand wav;
+  std::optional<SndBestand> wav;
   std::vector<short> blok;
   unsigned long long geschreven = 0;
 
   // The sizes in a WAV header have 32 bits. This many samples fit at any width.
   bool isVol() const { return geschreven + blok.size() > maxSamples; }
   void schrijf() {
-    wav.schrijfItems(blok.data(), static_cast<sf_count_t>(blok.size()));
+    wav->schrijfItems(blok.data(), static_cast<sf_count_t>(blok.size()));
     geschreven += blok.size();
+  }
+  // Closes the file, and looks whether all of it is there: what fails as the header is completed,
+  // or later still, shows nowhere else.
+  void sluit(wxFileName const& naam) {
+    bool const wasOpen = wav->isOpen();
+    wav.reset();
+    if (wasOpen && SndBestand::lees(naam).info().frames < static_cast<sf_count_t>(geschreven)) {
+      meldMislukt();
+    }
   }
 };
 
@@ -74,9 +88,10 @@ int SpeexDesktopDecoder::decode(wxFileName const& invoer, wxFileName const& uitv
   wxFileInputStream bestand(invoer.GetFullPath());
   std::optional<SndBestand> wav = openUitvoer(uitvoer, geefSampFreq(), sfFormaat);
   if (!wav) {
+    meldMislukt();
     return pastNiet;
   }
-  Uitvoer uit{std::move(*wav), std::vector<short>(frameSize)};
+  Uitvoer uit{std::move(wav), std::vector<short>(frameSize)};
   aantalFragmenten = 0;
   if (!bestand.IsOk()) {
     return gelukt;
@@ -86,6 +101,13 @@ int SpeexDesktopDecoder::decode(wxFileName const& invoer, wxFileName const& uitv
   wxBufferedInputStream buffer(bestand, bufferBytes);
   wxTextInputStream tekst(buffer, ",", DoorlezendeConv());
 
+  int const uitslag = leesFragmenten(tekst, uit, aantalFragmenten);
+  uit.sluit(uitvoer);
+  return uitslag;
+}
+
+int SpeexDesktopDecoder::leesFragmenten(wxTextInputStream& tekst, Uitvoer& uit,
+                                        unsigned long long& aantalFragmenten) {
   for (wxChar teken = tekst.GetChar(); teken != 0; teken = tekst.GetChar()) {
     if (teken == '/') {
       // A comment, of either kind. What it holds, a "{" too, is no array.

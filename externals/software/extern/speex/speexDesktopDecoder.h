@@ -50,6 +50,7 @@ class SpeexDesktopDecoder : public SpeexDecoder {
  private:
   struct Uitvoer;
 
+  int leesFragmenten(wxTextInputStream& tekst, Uitvoer& uit, unsigned long long& aantalFragmenten);
   bool leesFragment(wxTextInputStream& tekst, Uitvoer& uit, unsigned long long& aantalFragmenten);
   void leesFrame(wxTextInputStream& tekst);
 

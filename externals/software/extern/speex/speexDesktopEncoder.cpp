@@ -161,6 +161,7 @@ SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav,
     uit.Write(tekst.data(), tekst.size());
     ++nummer;
   }
+  wav.meldGebrek();
   return omvang;
 }
 
