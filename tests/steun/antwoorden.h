@@ -53,6 +53,8 @@ class Antwoorden : public wxModalDialogHook {
 
   // True when every prepared answer was used.
   bool isOp() const { return wachtrij.empty(); }
+  // Forgets the answers that were not used.
+  void wis() { wachtrij.clear(); }
 
   std::vector<Bericht> berichten;
   std::vector<BestandsVraag> bestandsVragen;

@@ -24,6 +24,9 @@ bool& speelt() {
   return ja;
 }
 
+// False again where the toolkit has ended since, and has taken its players with it.
+bool isGeplaatst = false;
+
 // The toolkit's data begins at the head of the chunk of samples, 8 bytes before them.
 GeluidBytes bytesVan(wxSoundData const& geluid) {
   constexpr std::size_t kop = 8;
@@ -32,6 +35,13 @@ GeluidBytes bytesVan(wxSoundData const& geluid) {
 
 class Recorder : public wxSoundBackend {
  public:
+  Recorder() { isGeplaatst = true; }
+  ~Recorder() override { isGeplaatst = false; }
+  Recorder(Recorder const&) = delete;
+  Recorder& operator=(Recorder const&) = delete;
+  Recorder(Recorder&&) = delete;
+  Recorder& operator=(Recorder&&) = delete;
+
   wxString GetName() const override { return "recorder"; }
   int GetPriority() const override { return 0; }
   bool IsAvailable() const override { return true; }
@@ -79,10 +89,8 @@ void zegDatHetNietSpeelt() {
 }
 
 std::vector<OpgenomenGeluid> neemGeluiden() {
-  static bool const isGeplaatst = [] {
+  if (!isGeplaatst) {
     Speler::vervang(std::make_unique<Recorder>());
-    return true;
-  }();
-  static_cast<void>(isGeplaatst);
+  }
   return std::exchange(geluiden(), {});
 }

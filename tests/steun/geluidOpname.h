@@ -28,6 +28,6 @@ void bijElkGeluid(std::function<void(OpgenomenGeluid const& geluid, GeluidBytes 
 void zegDatHetNietSpeelt();
 
 // What was played since the last call, in that order; the call empties the record. The first call
-// puts the recorder in the place of the toolkit's player, to the end of the process: sounds of
-// before that are not recorded.
+// puts the recorder in the place of the toolkit's player, to the toolkit's end: sounds of before
+// that are not recorded.
 std::vector<OpgenomenGeluid> neemGeluiden();

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <new>
 
 // Asked by the leak detector. The toolkit loses the buffer of a text that it converts, one way or
@@ -12,6 +13,10 @@ char const* geduldeLekken() {
   return "leak:wxMBConv::cMB2WC\nleak:wxMBConv::FromWChar\n";
 }
 
+// Where the program's own code begins and ends, as the linker tells.
+extern "C" char const begin asm("__executable_start");
+extern "C" char const einde asm("etext");
+
 namespace {
 
 constexpr std::size_t bestaatNergens = std::size_t{1} << 40U;  // 1 TiB
@@ -19,15 +24,24 @@ constexpr std::size_t bestaatNergens = std::size_t{1} << 40U;  // 1 TiB
 int falend = 0;
 int teller = 0;
 std::size_t kleinste = 0;
+bool eigenAlleen = false;
 std::size_t grootsteVraag = 0;
 int rijen = 0;
 
-void* neem(std::size_t bytes) {
+// True for code of the program itself, false for that of the shared libraries.
+bool isEigen(void const* code) {
+  return !std::less<>()(code, static_cast<void const*>(&begin)) &&
+         std::less<>()(code, static_cast<void const*>(&einde));
+}
+
+// `vrager` is the code that wants the memory.
+void* neem(std::size_t bytes, void const* vrager) {
   grootsteVraag = std::max(grootsteVraag, bytes);
-  if (bytes >= kleinste) {
+  bool const telt = bytes >= kleinste && (!eigenAlleen || isEigen(vrager));
+  if (telt) {
     ++teller;
   }
-  if ((bytes >= kleinste && teller == falend) || bytes > bestaatNergens) {
+  if ((telt && teller == falend) || bytes > bestaatNergens) {
     throw std::bad_alloc();
   }
   void* const geheugen = std::malloc(std::max<std::size_t>(bytes, 1));
@@ -48,11 +62,11 @@ void geefRijTerug(void* geheugen) {
 
 // The forms for arrays too: a sanitizer has some of its own, which are not built on the plain ones.
 void* operator new(std::size_t bytes) {
-  return neem(bytes);
+  return neem(bytes, __builtin_return_address(0));
 }
 
 void* operator new[](std::size_t bytes) {
-  void* const geheugen = neem(bytes);
+  void* const geheugen = neem(bytes, __builtin_return_address(0));
   ++rijen;
   return geheugen;
 }
@@ -73,9 +87,10 @@ void operator delete[](void* geheugen, std::size_t /*bytes*/) noexcept {
   geefRijTerug(geheugen);
 }
 
-KrapGeheugen::KrapGeheugen(int nummer, std::size_t vanaf) {
+KrapGeheugen::KrapGeheugen(int nummer, std::size_t vanaf, bool alleenEigen) {
   falend = nummer;
   kleinste = vanaf;
+  eigenAlleen = alleenEigen;
   teller = 0;
   grootsteVraag = 0;
 }
@@ -83,6 +98,7 @@ KrapGeheugen::KrapGeheugen(int nummer, std::size_t vanaf) {
 KrapGeheugen::~KrapGeheugen() {
   falend = 0;
   kleinste = 0;
+  eigenAlleen = false;
 }
 
 bool KrapGeheugen::isGebleken() {

@@ -10,10 +10,11 @@ constexpr unsigned char vuil = 0xA5;
 constexpr std::size_t vuilBytes = 4096;
 
 // While it lives, the `nummer`-th allocation from here on, counted from 1, throws std::bad_alloc,
-// and that one alone; 0 lets all succeed. Those of less than `vanaf` bytes do not count.
+// and that one alone; 0 lets all succeed. Those of less than `vanaf` bytes do not count,
+// nor, with `alleenEigen`, those that a shared library asks for.
 class KrapGeheugen {
  public:
-  explicit KrapGeheugen(int nummer, std::size_t vanaf = 0);
+  explicit KrapGeheugen(int nummer, std::size_t vanaf = 0, bool alleenEigen = false);
   ~KrapGeheugen();
   KrapGeheugen(KrapGeheugen const&) = delete;
   KrapGeheugen& operator=(KrapGeheugen const&) = delete;

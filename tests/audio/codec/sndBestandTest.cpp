@@ -15,6 +15,7 @@
 #include "tests/steun/omgeving.h"
 #include "tests/steun/tijdelijkeMap.h"
 #include "tests/steun/wavLezer.h"
+#include "tests/steun/wxMain.h"
 
 namespace {
 
@@ -133,6 +134,24 @@ TEST(SndBestandLees, verdwenenNaHetOpenenBlijftLeesbaarDaarnaNiet) {
   std::filesystem::remove(map.pad("a.wav"));
   EXPECT_EQ(leesUit(bestand, 2, 2).blok, (Samples{1, 2}));
   verwachtOnleesbaar(map.pad("a.wav"));
+}
+
+TEST(SndBestandLees, gebrekWordtGemeldMetDeNaamEnEenKorterBestandNiet) {
+  TijdelijkeMap const map;
+  schrijfWav(map.pad("heel.wav"), {1, 2});
+  maakBestand(map.pad("kort.wav"), leesTekst(map.pad("heel.wav")).substr(0, 46));
+  for (char const* const naam : {"heel.wav", "kort.wav"}) {
+    SndBestand bestand = SndBestand::lees(bestandsnaam(map.pad(naam)));
+    Samples blok(2);
+    bestand.leesItems(blok.data(), 2);
+    bestand.meldGebrek();
+    EXPECT_TRUE(neemLog().empty()) << naam;
+  }
+  SndBestand::lees(bestandsnaam(map.pad("100%s.wav"))).meldGebrek();
+  std::vector<LogRegel> const regels = neemLog();
+  ASSERT_EQ(regels.size(), 1U);
+  EXPECT_EQ(regels[0].niveau, wxLOG_Error);
+  EXPECT_EQ(regels[0].tekst, "Could not read the whole of " + wxTekst(map.pad("100%s.wav")));
 }
 
 TEST(SndBestandLeesItems, monoGeheelEnInDelen) {
