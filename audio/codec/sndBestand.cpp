@@ -43,7 +43,7 @@ SndBestand SndBestand::schrijf(wxFileName const& bestand, int samplerate, int ka
 }
 
 void SndBestand::meldGebrek() const {
-  if (!isOpen() || toestand->leesfout) {
+  if (!isHeelGelezen()) {
     wxLogError(_("Could not read the whole of %s"), pad);
   }
 }

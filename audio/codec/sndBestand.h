@@ -23,8 +23,10 @@ class SndBestand {
   static SndBestand schrijf(wxFileName const& bestand, int samplerate, int kanalen, int formaat);
 
   bool isOpen() const { return toestand != nullptr; }
-  // Logs one error line, with the name of the file, where the file could not be opened or a read
-  // failed since. A file that is shorter than its header says has just fewer frames.
+  // False where the file could not be opened, or a read failed then or since: header or samples are
+  // not what the file holds. A file that is shorter than its header says has just fewer frames.
+  bool isHeelGelezen() const { return isOpen() && !toestand->leesfout; }
+  // Logs one error line, with the name of the file, where that is false.
   void meldGebrek() const;
   SF_INFO const& info() const { return gegevens; }
 

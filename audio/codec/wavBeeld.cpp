@@ -73,7 +73,7 @@ bool maakWavBeeld(SndBestand bron, wxFileName const& doel, int dacBits) {
     });
     heel = uit.schrijfItems(blok.data(), items) == items && gelezen == items && heel;
   }
-  return heel;
+  return heel && bron.isHeelGelezen();
 }
 
 bool isHeelWavBeeld(std::string_view begin, std::size_t lengte, sf_count_t frames) {
