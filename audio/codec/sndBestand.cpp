@@ -83,3 +83,8 @@ sf_count_t SndBestand::leesItems(short* doel, sf_count_t aantal) {
 sf_count_t SndBestand::schrijfItems(short const* bron, sf_count_t aantal) {
   return isOpen() ? sf_write_short(toestand->handvat.get(), bron, aantal) : 0;
 }
+
+bool SndBestand::voltooiKop() {
+  sf_command(toestand->handvat.get(), SFC_UPDATE_HEADER_NOW, nullptr, 0);
+  return sf_error(toestand->handvat.get()) == SF_ERR_NO_ERROR;
+}

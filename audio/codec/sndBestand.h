@@ -37,6 +37,9 @@ class SndBestand {
   sf_count_t leesItems(short* doel, sf_count_t aantal);
   // Writes `aantal` 16-bit values, whole frames, and returns how many were written.
   sf_count_t schrijfItems(short const* bron, sf_count_t aantal);
+  // Completes the header of an open, written file now: the last close tells nobody that it could
+  // not. False where the disk failed.
+  bool voltooiKop();
 
  private:
   struct Sluiter {

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdarg>
@@ -210,22 +211,24 @@ int vangMaak64(char* pad) {
 
 namespace {
 
-// A stream of the C library over the calls above. Its own would not go through them.
-ssize_t leesStroom(void* fd, char* doel, size_t bytes) {
-  return vangLees(static_cast<int>(reinterpret_cast<std::ptrdiff_t>(fd)), doel, bytes);
+// A stream of the C library over the calls above. Its own would not go through them. It is known by
+// the place of its file.
+int fdVan(void* plaats) {
+  return static_cast<int>(static_cast<Open*>(plaats) - toestand.bestanden.data());
 }
-ssize_t schrijfStroom(void* fd, char const* bron, size_t bytes) {
-  // A negative count would not do: here 0 tells of an error.
-  ssize_t const gelukt =
-      vangSchrijf(static_cast<int>(reinterpret_cast<std::ptrdiff_t>(fd)), bron, bytes);
-  return gelukt < 0 ? 0 : gelukt;
+ssize_t leesStroom(void* plaats, char* doel, size_t bytes) {
+  return vangLees(fdVan(plaats), doel, bytes);
 }
-int zoekStroom(void* fd, off64_t* plaats, int vanwaar) {
-  *plaats = lseek64(static_cast<int>(reinterpret_cast<std::ptrdiff_t>(fd)), *plaats, vanwaar);
-  return *plaats < 0 ? -1 : 0;
+ssize_t schrijfStroom(void* plaats, char const* bron, size_t bytes) {
+  // Here 0 tells of an error.
+  return std::max<ssize_t>(vangSchrijf(fdVan(plaats), bron, bytes), 0);
 }
-int sluitStroom(void* fd) {
-  return vangSluit(static_cast<int>(reinterpret_cast<std::ptrdiff_t>(fd)));
+int zoekStroom(void* plaats, off64_t* waar, int vanwaar) {
+  *waar = lseek64(fdVan(plaats), *waar, vanwaar);
+  return *waar < 0 ? -1 : 0;
+}
+int sluitStroom(void* plaats) {
+  return vangSluit(fdVan(plaats));
 }
 
 int vlaggenVan(char const* modus) {
@@ -247,11 +250,10 @@ FILE* doeOpenStroom(OpenStroom echt, char const* pad, char const* modus) {
     return echt(pad, modus);
   }
   int const fd = vangOpen(pad, vlaggenVan(modus), 0666);
-  if (fd < 0) {
-    return nullptr;
-  }
-  return fopencookie(reinterpret_cast<void*>(static_cast<std::ptrdiff_t>(fd)), modus,
-                     {leesStroom, schrijfStroom, zoekStroom, sluitStroom});
+  Open* const bestand = bestandVan(fd);
+  return bestand == nullptr
+             ? nullptr
+             : fopencookie(bestand, modus, {leesStroom, schrijfStroom, zoekStroom, sluitStroom});
 }
 
 }  // namespace

@@ -72,9 +72,12 @@ struct SpeexDesktopDecoder::Uitvoer {
   // Closes the file, and looks whether all of it is there: what fails as the header is completed,
   // or later still, shows nowhere else.
   void sluit(wxFileName const& naam) {
-    bool const wasOpen = wav->isOpen();
+    if (!wav->isOpen()) {
+      return;
+    }
+    bool const heleKop = wav->voltooiKop();
     wav.reset();
-    if (wasOpen && SndBestand::lees(naam).info().frames < static_cast<sf_count_t>(geschreven)) {
+    if (!heleKop || SndBestand::lees(naam).info().frames < static_cast<sf_count_t>(geschreven)) {
       meldMislukt();
     }
   }

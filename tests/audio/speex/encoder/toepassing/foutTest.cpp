@@ -100,7 +100,7 @@ class KanaalOpname {
   ~KanaalOpname() {
     dup2(kanaal, STDERR_FILENO);
     close(kanaal);
-    std::fclose(bestand);
+    static_cast<void>(std::fclose(bestand));
   }
   KanaalOpname(KanaalOpname const&) = delete;
   KanaalOpname& operator=(KanaalOpname const&) = delete;
