@@ -130,14 +130,19 @@ TEST(AdpcmConverterBestand, headerDieMeerBelooftDanErIs) {
   EXPECT_EQ(codesVan(*codeer(map.pad("a.wav"))), verwacht(golf(10)));
 }
 
-TEST(AdpcmConverterBestand, onbruikbareBestandenGevenEenLeegPakketEnGeenMelding) {
+// A file without samples is whole.
+TEST(AdpcmConverterBestand, onbruikbareBestandenGevenEenLeegPakketEnEenMelding) {
   TijdelijkeMap const map;
   maakBestand(map.pad("leeg.wav"), "");
   maakBestand(map.pad("tekst.wav"), "no sound\n");
-  verwachtLeegPakket(map.pad("nergens.wav"), 0);
-  verwachtLeegPakket(map.pad("leeg.wav"), 0);
-  verwachtLeegPakket(map.pad("tekst.wav"), 0);
-  verwachtLeegPakket(map.pad(), 0);
+  for (std::string const& pad :
+       {map.pad("nergens.wav"), map.pad("leeg.wav"), map.pad("tekst.wav"), map.pad()}) {
+    verwachtLeegPakket(pad, 0);
+    std::vector<LogRegel> const log = neemLog();
+    ASSERT_EQ(log.size(), 1U) << pad;
+    EXPECT_EQ(log[0].niveau, wxLOG_Error);
+    EXPECT_EQ(log[0].tekst.utf8_string(), "Could not read the whole of " + pad);
+  }
   schrijfWav(map.pad("geen.wav"), {}, {16000, 1, 16, 1});
   verwachtLeegPakket(map.pad("geen.wav"), 16000);
   EXPECT_TRUE(nietsGelogd(neemLog()));
