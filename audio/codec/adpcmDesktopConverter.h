@@ -22,9 +22,10 @@ enum ADPCMEncoderTaal : int {
 
 using ADPCMEncoderOpties = ConverterOpties<ADPCMEncoderTaal>;
 
-// None of the operations reports an error: a file that cannot be read counts as one of 0 samples at
-// 0 Hz. std::bad_alloc passes through, where the toolkit lets it. The coder's state goes on from
-// file to file for the life of the object, so that the same file gives other codes the second time.
+// None of the operations returns an error: a file that cannot be read counts as one of 0 samples at
+// 0 Hz, and is told in the log. std::bad_alloc passes through, where the toolkit lets it. The
+// coder's state goes on from file to file for the life of the object, so that the same file gives
+// other codes the second time.
 class ADPCMDesktopConverter : public ADPCMConverter {
  public:
   // The shift of the options reaches the coder with zetOpties only; until then nothing is scaled.

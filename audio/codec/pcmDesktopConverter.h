@@ -20,8 +20,8 @@ enum PCMEncoderTaal : int {
 
 using PCMEncoderOpties = ConverterOpties<PCMEncoderTaal>;
 
-// None of the operations reports an error: a file that cannot be read counts as one of 0 samples at
-// 0 Hz. std::bad_alloc passes through.
+// None of the operations returns an error: a file that cannot be read counts as one of 0 samples at
+// 0 Hz, and is told in the log. std::bad_alloc passes through.
 class PCMDesktopConverter {
  public:
   explicit PCMDesktopConverter(PCMEncoderOpties const& opties);

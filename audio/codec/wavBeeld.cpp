@@ -96,7 +96,9 @@ bool isHeelWavBeeld(std::string_view begin, std::size_t lengte, sf_count_t frame
     if (naam == "fmt ") {
       ligging = Ligging(begin.substr(plaats));
     } else if (naam == "data") {
-      return ligging.past(static_cast<sf_count_t>(bytes), frames) && plaats + bytes == lengte;
+      // Behind an odd number of bytes stands one more.
+      return ligging.past(static_cast<sf_count_t>(bytes), frames) &&
+             plaats + bytes + bytes % 2 == lengte;
     }
     plaats += bytes + bytes % 2;
   }

@@ -1,13 +1,32 @@
 #include "externals/desktop/configBestand.h"
 
+#include <sys/stat.h>
 #include <wx/file.h>
+#include <wx/filename.h>
 #include <wx/log.h>
 #include <wx/mstream.h>
 #include <wx/translation.h>
 
+#include <filesystem>
+#include <system_error>
+
 namespace {
 
 constexpr int plaatsen = wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE;
+
+// Those of the old file, or those of any new one.
+void geefRechten(wxString const& nieuw, wxString const& oud) {
+  struct stat gegevens {};
+  mode_t rechten = 0;
+  if (stat(oud.fn_str(), &gegevens) == 0) {
+    rechten = gegevens.st_mode;
+  } else {
+    mode_t const masker = umask(0);
+    umask(masker);
+    rechten = 0666U & ~masker;
+  }
+  static_cast<void>(chmod(nieuw.fn_str(), rechten));
+}
 
 }  // namespace
 
@@ -32,13 +51,25 @@ bool ConfigBestand::Flush(bool /*alleenHuidige*/) {
 
 // The texts are the toolkit's, and in its own catalog.
 wxString ConfigBestand::schrijf(wxMemoryOutputStream const& tekst) const {
-  wxTempFile bestand(pad);
-  if (!bestand.IsOpened()) {
+  wxFile bestand;
+  wxString const nieuw = wxFileName::CreateTempFileName(pad, &bestand);
+  if (nieuw.empty()) {
     return "can't open user configuration file.";
   }
-  if (!bestand.Write(tekst.GetOutputStreamBuffer()->GetBufferStart(), tekst.GetSize()) ||
-      !bestand.Flush()) {
+  geefRechten(nieuw, pad);
+  bool const geschreven = bestand.Write(tekst.GetOutputStreamBuffer()->GetBufferStart(),
+                                        tekst.GetSize()) == tekst.GetSize() &&
+                          bestand.Flush();
+  if (!bestand.Close() || !geschreven) {
+    wxRemoveFile(nieuw);
     return "can't write user configuration file.";
   }
-  return bestand.Commit() ? "" : "Failed to update user configuration file.";
+  // In one step: the toolkit's own way removes the old file first.
+  std::error_code fout;
+  std::filesystem::rename(nieuw.fn_str().data(), pad.fn_str().data(), fout);
+  if (fout) {
+    wxRemoveFile(nieuw);
+    return "Failed to update user configuration file.";
+  }
+  return wxEmptyString;
 }

@@ -6,8 +6,9 @@
 
 class wxMemoryOutputStream;
 
-// As the toolkit's, which goes by its writes alone: it puts the new file in the old one's place
-// also where the disk tells only behind the writes that it had no room.
+// As the toolkit's, but always in UTF-8. The toolkit's goes by its writes alone: it puts the new
+// file in the old one's place also where the disk tells only behind the writes that it had no room,
+// and it removes the old file before.
 class ConfigBestand : public wxFileConfig {
  public:
   // The file of the application `naam` in the user's home, with the system's own below it.

@@ -41,6 +41,8 @@ TEST_F(TijdelijkBestandProef, AnOrdinaryNameStaysWhole) {
 TEST_F(TijdelijkBestandProef, AnExtensionCountsForNothing) {
   EXPECT_EQ(beginVan("a.b"), "a");
   EXPECT_EQ(beginVan(std::string(100, 'a') + "." + std::string(200, 'b')), std::string(100, 'a'));
+  EXPECT_EQ(beginVan("aaa." + std::string(245, 'b') + ".c"), "aaa." + std::string(245, 'b'));
+  EXPECT_EQ(beginVan(std::string(250, 'a') + ".c"), std::string(249, 'a'));
 }
 
 // A name has 255 bytes, of which six are the toolkit's.

@@ -12,7 +12,6 @@
 #include <utility>
 #include <vector>
 
-#include "audio/codec/logTekst.h"
 #include "audio/codec/sndBestand.h"
 #include "externals/software/extern/speex/doorlezendeConv.h"
 
@@ -35,8 +34,8 @@ std::optional<SndBestand> openUitvoer(wxFileName const& uitvoer, int samplerate,
   }
 }
 
-void meldMislukt() {
-  wxLogError(veiligFormaat(_("Could not decode and play encoded audio fragments.")));
+void meldNietHeel(wxFileName const& wav) {
+  wxLogError(_("Could not write the whole of %s"), wav.GetFullPath());
 }
 
 // A NUL among the characters reads like the end of the text; the stream below knows the difference.
@@ -78,7 +77,7 @@ struct SpeexDesktopDecoder::Uitvoer {
     bool const heleKop = wav->voltooiKop();
     wav.reset();
     if (!heleKop || SndBestand::lees(naam).info().frames < static_cast<sf_count_t>(geschreven)) {
-      meldMislukt();
+      meldNietHeel(naam);
     }
   }
 };
@@ -91,7 +90,7 @@ int SpeexDesktopDecoder::decode(wxFileName const& invoer, wxFileName const& uitv
   wxFileInputStream bestand(invoer.GetFullPath());
   std::optional<SndBestand> wav = openUitvoer(uitvoer, geefSampFreq(), sfFormaat);
   if (!wav) {
-    meldMislukt();
+    meldNietHeel(uitvoer);
     return pastNiet;
   }
   Uitvoer uit{std::move(wav), std::vector<short>(frameSize)};

@@ -29,7 +29,7 @@ class SpeexDesktopDecoder : public SpeexDecoder {
   // fragments for its own, and at the end of the text goes on writing its last block. A fragment of
   // another frequency, or without header, ends it with pastNiet and no message; so do the
   // fragments at 32000 Hz, whose header leesHeader cannot read. What was decoded before stays in
-  // the file.
+  // the file. Where that could not be written whole, one error line names it.
   //
   // A text that ends between the two header fields has a fragment of 0 frames there.
   // Any text may be handed in. It ends by itself: past the end of the text no count is run on above

@@ -1,9 +1,9 @@
 // Every call that can fail, failing once, over every road: the program lives, what was whole before
 // is whole, and the result is whole or the user was told.
 //
-// A test is a road and a kind of call; in it the first such call fails, the second, and so on until
-// a run passes untouched. KESTROLIN_FOUTEN=all takes every one of them, without it the later ones
-// are taken in growing steps.
+// A test is a road and a kind of call. With KESTROLIN_FOUTEN=all the first such call fails, then
+// the second, and so on until a run passes untouched; without it some of them do, all over the
+// road.
 #include <unistd.h>
 #include <wx/log.h>
 

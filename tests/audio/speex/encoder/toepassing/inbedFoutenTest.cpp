@@ -50,6 +50,9 @@ TEST_F(InbedFoutenProef, NothingIsEmbeddedWhereTheTargetCannotBeOpened) {
 
 // A file that even an administrator cannot open for writing, and anybody can read.
 TEST_F(InbedFoutenProef, TheTextOfATargetThatCannotBeOpenedIsNotShown) {
+  if (!wxFileName::FileExists("/sys/devices/system/cpu/online")) {
+    GTEST_SKIP() << "no file here that the root user cannot open";
+  }
   inbedOver("/sys/devices/system/cpu/online", wxID_NO);
   verwachtMislukt("'/sys/devices/system/cpu/online'", "onlinec");
 }

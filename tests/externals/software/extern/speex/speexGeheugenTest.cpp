@@ -45,7 +45,7 @@ TEST(SpeexGeheugen, DecodeWithoutMemoryForItsOutputGives2AndLeavesTheCount) {
   EXPECT_EQ(openBestanden(), voor);
   std::vector<LogRegel> const log = neemLog();
   ASSERT_EQ(log.size(), 1U);
-  EXPECT_EQ(log[0].tekst, "Could not decode and play encoded audio fragments.");
+  EXPECT_EQ(log[0].tekst, "Could not write the whole of " + uit.GetFullPath());
   // The same decoder goes on when there is memory again.
   EXPECT_EQ(decoder.decode(in, uit, fragmenten, SF_FORMAT_WAV | SF_FORMAT_PCM_16), 0);
   EXPECT_EQ(fragmenten, 1U);
