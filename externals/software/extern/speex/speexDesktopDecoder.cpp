@@ -71,12 +71,13 @@ struct SpeexDesktopDecoder::Uitvoer {
   // Closes the file, and looks whether all of it is there: what fails as the header is completed,
   // or later still, shows nowhere else.
   void sluit(wxFileName const& naam) {
-    if (!wav->isOpen()) {
-      return;
-    }
-    bool const heleKop = wav->voltooiKop();
+    // One that the library could not open has no frames, and may be a WAV file all the same.
+    bool const heleKop = wav->isOpen() && wav->voltooiKop();
     wav.reset();
-    if (!heleKop || SndBestand::lees(naam).info().frames < static_cast<sf_count_t>(geschreven)) {
+    bool const heel =
+        heleKop && SndBestand::lees(naam).info().frames >= static_cast<sf_count_t>(geschreven);
+    // Without a name there was no place for it, as the toolkit has told.
+    if (!heel && naam.IsOk()) {
       meldNietHeel(naam);
     }
   }
