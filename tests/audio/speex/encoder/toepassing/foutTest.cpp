@@ -151,7 +151,7 @@ bool wilAlle() {
 // Which of `aantal` calls fail, one a run: each of them and one more, or some all over the road,
 // others for each of the `soorten` ways to fail.
 std::vector<int> nummers(int aantal, int soort, int soorten) {
-  constexpr int genoeg = 7;
+  constexpr int genoeg = KESTROLIN_STEEKPROEF;
   std::vector<int> gekozen;
   if (wilAlle() || aantal * soorten <= genoeg) {
     for (int nummer = 1; nummer <= aantal + (wilAlle() ? 1 : 0); ++nummer) {
