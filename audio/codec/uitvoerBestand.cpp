@@ -1,11 +1,22 @@
 #include "audio/codec/uitvoerBestand.h"
 
+#include <fcntl.h>
 #include <wx/intl.h>
 #include <wx/log.h>
 #include <wx/mstream.h>
 
 UitvoerBestand::UitvoerBestand(wxString const& pad, wxFile::OpenMode modus) : naam(pad) {
-  bestand.Open(pad, modus);
+  // Opening waits for nobody: neither for who may read a pipe, nor for the carrier of a line.
+  int const soort = modus == wxFile::write_append ? O_APPEND : O_TRUNC;
+  int const fd =
+      open(pad.fn_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | soort, wxS_DEFAULT);
+  if (fd < 0) {
+    // In the toolkit's words.
+    wxLogSysError(wxGetTranslation("can't open file '%s'"), pad);
+    return;
+  }
+  fcntl(fd, F_SETFL, fcntl(fd, F_GETFL) & ~O_NONBLOCK);
+  bestand.Attach(fd);
 }
 
 UitvoerBestand::UitvoerBestand(wxString const& pad, int rechten) : naam(pad) {

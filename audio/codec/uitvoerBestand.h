@@ -13,7 +13,8 @@ class UitvoerBestand : public wxOutputStream {
  public:
   // No file: takes nothing, and reports nothing.
   UitvoerBestand() = default;
-  // Opens the file at `pad` to replace or append. The toolkit logs why one cannot be opened.
+  // Opens the file at `pad` to replace (wxFile::write) or append (wxFile::write_append), and waits
+  // for nobody: what would block is an error. The log tells why a file cannot be opened.
   UitvoerBestand(wxString const& pad, wxFile::OpenMode modus);
   // Empties the file at `pad` or makes it, with `rechten` (wxS_IWUSR and its like) if it is new.
   UitvoerBestand(wxString const& pad, int rechten);

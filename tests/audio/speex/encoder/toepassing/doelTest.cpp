@@ -118,6 +118,21 @@ TEST_F(DoelProef, ALinkToAPipeIsRefusedToo) {
                     "Speex embedded data saved in uit.c");
 }
 
+TEST_F(DoelProef, APipeThatComesDuringTheQuestionIsNotWaitedForEither) {
+  for (int const antwoord : {wxID_YES, wxID_NO}) {
+    wxString const doel = bestand("uit.c", "oud\n");
+    bewaarOver(doel, antwoord, [this] {
+      std::filesystem::remove(map.pad("uit.c"));
+      ASSERT_EQ(mkfifo(map.pad("uit.c").c_str(), 0600), 0);
+    });
+    ASSERT_EQ(fouten().size(), 1U);
+    EXPECT_TRUE(fouten()[0].StartsWith("can't open file '" + doel + "' (error 6: "));
+    EXPECT_EQ(status(), "Speex embedded data saved in uit.c");
+    std::filesystem::remove(map.pad("uit.c"));
+    log().clear();
+  }
+}
+
 TEST_F(DoelProef, ADeviceThatDoesNotBlockTakesTheText) {
   bewaar("/dev/null");
   inbed("/dev/null");
