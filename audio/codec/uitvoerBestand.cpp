@@ -5,14 +5,20 @@
 #include <wx/log.h>
 #include <wx/mstream.h>
 
+namespace {
+
+// In the toolkit's words, which its own catalogs translate: it stands in none of ours.
+constexpr char const* nietTeOpenen = "can't open file '%s'";
+
+}  // namespace
+
 UitvoerBestand::UitvoerBestand(wxString const& pad, wxFile::OpenMode modus) : naam(pad) {
   // Opening waits for nobody: neither for who may read a pipe, nor for the carrier of a line.
   int const soort = modus == wxFile::write_append ? O_APPEND : O_TRUNC;
   int const fd =
       open(pad.fn_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | soort, wxS_DEFAULT);
   if (fd < 0) {
-    // In the toolkit's words.
-    wxLogSysError(wxGetTranslation("can't open file '%s'"), pad);
+    wxLogSysError(wxGetTranslation(nietTeOpenen), pad);
     return;
   }
   fcntl(fd, F_SETFL, fcntl(fd, F_GETFL) & ~O_NONBLOCK);
