@@ -1,10 +1,13 @@
-// A variable of the process's environment, set for the length of a block and put back as it was.
+// The process's environment, or a variable of it, put back at the end of a block as it was.
 #pragma once
+
+#include <unistd.h>
 
 #include <cstdlib>
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 class OmgevingsWaarde {
  public:
@@ -29,4 +32,28 @@ class OmgevingsWaarde {
  private:
   std::string naam;
   std::optional<std::string> vorige;
+};
+
+// All of the environment, whatever becomes of it meanwhile.
+class OmgevingBewaard {
+ public:
+  OmgevingBewaard() {
+    for (char* const* ingang = environ; *ingang != nullptr; ++ingang) {
+      ingangen.emplace_back(*ingang);
+    }
+  }
+  ~OmgevingBewaard() {
+    clearenv();
+    for (std::string const& ingang : ingangen) {
+      std::string::size_type const gelijk = ingang.find('=');
+      setenv(ingang.substr(0, gelijk).c_str(), ingang.substr(gelijk + 1).c_str(), 1);
+    }
+  }
+  OmgevingBewaard(OmgevingBewaard const&) = delete;
+  OmgevingBewaard& operator=(OmgevingBewaard const&) = delete;
+  OmgevingBewaard(OmgevingBewaard&&) = delete;
+  OmgevingBewaard& operator=(OmgevingBewaard&&) = delete;
+
+ private:
+  std::vector<std::string> ingangen;
 };

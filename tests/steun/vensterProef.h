@@ -1,7 +1,8 @@
 // The fixture of the window tests: the real application with its real main window, in a home
 // directory of its own, driven through its controls and menus.
 //
-// A test runs in a process of its own (ctest starts one each): the toolkit is started once in it.
+// A test runs in a process of its own (ctest starts one each), in which the toolkit starts once, or with
+// others of its program after each other: it leaves the environment as it found it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -101,6 +102,8 @@ class VensterProef : public ::testing::Test {
   // A name in a directory that stays until the process ends.
   static std::string procesPad(std::string const& naam);
 
+  // The next test in this process finds what this one found.
+  OmgevingBewaard omgeving;
   // The toolkit asks for these places once, and writes there of its own accord, after the test too.
   OmgevingsWaarde gegevens{"XDG_DATA_HOME", procesPad("data")};
   OmgevingsWaarde instellingen{"XDG_CONFIG_HOME", procesPad("config")};

@@ -9,7 +9,11 @@ namespace {
 
 class VoortgangProef : public InbedVensterProef {
  protected:
-  void laadDrie() { laad({wav("a.wav"), wav("b.wav"), wav("c.wav")}); }
+  void laadDrie() {
+    laad({wav("a.wav"), wav("b.wav"), wav("c.wav")});
+    // Those of the tests before this one.
+    neemVoortgang();
+  }
 
   // One dialog, which stands at 0 for the first file, and for each further one at the number of
   // those before it less 1.
