@@ -89,10 +89,4 @@ TEST(Array, eigenaarVanNietsGeeftNietsVrij) {
   EXPECT_EQ(array.geefAantal(), 0U);
 }
 
-TEST(Array, blokDatNietBestaanKanGeeftDeStandaarduitzondering) {
-  // Kept from the compiler, which would see at once that it is too much.
-  unsigned long long volatile const teVeel = 1ULL << 62U;
-  EXPECT_THROW(VelmoraArray<int>{teVeel}, std::bad_alloc);
-}
-
 }  // namespace
