@@ -13,6 +13,7 @@ struct Taal {
   std::string code;
   int nummer;  // a wxLanguage
 };
+// All of them, or, where each test takes long, the first alone.
 std::vector<Taal> const& talen();
 // For the names of tests.
 std::string taalCode(::testing::TestParamInfo<Taal> const& info);
