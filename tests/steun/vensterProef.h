@@ -1,8 +1,8 @@
 // The fixture of the window tests: the real application with its real main window, in a home
 // directory of its own, driven through its controls and menus.
 //
-// A test runs in a process of its own (ctest starts one each), in which the toolkit starts once, or with
-// others of its program after each other: it leaves the environment as it found it.
+// A test runs in a process of its own (ctest starts one each), or with others of its program, one
+// after the other: it leaves the environment as it found it.
 #pragma once
 
 #include <gtest/gtest.h>
