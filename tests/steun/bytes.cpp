@@ -1,7 +1,7 @@
 #include "tests/steun/bytes.h"
 
 #include <fstream>
-#include <iterator>
+#include <sstream>
 
 Bytes laagEerst(unsigned long long waarde, unsigned int aantal) {
   Bytes bytes;
@@ -14,7 +14,10 @@ Bytes laagEerst(unsigned long long waarde, unsigned int aantal) {
 
 std::string leesTekst(std::string const& pad) {
   std::ifstream stroom(pad, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stroom), {}};
+  // By the block: some of these files are large.
+  std::ostringstream inhoud;
+  inhoud << stroom.rdbuf();
+  return inhoud.str();
 }
 
 Bytes leesBytes(std::string const& pad) {

@@ -43,9 +43,12 @@ std::optional<GelezenWav> ontleedWav(Bytes const& bytes) {
       wav.soort.rate = getal(bytes, begin + 4, 4);
       wav.soort.bits = getal(bytes, begin + 14, 2);
     } else if (staatOp(bytes, begin - kop, "data") && wav.soort.bits == 16 && lengte % 2 == 0) {
-      for (std::size_t i = begin; i < begin + lengte; i += 2) {
-        int const waarde = getal(bytes, i, 2);
-        wav.waarden.push_back(waarde < 32768 ? waarde : waarde - 65536);
+      wav.waarden.resize(lengte / 2);
+      unsigned char const* plaats = bytes.data() + begin;
+      for (int& waarde : wav.waarden) {
+        waarde = plaats[0] | plaats[1] << 8;
+        waarde -= waarde < 32768 ? 0 : 65536;
+        plaats += 2;
       }
       return wav;
     }

@@ -7,6 +7,7 @@ The pictures are drawn here, in the colours and the font of the window.
 from __future__ import annotations
 
 import contextlib
+import functools
 import io
 import subprocess
 import sys
@@ -24,9 +25,15 @@ TEKST = ("-font", "DejaVu-Sans", "-pointsize", "13.33")
 KNOP = ("-fill", "none", "-stroke", LIJN, "-draw", "roundrectangle 8,8 320,40 3,3", "-stroke", "none")
 
 
+@functools.lru_cache(maxsize=None)
+def _getekend(opdrachten: tuple[str, ...]) -> bytes:
+    return subprocess.run(["convert", "-size", "330x50", f"xc:{GROND}", *opdrachten, "png:-"],
+                          check=True, stdout=subprocess.PIPE).stdout
+
+
 def teken(pad: Path, *opdrachten: str) -> None:
     pad.parent.mkdir(parents=True, exist_ok=True)
-    subprocess.run(["convert", "-size", "330x50", f"xc:{GROND}", *opdrachten, str(pad)], check=True)
+    pad.write_bytes(_getekend(opdrachten))
 
 
 def tekst(woorden: str, kleur: str = INKT, plaats: str = "+20+28") -> tuple[str, ...]:
