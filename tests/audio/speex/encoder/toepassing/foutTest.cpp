@@ -149,7 +149,7 @@ bool wilAlle() {
 }
 
 // Which of `aantal` calls fail, one a run: each of them and one more, or some all over the road,
-// others for each of the `soorten` ways to fail.
+// others for each of the `soorten` ways to fail; where the sample is small, none for the last ways.
 std::vector<int> nummers(int aantal, int soort, int soorten) {
   constexpr int genoeg = KESTROLIN_STEEKPROEF;
   std::vector<int> gekozen;
@@ -159,7 +159,7 @@ std::vector<int> nummers(int aantal, int soort, int soorten) {
     }
     return gekozen;
   }
-  int const stappen = std::max(genoeg - 1, soorten);
+  constexpr int stappen = genoeg - 1;
   for (int stap = soort; stap <= stappen; stap += soorten) {
     gekozen.push_back(1 + stap * (aantal - 1) / stappen);
   }
