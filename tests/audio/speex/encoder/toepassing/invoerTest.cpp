@@ -41,6 +41,20 @@ class InvoerProef : public GereedProef {
 
   void druk(int toets, int met = wxMOD_NONE) { muisEnToetsen.Char(toets, met); }
 
+  // The same for a key of the window manager, which may think of another window yet when this one
+  // has become active: it is pressed again after a while.
+  bool drukTot(int toets, int met, std::function<bool()> const& gebeurd) {
+    constexpr int rondesTussen = 500;
+    int ronde = 0;
+    return wacht([&] {
+      bool const is = gebeurd();
+      if (!is && ronde++ % rondesTussen == 0) {
+        druk(toets, met);
+      }
+      return is;
+    });
+  }
+
   // Counts the presses of "Encode" in the place of its work.
   void telEncode() {
     knop(ID_CODEER)->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { ++encodeKeren; });
@@ -114,8 +128,7 @@ TEST_F(InvoerProef, AltF4ClosesWithAnUnsavedResultAndAsksNothing) {
   startGecodeerd();
   std::size_t const voor = antwoorden.berichten.size();
   richt(knop(wxID_OPEN));
-  druk(WXK_F4, wxMOD_ALT);
-  EXPECT_TRUE(wacht([this] { return !leeft(); }));
+  EXPECT_TRUE(drukTot(WXK_F4, wxMOD_ALT, [this] { return !leeft(); }));
   EXPECT_EQ(antwoorden.berichten.size(), voor);
 }
 
