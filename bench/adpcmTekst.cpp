@@ -13,6 +13,7 @@
 #include "audio/codec/pcmDesktopConverter.h"
 #include "audio/codec/pcmPakket.h"
 #include "audio/codec/sndBestand.h"
+#include "audio/codec/wavFormaat.h"
 #include "bench/geluid.h"
 #include "bench/meting.h"
 
@@ -56,8 +57,8 @@ Kosten meetConverter(Opties const& opties, wxFileName const& wav) {
 
 // Through libsndfile, as IMA ADPCM.
 bool schrijfIma(wxFileName const& doel, std::vector<short> const& blok) {
-  return SndBestand::schrijf(doel, samplerate, 1, SF_FORMAT_WAV | SF_FORMAT_IMA_ADPCM)
-             .schrijfItems(blok.data(), samples) == samples;
+  return SndBestand::schrijf(doel, samplerate, 1, wavAdpcm).schrijfItems(blok.data(), samples) ==
+         samples;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "audio/codec/sndBestand.h"
+#include "audio/codec/wavFormaat.h"
 
 void maakRuis(std::string const& pad, int samplerate, int seconden) {
   std::mt19937 bron(1);  // NOLINT(cert-msc32-c,cert-msc51-cpp): repeatable on purpose
@@ -14,6 +15,6 @@ void maakRuis(std::string const& pad, int samplerate, int seconden) {
   std::vector<short> samples(static_cast<std::size_t>(seconden) *
                              static_cast<std::size_t>(samplerate));
   std::generate(samples.begin(), samples.end(), [&] { return static_cast<short>(sample(bron)); });
-  SndBestand::schrijf(wxFileName(pad), samplerate, 1, SF_FORMAT_WAV | SF_FORMAT_PCM_16)
+  SndBestand::schrijf(wxFileName(pad), samplerate, 1, wavPcm16)
       .schrijfItems(samples.data(), static_cast<sf_count_t>(samples.size()));
 }

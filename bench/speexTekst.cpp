@@ -13,6 +13,9 @@
 #include <vector>
 
 #include "audio/codec/sndBestand.h"
+#include "audio/codec/wavFormaat.h"
+#include "audio/uitvoer/kestrolinConfig.h"
+#include "audio/uitvoer/uitvoerOpties.h"
 #include "bench/geluid.h"
 #include "bench/meting.h"
 #include "externals/software/extern/speex/speexDesktop.h"
@@ -24,9 +27,7 @@ constexpr int herhalingen = 5;
 constexpr int seconden = 120;
 constexpr int framesPerSeconde = 50;
 constexpr int frames = seconden * framesPerSeconde;
-// The settings of a first start.
-constexpr int kwaliteit = 8;
-constexpr int complexiteit = 3;
+constexpr KestrolinConfig eersteStart;
 
 struct Band {
   SpeexBandFormaat formaat;
@@ -40,9 +41,9 @@ constexpr std::array<Band, 3> banden{{{SpeexNarrowband, "8 kHz", "0x40,(signed c
                                       {SpeexUltraWideband, "32 kHz", "0x00,(signed char)0x7d"}}};
 
 std::string encodeer(Band const& band, std::string const& wav) {
-  SpeexDesktopEncoder encoder(SpeexEncodeConfig(band.formaat, kwaliteit, complexiteit,
-                                                SpeexFixedBitrate, 0, 0, true, true, true),
-                              SpeexEncoderOpties());
+  KestrolinConfig instellingen = eersteStart;
+  instellingen.speexFormat = band.formaat;
+  SpeexDesktopEncoder encoder(maakSpeexConfig(instellingen), SpeexEncoderOpties());
   wxMemoryOutputStream uit;
   Percentage verhouding;
   if (encoder.encode(wxFileName(wav), uit, true, verhouding) != SpeexDesktopEncoder::gelukt) {
@@ -77,9 +78,9 @@ int draaiLus(Band const& band, std::vector<short> const& samples) {
   std::unique_ptr<void, EncoderEinde> const houder(speex_encoder_init(
       band.formaat == SpeexNarrowband ? &speex_nb_mode : speex_lib_get_mode(band.formaat)));
   void* const encoder = houder.get();
-  int waarde = kwaliteit;
+  auto waarde = static_cast<int>(eersteStart.speexQuality);
   speex_encoder_ctl(encoder, SPEEX_SET_QUALITY, &waarde);
-  waarde = complexiteit;
+  waarde = static_cast<int>(eersteStart.speexComplexity);
   speex_encoder_ctl(encoder, SPEEX_SET_COMPLEXITY, &waarde);
   waarde = 1;
   speex_encoder_ctl(encoder, SPEEX_SET_VAD, &waarde);
@@ -116,8 +117,7 @@ std::string metWareTelling(Band const& band, std::string tekst) {
 int decodeer(Band const& band, std::string const& tekst, std::string const& doel) {
   SpeexDesktopDecoder decoder(band.formaat, nullptr);
   unsigned long long fragmenten = 0;
-  return decoder.decode(wxFileName(tekst), wxFileName(doel), fragmenten,
-                        SF_FORMAT_WAV | SF_FORMAT_PCM_16);
+  return decoder.decode(wxFileName(tekst), wxFileName(doel), fragmenten, wavPcm16);
 }
 
 bool meetBand(Band const& band, std::string const& map) {

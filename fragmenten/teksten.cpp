@@ -1,4 +1,4 @@
-// Makes the texts of the example for the target out of the sample fragments, by the same classes as
+// Makes the texts of the example for the target out of the sample fragments, by the makers of
 // the window and as it would save them for a DAC of 12 bits, in C:
 //
 //     fragmentTeksten FRAGMENTS FOLDER
@@ -25,19 +25,18 @@
 #include <vector>
 
 #include "audio/codec/adpcmDesktopConverter.h"
+#include "audio/codec/audioConfig.h"
 #include "audio/codec/pcmDesktopConverter.h"
-#include "audio/codec/wavInbedding.h"
-#include "externals/software/extern/speex/speexDesktopEncoder.h"
-#include "numeriek/percentage.h"
+#include "audio/codec/wavFormaat.h"
+#include "audio/uitvoer/dacBreedte.h"
+#include "audio/uitvoer/kestrolinConfig.h"
+#include "audio/uitvoer/speexMaker.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
 constexpr int dacBits = 12;
-constexpr int volleBits = 16;
-constexpr int wavPcm = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
-constexpr int wavIma = SF_FORMAT_WAV | SF_FORMAT_IMA_ADPCM;
 
 struct Geluid {
   SF_INFO info{};
@@ -83,50 +82,52 @@ wxFileName wxPad(fs::path const& pad) {
   return {wxString::FromUTF8(pad.string())};
 }
 
+// The settings of a first start, for C and a DAC of that width.
+KestrolinConfig instellingenVoor(int bits) {
+  KestrolinConfig instellingen;
+  instellingen.speexOutputLanguage = UitvoerTaalC;
+  instellingen.dacNumberOfBits = dacIndexVan(bits);
+  return instellingen;
+}
+
 class Teksten {
  public:
   Teksten(fs::path bron, fs::path doel) : fragmenten(std::move(bron)), map(std::move(doel)) {}
 
   void pcm() const {
-    PCMDesktopConverter converter(PCMEncoderOpties(PCMTaalC, volleBits - dacBits));
-    wxMemoryOutputStream tekst;
-    for (char const* naam : {"ready", "chime"}) {
-      converter.codeerBestand(kopie(naam, "_pcm", lees(bron(naam)), wavPcm), true, tekst);
-    }
-    bewaar("pcm.c", tekst);
+    PCMDesktopConverter converter(PCMEncoderOpties(PCMTaalC, 0));
+    PCMMaker maker(converter);
+    maak(maker, instellingenVoor(dacBits), "pcm.c",
+         {kopie("ready", "_pcm", lees(bron("ready")), wavPcm16),
+          kopie("chime", "_pcm", lees(bron("chime")), wavPcm16)});
   }
 
   void adpcm() const {
     ADPCMDesktopConverter converter(ADPCMEncoderOpties(ADPCMTaalC, 0));
-    wxMemoryOutputStream tekst;
-    for (char const* naam : {"ready", "warning"}) {
-      converter.codeerBestand(kopie(naam, "_adpcm", zacht(lees(bron(naam))), wavPcm), true, tekst);
-    }
-    bewaar("adpcm.c", tekst);
+    ADPCMMaker maker(converter);
+    // The fragments are soft already.
+    maak(maker, instellingenVoor(sampleBits), "adpcm.c",
+         {kopie("ready", "_adpcm", zacht(lees(bron("ready"))), wavPcm16),
+          kopie("warning", "_adpcm", zacht(lees(bron("warning"))), wavPcm16)});
   }
 
   void wav() const {
-    InbedOpties const opties{UitvoerTaalC, "", dacBits};
-    wxMemoryOutputStream tekst;
-    schrijfInbedding(kopie("chime", "_wav", lees(bron("chime")), wavPcm), opties, tekst);
-    schrijfInbedding(kopie("alarm", "_wav", lees(bron("alarm")), wavIma), opties, tekst);
-    bewaar("wav.c", tekst);
+    WAVMaker maker;
+    maak(maker, instellingenVoor(dacBits), "wav.c",
+         {kopie("chime", "_wav", lees(bron("chime")), wavPcm16),
+          kopie("alarm", "_wav", lees(bron("alarm")), wavAdpcm)});
   }
 
   void speex(SpeexBandFormaat band, std::vector<char const*> const& namen,
              std::string const& bestand) const {
-    // The settings of a first start.
-    SpeexDesktopEncoder encoder(SpeexEncodeConfig(band, 8, 3, SpeexFixedBitrate, 5000,
-                                                  volleBits - dacBits, true, true, true),
-                                SpeexEncoderOpties());
-    wxMemoryOutputStream tekst;
-    for (char const* naam : namen) {
-      Percentage verhouding;
-      eis(encoder.encode(kopie(naam, "_speex", lees(bron(naam)), wavPcm), tekst, true,
-                         verhouding) == SpeexDesktopEncoder::gelukt,
-          std::string("cannot encode ") + naam);
-    }
-    bewaar(bestand, tekst);
+    KestrolinConfig instellingen = instellingenVoor(dacBits);
+    instellingen.speexFormat = band;
+    std::vector<wxFileName> wavs(namen.size());
+    std::transform(namen.begin(), namen.end(), wavs.begin(), [this](char const* naam) {
+      return kopie(naam, "_speex", lees(bron(naam)), wavPcm16);
+    });
+    SpeexMaker maker;
+    maak(maker, instellingen, bestand, wavs);
   }
 
  private:
@@ -137,6 +138,17 @@ class Teksten {
     fs::path const pad = map / (naam + achtervoegsel + ".wav");
     schrijf(pad, geluid, formaat);
     return wxPad(pad);
+  }
+
+  void maak(FragmentMaker& maker, KestrolinConfig const& instellingen, std::string const& bestand,
+            std::vector<wxFileName> const& wavs) const {
+    wxMemoryOutputStream tekst;
+    maker.begin(instellingen, wxString(), wavs.size());
+    for (wxFileName const& wav : wavs) {
+      eis(maker.maak(wav, true, tekst) == Gemaakt::heel,
+          "cannot encode " + wav.GetFullPath().utf8_string());
+    }
+    bewaar(bestand, tekst);
   }
 
   void bewaar(std::string const& naam, wxMemoryOutputStream const& tekst) const {

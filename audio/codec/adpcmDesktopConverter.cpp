@@ -30,14 +30,11 @@ unsigned long long leesGrootte(wxInputStream& stroom) {
 
 }  // namespace
 
-ADPCMDesktopConverter::ADPCMDesktopConverter(ADPCMEncoderOpties const& opties)
-    : taal(opties.taal), klasseNaam(opties.klasseNaam), optieBitShift(opties.bitShift) {}
+ADPCMDesktopConverter::ADPCMDesktopConverter(ADPCMEncoderOpties const& begin) : opties(begin) {}
 
-void ADPCMDesktopConverter::zetOpties(ADPCMEncoderOpties const& opties) {
-  taal = opties.taal;
-  klasseNaam = opties.klasseNaam;
-  optieBitShift = opties.bitShift;
-  zetBitShift(optieBitShift);
+void ADPCMDesktopConverter::zetOpties(ADPCMEncoderOpties const& nieuw) {
+  opties = nieuw;
+  zetBitShift(opties.bitShift);
 }
 
 VelmoraADPCMPakket* ADPCMDesktopConverter::codeerBestand(wxFileName const& wav) {
@@ -54,9 +51,17 @@ VelmoraADPCMPakket* ADPCMDesktopConverter::codeerBestand(wxFileName const& wav) 
 
 void ADPCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
                                           wxMemoryOutputStream& uit) {
+  wxOutputStream& stroom = uit;
+  codeerBestand(wav, metHeader, stroom);
+  // A memory stream takes more text after this.
+  uit.Close();
+}
+
+void ADPCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
+                                          wxOutputStream& uit) {
   std::unique_ptr<VelmoraADPCMPakket> const pakket(codeerBestand(wav));
   // The first count is one of bytes, two samples each, whatever its name says.
-  schrijfArrayTekst(*pakket, wav, {taal, klasseNaam, wav.GetName()},
+  schrijfArrayTekst(*pakket, wav, {opties.taal, opties.klasseNaam, wav.GetName()},
                     {{"_adpcmNumberOfEncSamples", pakket->geefAantalElementen()},
                      {"_pcmNumberOfSamples", pakket->geefAantalSamples()}},
                     metHeader, uit);

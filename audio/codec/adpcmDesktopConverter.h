@@ -12,6 +12,7 @@ class VelmoraADPCMPakket;
 class VelmoraPCMPakket;
 class wxFileName;
 class wxMemoryOutputStream;
+class wxOutputStream;
 
 // Every value other than C and C++ leaves the head of the array out.
 enum ADPCMEncoderTaal : int {
@@ -29,10 +30,10 @@ using ADPCMEncoderOpties = ConverterOpties<ADPCMEncoderTaal>;
 class ADPCMDesktopConverter : public ADPCMConverter {
  public:
   // The shift of the options reaches the coder with zetOpties only; until then nothing is scaled.
-  explicit ADPCMDesktopConverter(ADPCMEncoderOpties const& opties);
+  explicit ADPCMDesktopConverter(ADPCMEncoderOpties const& begin);
 
   // Replaces the language, the class name and the shift. The coder's state stays as it is.
-  void zetOpties(ADPCMEncoderOpties const& opties);
+  void zetOpties(ADPCMEncoderOpties const& nieuw);
 
   // Reads and encodes one file. The caller owns the packet. Of a file with more than one channel it
   // takes as many interleaved values as the file has frames. An odd last sample is not coded.
@@ -41,6 +42,7 @@ class ADPCMDesktopConverter : public ADPCMConverter {
   // Appends the text of one file to `uit`, with the serial header in the array or without. Either
   // way the array has room for the header; without it, nine zero bytes stand at its end.
   void codeerBestand(wxFileName const& wav, bool metHeader, wxMemoryOutputStream& uit);
+  void codeerBestand(wxFileName const& wav, bool metHeader, wxOutputStream& uit);
 
   // Writes the bytes that the array would hold to a file, replacing what it held.
   void codeerBestand(wxFileName const& wav, bool metHeader, wxFileName const& uitvoer);
@@ -70,7 +72,5 @@ class ADPCMDesktopConverter : public ADPCMConverter {
   void voerUitZelfTest(wxFileName const& wav);
 
  private:
-  ADPCMEncoderTaal taal;
-  wxString klasseNaam;
-  unsigned long long optieBitShift;
+  ADPCMEncoderOpties opties;
 };

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <wx/filename.h>
-#include <wx/mstream.h>
+#include <wx/stream.h>
 
 #include <initializer_list>
 
@@ -15,7 +15,7 @@
 template <typename Pakket>
 void schrijfArrayTekst(Pakket const& pakket, wxFileName const& wav, FragmentDoel const& doel,
                        std::initializer_list<FragmentTelling> tellingen, bool metHeader,
-                       wxMemoryOutputStream& uit) {
+                       wxOutputStream& uit) {
   SndBestand const bestand = SndBestand::lees(wav);
   if (pakket.geefAantalSamples() > 0) {
     bestand.meldGebrek();
@@ -23,6 +23,4 @@ void schrijfArrayTekst(Pakket const& pakket, wxFileName const& wav, FragmentDoel
   VelmoraArray<unsigned char> array(pakket.serieelGeefAantalBytes());
   pakket.maakSerieel(array, metHeader);
   FragmentTekst(uit).schrijfFragment(wav, bestand.info(), doel, tellingen, array, metHeader);
-  // A memory stream takes more text after this.
-  uit.Close();
 }

@@ -3,6 +3,9 @@
 
 #include "numeriek/breuk.h"
 
+// The width of every sample that the tool reads, in bits. A DAC has at most as many.
+inline constexpr int sampleBits = 16;
+
 struct VelmoraAudioConfig {
   VelmoraAudioConfig(Breuk const& frequentie, unsigned long long bits)
       : sampFreq(frequentie), aantalBits(bits) {}

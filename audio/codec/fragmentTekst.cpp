@@ -14,9 +14,9 @@
 
 namespace {
 
-// The %d of a count in the text shows its low 32 bits.
-int laagsteBits(unsigned long long aantal) {
-  return static_cast<int>(aantal);
+// A count in the text shows its low 32 bits, as a signed number.
+wxString laagsteBits(unsigned long long aantal) {
+  return wxString::Format("%d", static_cast<int>(aantal));
 }
 
 }  // namespace
@@ -28,7 +28,7 @@ wxString fragmentDuur(sf_count_t frames, int samplerate) {
   return tweeDecimalen(static_cast<double>(frames) / samplerate);
 }
 
-FragmentTekst::FragmentTekst(wxOutputStream& uit) : stroom(uit), tekstStroom(uit) {}
+FragmentTekst::FragmentTekst(wxOutputStream& uit) : stroom(uit), tekstStroom(uit, wxEOL_UNIX) {}
 
 void FragmentTekst::schrijf(wxString const& tekst) {
   if (stroom.IsOk()) {
@@ -57,8 +57,8 @@ void FragmentTekst::schrijfSchaal(int dacBits) {
 void FragmentTekst::schrijfKop(wxFileName const& wav, SF_INFO const& info) {
   schrijfHerkomst("Encoded", wav);
   schrijfFrequentie(info);
-  schrijf(wxString::Format("/* Original size              : %d frames\t\t*/\n",
-                           laagsteBits(static_cast<unsigned long long>(info.frames))));
+  schrijf("/* Original size              : " +
+          laagsteBits(static_cast<unsigned long long>(info.frames)) + " frames\t\t*/\n");
   schrijf("/* Original duration          : " + fragmentDuur(info.frames, info.samplerate) +
           " s\t\t*/\n");
 }
@@ -74,23 +74,18 @@ void FragmentTekst::schrijfFragment(wxFileName const& wav, SF_INFO const& info,
   if (metHeader) {
     schrijfHeaderUitleg(doel);
   }
-  schrijfArrayKop(doel, "unsigned char");
+  schrijfArrayKop(doel, byteArrayType);
   schrijfRijen(array);
   schrijfEinde(wav);
 }
 
 void FragmentTekst::schrijfTelling(FragmentDoel const& doel, FragmentTelling const& telling) {
-  wxString const waarde =
-      telling.achtervoegsel + wxString::Format("=%d;", laagsteBits(telling.aantal));
-  if (doel.taal == UitvoerTaalC) {
-    schrijf("/* const unsigned int " + doel.naam + waarde + " */\n");
-  } else if (doel.taal == UitvoerTaalCPP) {
-    schrijf("//const unsigned int " + doel.klasse + "::" + doel.naam + waarde + "\n");
-  }
+  schrijf(vulIn(uitvoerTaalRij(doel.taal).telling,
+                {doel.klasse, doel.naam + telling.achtervoegsel, {}, laagsteBits(telling.aantal)}));
 }
 
 void FragmentTekst::schrijfHeaderUitleg(FragmentDoel const& doel) {
-  if (doel.taal == UitvoerTaalC || doel.taal == UitvoerTaalCPP) {
+  if (heeftArrays(uitvoerTaalRij(doel.taal))) {
     schrijf(
         _("\n/* Bytes 0..3: Number of samples (Little Endian)\n    Bytes 4..5: Sampling "
           "frequency\n    Bytes 6..End:Data  */\n\n"));
@@ -98,11 +93,7 @@ void FragmentTekst::schrijfHeaderUitleg(FragmentDoel const& doel) {
 }
 
 void FragmentTekst::schrijfArrayKop(FragmentDoel const& doel, wxString const& elementType) {
-  if (doel.taal == UitvoerTaalC) {
-    schrijf("const " + elementType + " " + doel.naam + "[] = \n{\n");
-  } else if (doel.taal == UitvoerTaalCPP) {
-    schrijf("const " + elementType + " " + doel.klasse + "::" + doel.naam + "[] = \n{\n");
-  }
+  schrijf(vulIn(uitvoerTaalRij(doel.taal).arrayKop, {doel.klasse, doel.naam, elementType, {}}));
 }
 
 void FragmentTekst::schrijfRijen(VelmoraArray<unsigned char> const& array) {

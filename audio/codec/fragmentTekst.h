@@ -29,6 +29,9 @@ struct FragmentTelling {
   unsigned long long aantal;
 };
 
+// The elements of an array that is printed byte by byte.
+inline constexpr char const* byteArrayType = "unsigned char";
+
 class FragmentTekst {
  public:
   // Appends to `uit`, which must outlive this object, as UTF-8 with "\n" line ends.

@@ -16,13 +16,10 @@
 #include "audio/codec/sndBestand.h"
 #include "numeriek/byteGereedschap.h"
 
-PCMDesktopConverter::PCMDesktopConverter(PCMEncoderOpties const& opties)
-    : taal(opties.taal), klasseNaam(opties.klasseNaam), bitShift(opties.bitShift) {}
+PCMDesktopConverter::PCMDesktopConverter(PCMEncoderOpties const& begin) : opties(begin) {}
 
-void PCMDesktopConverter::zetOpties(PCMEncoderOpties const& opties) {
-  taal = opties.taal;
-  klasseNaam = opties.klasseNaam;
-  bitShift = opties.bitShift;
+void PCMDesktopConverter::zetOpties(PCMEncoderOpties const& nieuw) {
+  opties = nieuw;
 }
 
 VelmoraPCMPakket* PCMDesktopConverter::codeerBestand(wxFileName const& wav) const {
@@ -32,14 +29,22 @@ VelmoraPCMPakket* PCMDesktopConverter::codeerBestand(wxFileName const& wav) cons
                                                    Breuk(info.samplerate, 1));
   bestand.leesItems(pakket->geefData(), info.frames);
   bestand.meldGebrek();
-  pakket->vlakAf(bitShift);
+  pakket->vlakAf(opties.bitShift);
   return pakket.release();
 }
 
 void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
                                         wxMemoryOutputStream& uit) const {
+  wxOutputStream& stroom = uit;
+  codeerBestand(wav, metHeader, stroom);
+  // A memory stream takes more text after this.
+  uit.Close();
+}
+
+void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
+                                        wxOutputStream& uit) const {
   std::unique_ptr<VelmoraPCMPakket> const pakket(codeerBestand(wav));
-  schrijfArrayTekst(*pakket, wav, {taal, klasseNaam, wav.GetName()},
+  schrijfArrayTekst(*pakket, wav, {opties.taal, opties.klasseNaam, wav.GetName()},
                     {{"_pcmNumberOfEncSamples", pakket->geefAantalSamples()}}, metHeader, uit);
 }
 

@@ -10,6 +10,7 @@
 class VelmoraPCMPakket;
 class wxFileName;
 class wxMemoryOutputStream;
+class wxOutputStream;
 
 // Every value other than C and C++ leaves the head of the array out.
 enum PCMEncoderTaal : int {
@@ -24,10 +25,10 @@ using PCMEncoderOpties = ConverterOpties<PCMEncoderTaal>;
 // 0 Hz, and is told in the log. std::bad_alloc passes through.
 class PCMDesktopConverter {
  public:
-  explicit PCMDesktopConverter(PCMEncoderOpties const& opties);
+  explicit PCMDesktopConverter(PCMEncoderOpties const& begin);
 
   // Replaces the language, the class name and the shift.
-  void zetOpties(PCMEncoderOpties const& opties);
+  void zetOpties(PCMEncoderOpties const& nieuw);
 
   // Reads one file and scales its samples. The caller owns the packet. Of a file with more than one
   // channel it takes as many interleaved values as the file has frames.
@@ -36,6 +37,7 @@ class PCMDesktopConverter {
   // Appends the text of one file to `uit`, with the serial header in the array or without. Either
   // way the array has room for the header; without it, six zero bytes stand at its end.
   void codeerBestand(wxFileName const& wav, bool metHeader, wxMemoryOutputStream& uit) const;
+  void codeerBestand(wxFileName const& wav, bool metHeader, wxOutputStream& uit) const;
 
   // Writes the text of one file to a file of its own, replacing what it held.
   void codeerBestand(wxFileName const& wav, bool metHeader, wxFileName const& uitvoer) const;
@@ -47,7 +49,5 @@ class PCMDesktopConverter {
   void decodeerBestand(wxFileName const& bron, wxFileName const& doel) const;
 
  private:
-  PCMEncoderTaal taal;
-  wxString klasseNaam;
-  unsigned long long bitShift;
+  PCMEncoderOpties opties;
 };

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "audio/codec/audioConfig.h"
 #include "numeriek/byteGereedschap.h"
 
 namespace {
@@ -50,7 +51,6 @@ sf_count_t framesInBeeld(SF_INFO const& bron) {
 }
 
 bool maakWavBeeld(SndBestand bron, wxFileName const& doel, int dacBits) {
-  constexpr int sampleBits = 16;
   // A block is as large for every file, so that a long one asks for no more memory.
   constexpr sf_count_t blokItems = 8192;
   SF_INFO const& info = bron.info();

@@ -13,19 +13,19 @@
 #include "audio/codec/sndBestand.h"
 #include "audio/codec/tijdelijkBestand.h"
 #include "audio/codec/wavBeeld.h"
+#include "audio/codec/wavFormaat.h"
 
 namespace {
 
 void schrijfKop(FragmentTekst& tekst, wxFileName const& wav, SF_INFO const& info, int dacBits) {
-  constexpr int wavPcm16 = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
   tekst.schrijfHerkomst("Embedded", wav);
   tekst.schrijf(info.format == wavPcm16
                     ? _("/* WAV Format                 : WAV S16 PCM\t*/\n")
                     : _("/* WAV Format                 : WAV 4 Bit IMA ADPCM\t*/\n"));
   tekst.schrijfFrequentie(info);
   // The low 32 bits of the count, which is one of frames, whatever the line says.
-  tekst.schrijf(wxString::Format("/* Size                       : %ld bytes\t\t*/\n",
-                                 static_cast<long>(static_cast<unsigned int>(info.frames))));
+  tekst.schrijf(wxString::Format("/* Size                       : %u bytes\t\t*/\n",
+                                 static_cast<unsigned int>(info.frames)));
   tekst.schrijf("/* Duration                   : " + fragmentDuur(info.frames, info.samplerate) +
                 " s\t\t*/\n");
   tekst.schrijfSchaal(dacBits);
@@ -73,7 +73,7 @@ bool schrijfInbedding(wxFileName const& wav, InbedOpties const& opties, wxOutput
   schrijfKop(tekst, wav, bron.info(), opties.dacBits);
   // Both files are complete and closed behind this.
   bool const isGemaakt = maakWavBeeld(std::move(bron), beeld, opties.dacBits);
-  tekst.schrijfArrayKop({opties.taal, opties.klasse, wav.GetName()}, "unsigned char");
+  tekst.schrijfArrayKop({opties.taal, opties.klasse, wav.GetName()}, byteArrayType);
   tekst.schrijf("\t");
   bool const isGelezen = beeld.IsOk() && schrijfBytes(tekst, beeld, frames);
   tekst.schrijf("};\n\n");

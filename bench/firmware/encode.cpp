@@ -11,15 +11,14 @@
 #include <string>
 
 #include "audio/codec/adpcmDesktopConverter.h"
+#include "audio/codec/audioConfig.h"
 #include "audio/codec/pcmDesktopConverter.h"
-#include "audio/codec/uitvoerTaal.h"
-#include "audio/codec/wavInbedding.h"
-#include "externals/software/extern/speex/speexDesktop.h"
-#include "numeriek/percentage.h"
+#include "audio/uitvoer/dacBreedte.h"
+#include "audio/uitvoer/kestrolinConfig.h"
+#include "audio/uitvoer/speexMaker.h"
+#include "audio/uitvoer/wavKeuring.h"
 
 namespace {
-
-constexpr unsigned int sampleBits = 16;
 
 // Appends the elements in a line between the braces of an array.
 void appendElements(std::string const& line, ArrayBytes& bytes) {
@@ -47,37 +46,44 @@ ArrayBytes arrayIn(wxMemoryOutputStream const& stream) {
   return bytes;
 }
 
+// The settings of a first start, for C and a DAC of that width.
+KestrolinConfig settingsFor(unsigned int dacBits) {
+  KestrolinConfig settings;
+  settings.speexOutputLanguage = UitvoerTaalC;
+  settings.dacNumberOfBits = dacIndexVan(dacBits);
+  return settings;
+}
+
+// The array that the tool makes of a recording, empty where it makes none.
+ArrayBytes arrayOf(FragmentMaker& maker, KestrolinConfig const& settings, wxFileName const& wav) {
+  wxMemoryOutputStream text;
+  maker.begin(settings, wxString(), 1);
+  return maker.maak(wav, true, text) == Gemaakt::mislukt ? ArrayBytes() : arrayIn(text);
+}
+
 }  // namespace
 
 ArrayBytes pcmArray(wxFileName const& wav, unsigned int dacBits) {
-  wxMemoryOutputStream text;
-  PCMDesktopConverter(PCMEncoderOpties(PCMTaalC, sampleBits - dacBits))
-      .codeerBestand(wav, true, text);
-  return arrayIn(text);
+  PCMDesktopConverter converter(PCMEncoderOpties(PCMTaalC, 0));
+  PCMMaker maker(converter);
+  return arrayOf(maker, settingsFor(dacBits), wav);
 }
 
 ArrayBytes adpcmArray(wxFileName const& wav) {
-  wxMemoryOutputStream text;
-  ADPCMDesktopConverter(ADPCMEncoderOpties(ADPCMTaalC, 0)).codeerBestand(wav, true, text);
-  return arrayIn(text);
+  ADPCMDesktopConverter converter(ADPCMEncoderOpties(ADPCMTaalC, 0));
+  ADPCMMaker maker(converter);
+  return arrayOf(maker, settingsFor(sampleBits), wav);
 }
 
 ArrayBytes speexArray(wxFileName const& wav, int rate, unsigned int quality, unsigned int dacBits) {
-  constexpr unsigned int complexity = 3;
-  auto const& rates = SpeexBasis::standaardSampFreqs;
-  auto const band = std::distance(rates.begin(), std::find(rates.begin(), rates.end(), rate));
-  SpeexDesktopEncoder encoder(
-      SpeexEncodeConfig(static_cast<SpeexBandFormaat>(band), quality, complexity, SpeexFixedBitrate,
-                        0, sampleBits - dacBits, true, true, true),
-      SpeexEncoderOpties());
-  wxMemoryOutputStream text;
-  Percentage ratio;
-  return encoder.encode(wav, text, true, ratio) == SpeexDesktopEncoder::gelukt ? arrayIn(text)
-                                                                               : ArrayBytes();
+  KestrolinConfig settings = settingsFor(dacBits);
+  settings.speexFormat = bandVoorFrequentie(rate);
+  settings.speexQuality = quality;
+  SpeexMaker maker;
+  return arrayOf(maker, settings, wav);
 }
 
 ArrayBytes embeddedArray(wxFileName const& wav) {
-  wxMemoryOutputStream text;
-  schrijfInbedding(wav, {UitvoerTaalC, wxString(), sampleBits}, text);
-  return arrayIn(text);
+  WAVMaker maker;
+  return arrayOf(maker, settingsFor(sampleBits), wav);
 }

@@ -17,6 +17,7 @@
 #include <string>
 #include <vector>
 
+#include "audio/codec/audioConfig.h"
 #include "audio/codec/sndBestand.h"
 #include "bench/firmware/decode.h"
 #include "bench/firmware/encode.h"
@@ -26,7 +27,7 @@ namespace {
 
 // What brings 16-bit samples down to the range of 8 bits, for the ADPCM encoder.
 constexpr double quietVolume = 0.00387;
-constexpr unsigned int fullBits = 16;
+constexpr unsigned int fullBits = sampleBits;
 
 struct Fragment {
   wxFileName file;

@@ -5,6 +5,7 @@
 #include <wx/choice.h>
 #include <wx/imagxpm.h>
 #include <wx/menu.h>
+#include <wx/msgdlg.h>
 #include <wx/panel.h>
 #include <wx/radiobox.h>
 #include <wx/spinctrl.h>
@@ -15,13 +16,13 @@
 #include <wx/treectrl.h>
 #include <wx/utils.h>
 
+#include <algorithm>
 #include <vector>
 
 #include "audio/speex/encoder/toepassing/kestrolin.h"
 #include "audio/speex/encoder/toepassing/keuze.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "externals/desktop/configGetal.h"
-#include "externals/software/extern/speex/speexDesktop.h"
 
 wxBEGIN_EVENT_TABLE(HoofdVenster, wxFrame)
   EVT_MENU(wxID_OPEN, HoofdVenster::wavOpenHandler)
@@ -180,12 +181,15 @@ void HoofdVenster::maakSpeexControls() {
 }
 
 void HoofdVenster::maakCodeControls() {
-  auto const maakVak = [this](int id, wxString const& titel, std::array<wxString, 3> const& rijen) {
+  auto const maakVak = [this](int id, wxString const& titel, std::vector<wxString> const& rijen) {
     return new wxRadioBox(paneel, id, titel, wxDefaultPosition, wxDefaultSize,
                           static_cast<int>(rijen.size()), rijen.data(), 0, wxRA_SPECIFY_ROWS);
   };
   encoderTypeKeuze = maakVak(ID_ENCODER_TYPE, "Encoder type", {"Speex", "ADPCM", "PCM"});
-  langImplKeuze = maakVak(ID_LANG_IMPL, "Implementation Language", {"C ", "C++", "Python"});
+  std::vector<wxString> talen(uitvoerTalen.size());
+  std::transform(uitvoerTalen.begin(), uitvoerTalen.end(), talen.begin(),
+                 [](UitvoerTaalRij const& taal) { return taal.keuze; });
+  langImplKeuze = maakVak(ID_LANG_IMPL, "Implementation Language", talen);
   klasseLabel = new wxStaticText(paneel, wxID_ANY, "Class :");
   klasseVeld = new wxTextCtrl(paneel, ID_KLASSE);
   inclHeaderVakje = new wxCheckBox(paneel, ID_INCL_HEADER, "Include header in array");
@@ -249,4 +253,19 @@ void HoofdVenster::toonInstellingen() {
   kies(langImplKeuze, instellingen->speexOutputLanguage);
   inclHeaderVakje->SetValue(instellingen->IncludeHeader);
   kies(dacTypeKeuze, instellingen->dacNumberOfBits);
+}
+
+void HoofdVenster::onQuit(wxCommandEvent& event) {
+  if (gecodeerd && !opgeslagen) {
+    int const antwoord = wxMessageBox(
+        _("Your encoded file wasn't saved.\nWould you like to save it?"),
+        _("Encoded audio is not stored yet"), wxYES_NO | wxCANCEL | wxICON_QUESTION, this);
+    if (antwoord == wxYES) {
+      // A save dialog that the user cancels does not keep the program from ending.
+      speexSaveHandler(event);
+    } else if (antwoord != wxNO) {
+      return;
+    }
+  }
+  Close(true);
 }

@@ -13,22 +13,22 @@
 #include <wx/treebase.h>
 
 #include <array>
+#include <deque>
 #include <functional>
-#include <memory>
 #include <optional>
-#include <vector>
 
 #include "audio/codec/adpcmDesktopConverter.h"
 #include "audio/codec/pcmDesktopConverter.h"
 #include "audio/codec/uitvoerBestand.h"
-#include "audio/speex/encoder/toepassing/kestrolinConfig.h"
+#include "audio/uitvoer/dacBreedte.h"
+#include "audio/uitvoer/kestrolinConfig.h"
+#include "audio/uitvoer/speexMaker.h"
 
 class wxButton;
 class wxCheckBox;
 class wxChoice;
 class wxConfigBase;
 class wxPanel;
-class wxProgressDialog;
 class wxRadioBox;
 class wxSizer;
 class wxSound;
@@ -39,14 +39,12 @@ class wxStaticText;
 class wxTextCtrl;
 class wxTreeCtrl;
 class wxUpdateUIEvent;
-class SpeexDesktopEncoder;
-struct CoderingsRun;
 struct SF_INFO;
 
 class HoofdVenster : public wxFrame {
  public:
   // The widths of the DACs in bits, by the index of the DAC choice.
-  static constexpr std::array<long long, 4> DacAantalBits{8, 10, 12, 16};
+  static constexpr std::array<long long, 4> DacAantalBits = dacBreedten;
 
   // Builds the window from the settings and the configuration of the running application. It sets a
   // title of its own in the place of `title`.
@@ -141,19 +139,15 @@ class HoofdVenster : public wxFrame {
       wxString const& voorvoegsel,
       std::function<int(wxFileName const& tekst, wxFileName const& wav)> const& decodeer);
 
-  long long geefDacBits() const;
-  unsigned long long geefBitShift() const;
-  // The settings as the options of one of the converters below.
-  template <typename Opties>
-  Opties maakOpties() const;
-  // Completes the run of such a converter, and carries it out.
-  template <typename Opties, typename Converter>
-  void voerConverterRunUit(Converter& converter, CoderingsRun run);
-  void maakSpeexEncoder();
+  // A setting has changed: no result fits the settings any more.
+  void geefResultaatOp();
+
+  // Carries out a run of this maker over all loaded files, and shows and tells what came out. The
+  // tail of the message is asked for when all files are done. False when the run ended before its
+  // last file.
+  bool codeer(FragmentMaker& maker, wxString const& titel, wxString const& status,
+              std::function<wxString()> const& berichtStaart);
   void meldCoderenMislukt(wxFileName const& wav);
-  // False when the run ended before its last file.
-  bool voerRunUit(CoderingsRun const& run);
-  void schrijfInbeddingen(wxOutputStream& bestand, wxProgressDialog& voortgang) const;
 
   struct GekozenDoel {
     wxString meldNaam;  // as the status bar tells it
@@ -210,11 +204,9 @@ class HoofdVenster : public wxFrame {
   // Its coder's state goes on from run to run.
   ADPCMDesktopConverter adpcmConverter;
   PCMDesktopConverter pcmConverter;
-  // The encoder of the run that is on. A run ends its own encoder and never one that another run
-  // left: that of a failed run stays until the next run takes its place, and then waits for the
-  // window's end.
-  std::unique_ptr<SpeexDesktopEncoder> speexEncoder;
-  std::vector<std::unique_ptr<SpeexDesktopEncoder>> mislukteEncoders;
+  // The encoders of failed runs, which wait for the window's end, and behind them that of the run
+  // that is on.
+  std::deque<SpeexMaker> speexEncoder;
   wxMemoryOutputStream uitvoerStroom;  // the text of the last encoding
   bool bestandGeladen = false;
   bool gecodeerd = false;   // uitvoerStroom fits the settings

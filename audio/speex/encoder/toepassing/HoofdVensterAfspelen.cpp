@@ -1,5 +1,4 @@
 // Playback: of the loaded files, and of the encoded result as firmware would decode it.
-#include <sndfile.h>
 #include <wx/intl.h>
 #include <wx/log.h>
 #include <wx/radiobox.h>
@@ -12,10 +11,11 @@
 
 #include "audio/codec/logTekst.h"
 #include "audio/codec/uitvoerBestand.h"
+#include "audio/codec/wavFormaat.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
-#include "audio/speex/encoder/toepassing/speexConfig.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "audio/speex/encoder/toepassing/wavGrens.h"
+#include "audio/uitvoer/uitvoerOpties.h"
 #include "externals/software/extern/speex/speexDesktop.h"
 
 namespace {
@@ -95,7 +95,7 @@ void HoofdVenster::playEncodedSpeex(wxCommandEvent& /*event*/) {
   auto const decoder = std::make_unique<SpeexDesktopDecoder>(speexBandVan(*instellingen), this);
   speelResultaat("speexTmpBestand", [&decoder](wxFileName const& tekst, wxFileName const& wav) {
     unsigned long long aantal = 0;
-    decoder->decode(tekst, wav, aantal, SF_FORMAT_WAV | SF_FORMAT_PCM_16);
+    decoder->decode(tekst, wav, aantal, wavPcm16);
     return static_cast<int>(aantal);
   });
 }

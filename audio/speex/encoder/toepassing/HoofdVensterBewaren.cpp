@@ -7,8 +7,8 @@
 
 #include "audio/codec/uitvoerBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
-#include "audio/speex/encoder/toepassing/bestandsNamen.h"
-#include "audio/speex/encoder/toepassing/doelKeuring.h"
+#include "audio/uitvoer/bestandsNamen.h"
+#include "audio/uitvoer/doelKeuring.h"
 
 void HoofdVenster::speexSaveHandler(wxCommandEvent& /*event*/) {
   std::optional<GekozenDoel> const doel =

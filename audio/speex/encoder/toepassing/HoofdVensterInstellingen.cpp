@@ -1,5 +1,5 @@
-// The settings of the main window: what each control does to them, which controls are usable when,
-// and the question at the end.
+// The settings of the main window: what each control does to them, and which controls are usable
+// when.
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
@@ -25,7 +25,7 @@
 void HoofdVenster::bestandGeladenHandler(wxUpdateUIEvent& /*event*/) {
   // The setting decides about the class, not the radio box: a declined Python choice never counts.
   bool const klasseOntbreekt =
-      taalHeeftKlasse(instellingen->speexOutputLanguage) && klasseVeld->IsEmpty();
+      uitvoerTaalRij(instellingen->speexOutputLanguage).vraagtKlasse && klasseVeld->IsEmpty();
   Bediening const mag = bepaalBediening({bestandGeladen, gecodeerd, klasseOntbreekt});
   playMusicKnop->Enable(mag.bron);
   audioBoom->Enable(mag.bron);
@@ -50,47 +50,51 @@ void HoofdVenster::encoderKeuzeHandler(wxUpdateUIEvent& /*event*/) {
 }
 
 void HoofdVenster::headerInfoHandler(wxUpdateUIEvent& /*event*/) {
-  int const taal = langImplKeuze->GetSelection();
-  if (taal != UitvoerTaalC && !taalHeeftKlasse(taal)) {
+  UitvoerTaalRij const* const taal = zoekUitvoerTaal(langImplKeuze->GetSelection());
+  if (taal == nullptr) {
     return;
   }
-  klasseLabel->Enable(taalHeeftKlasse(taal));
-  klasseVeld->Enable(taalHeeftKlasse(taal));
+  klasseLabel->Enable(taal->vraagtKlasse);
+  klasseVeld->Enable(taal->vraagtKlasse);
+}
+
+void HoofdVenster::geefResultaatOp() {
+  gecodeerd = false;
 }
 
 void HoofdVenster::formaatHandler(wxCommandEvent& /*event*/) {
   instellingen->speexFormat = formaatKeuze->GetSelection();
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::bitRateTypeHandler(wxCommandEvent& /*event*/) {
   instellingen->speexBitRateChoice = bitRateTypeKeuze->GetSelection();
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::qualityHandler(wxSpinEvent& /*event*/) {
   instellingen->speexQuality = static_cast<unsigned int>(qualitySpin->GetValue());
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::complexityHandler(wxSpinEvent& /*event*/) {
   instellingen->speexComplexity = static_cast<unsigned int>(complexitySpin->GetValue());
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::vadHandler(wxCommandEvent& /*event*/) {
   instellingen->speexVAC = vadVakje->GetValue();
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::agcHandler(wxCommandEvent& /*event*/) {
   instellingen->speexAGC = agcVakje->GetValue();
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::denoiseHandler(wxCommandEvent& /*event*/) {
   instellingen->speexDenoise = denoiseVakje->GetValue();
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::perpenhHandler(wxCommandEvent& /*event*/) {
@@ -100,17 +104,17 @@ void HoofdVenster::perpenhHandler(wxCommandEvent& /*event*/) {
 
 void HoofdVenster::dacTypeHandler(wxCommandEvent& /*event*/) {
   instellingen->dacNumberOfBits = dacTypeKeuze->GetSelection();
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::encoderTypeHandler(wxCommandEvent& /*event*/) {
   // The kind of encoder is no setting: who needs it asks the radio box.
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::klasseIngaveHandler(wxCommandEvent& /*event*/) {
   klasseNaam = klasseVeld->GetValue();
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::maxRateHandler(wxCommandEvent& /*event*/) {
@@ -120,7 +124,7 @@ void HoofdVenster::maxRateHandler(wxCommandEvent& /*event*/) {
   } else {
     wxLogError("(maxRateHandler) kon getal niet omzetten.");
   }
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::inclHeaderHandler(wxCommandEvent& /*event*/) {
@@ -133,33 +137,18 @@ void HoofdVenster::inclHeaderHandler(wxCommandEvent& /*event*/) {
           _("Header info absence"), wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION) == wxYES;
   instellingen->IncludeHeader = !zonder;
   inclHeaderVakje->SetValue(!zonder);
-  gecodeerd = false;
+  geefResultaatOp();
 }
 
 void HoofdVenster::langImplHandler(wxCommandEvent& /*event*/) {
-  int const taal = langImplKeuze->GetSelection();
-  if (taal == UitvoerTaalC || taal == UitvoerTaalCPP) {
-    instellingen->speexOutputLanguage = taal;
-  } else if (taal == UitvoerTaalPython) {
+  UitvoerTaalRij const* const taal = zoekUitvoerTaal(langImplKeuze->GetSelection());
+  if (taal != nullptr && heeftArrays(*taal)) {
+    instellingen->speexOutputLanguage = taal->nummer;
+  } else if (taal != nullptr) {
     wxMessageBox(_("Unfortunately, at present Python encoding has not been implemented yet."),
                  _("Python encoding not available"), wxOK | wxICON_ERROR, this);
     kies(langImplKeuze, instellingen->speexOutputLanguage);
   }
   // Also after a declined Python: the result is given up although no setting changed.
-  gecodeerd = false;
-}
-
-void HoofdVenster::onQuit(wxCommandEvent& event) {
-  if (gecodeerd && !opgeslagen) {
-    int const antwoord = wxMessageBox(
-        _("Your encoded file wasn't saved.\nWould you like to save it?"),
-        _("Encoded audio is not stored yet"), wxYES_NO | wxCANCEL | wxICON_QUESTION, this);
-    if (antwoord == wxYES) {
-      // A save dialog that the user cancels does not keep the program from ending.
-      speexSaveHandler(event);
-    } else if (antwoord != wxNO) {
-      return;
-    }
-  }
-  Close(true);
+  geefResultaatOp();
 }

@@ -11,7 +11,7 @@
 #include "audio/codec/logTekst.h"
 #include "audio/codec/sndBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
-#include "audio/speex/encoder/toepassing/wavKeuring.h"
+#include "audio/uitvoer/wavKeuring.h"
 
 namespace {
 
@@ -82,7 +82,7 @@ void HoofdVenster::openWavFiles(wxArrayString& paden) {
     ++i;
   }
   if (bestandGeladen) {
-    gecodeerd = false;
+    geefResultaatOp();
     statusBalk->SetStatusText(_("Audio files loaded"), 0);
   }
 }
@@ -115,20 +115,16 @@ void HoofdVenster::toonFormaat(BestandKnoop const& knoop, SF_INFO const& info) c
 }
 
 bool HoofdVenster::neemBandOver(std::size_t index, int samplerate) {
-  int const band = bandVoorFrequentie(samplerate);
   if (index == 0) {
-    instellingen->speexFormat = band;
-    formaatKeuze->SetSelection(band);
+    instellingen->speexFormat = bandVoorFrequentie(samplerate);
+    formaatKeuze->SetSelection(instellingen->speexFormat);
   }
-  if (band == instellingen->speexFormat) {
-    return true;
-  }
-  // A file at 8000 Hz behind others ends the load without a message. That asymmetry stays.
-  if (band != 0) {
+  BandOordeel const oordeel = keurBand(samplerate, instellingen->speexFormat);
+  if (oordeel == BandOordeel::wijktAf) {
     wxMessageBox(
         _("Cannot convert multiple files with different sampling frequencies.\nPlease convert your "
           "audio files to identical sampling frequencies."),
         _("Multiple sampling frequencies not supported"), wxCLOSE | wxICON_ERROR, this);
   }
-  return false;
+  return oordeel == BandOordeel::past;
 }

@@ -1,13 +1,6 @@
 // Which controls of the main window are usable when: the rules, without the window.
 #pragma once
 
-#include "audio/codec/uitvoerTaal.h"
-
-// The output languages that put the arrays into a class.
-constexpr bool taalHeeftKlasse(int taal) {
-  return taal == UitvoerTaalCPP || taal == UitvoerTaalPython;
-}
-
 struct VensterToestand {
   bool geladen;          // audio files are loaded
   bool gecodeerd;        // there is a result that fits the settings

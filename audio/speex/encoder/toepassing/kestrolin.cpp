@@ -2,7 +2,6 @@
 
 #include <wx/sizer.h>
 
-#include "audio/codec/uitvoerTaal.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "externals/desktop/configGetal.h"
 #include "externals/desktop/geluidSpeler.h"
@@ -16,17 +15,18 @@ constexpr char const* speexPad = "/Gebruikersinstellingen/Speex";
 // list of them: what is read at the start is written at the end.
 template <typename Werk>
 void bezoekInstellingen(KestrolinConfig& record, Werk const& werk) {
-  werk("speexFormat", record.speexFormat, 0);
-  werk("speexQuality", record.speexQuality, 8);
-  werk("speexComplexity", record.speexComplexity, 3);
-  werk("speexBitRateChoice", record.speexBitRateChoice, 0);
-  werk("speexBitRate", record.speexBitRate, 5000);
-  werk("speexOutputLanguage", record.speexOutputLanguage, UitvoerTaalCPP);
-  werk("speexVAC", record.speexVAC, 1);
-  werk("speexDenoise", record.speexDenoise, 1);
-  werk("speexAGC", record.speexAGC, 1);
-  werk("IncludeHeader", record.IncludeHeader, 1);
-  werk("dacNumberOfBits", record.dacNumberOfBits, 3);
+  constexpr KestrolinConfig eersteStart;
+  werk("speexFormat", record.speexFormat, eersteStart.speexFormat);
+  werk("speexQuality", record.speexQuality, eersteStart.speexQuality);
+  werk("speexComplexity", record.speexComplexity, eersteStart.speexComplexity);
+  werk("speexBitRateChoice", record.speexBitRateChoice, eersteStart.speexBitRateChoice);
+  werk("speexBitRate", record.speexBitRate, eersteStart.speexBitRate);
+  werk("speexOutputLanguage", record.speexOutputLanguage, eersteStart.speexOutputLanguage);
+  werk("speexVAC", record.speexVAC, eersteStart.speexVAC);
+  werk("speexDenoise", record.speexDenoise, eersteStart.speexDenoise);
+  werk("speexAGC", record.speexAGC, eersteStart.speexAGC);
+  werk("IncludeHeader", record.IncludeHeader, eersteStart.IncludeHeader);
+  werk("dacNumberOfBits", record.dacNumberOfBits, eersteStart.dacNumberOfBits);
 }
 
 // A flag is stored as a number, of which the low byte counts.
@@ -42,20 +42,19 @@ void zet(unsigned int& veld, int getal) {
 
 }  // namespace
 
-Kestrolin::Kestrolin() : DesktopApp("Kestrolin"), instellingen{} {
+Kestrolin::Kestrolin() : DesktopApp("Kestrolin"), instellingen() {
   wxFileConfig* const config = geefAppConfig();
   config->SetPath(speexPad);
-  bezoekInstellingen(instellingen, [config](char const* sleutel, auto& veld, int standaard) {
-    zet(veld, leesGetal(*config, sleutel, standaard));
+  bezoekInstellingen(instellingen, [config](char const* sleutel, auto& veld, auto standaard) {
+    zet(veld, leesGetal(*config, sleutel, static_cast<int>(standaard)));
   });
 }
 
 Kestrolin::~Kestrolin() {
   wxFileConfig* const config = geefAppConfig();
   config->SetPath(speexPad);
-  bezoekInstellingen(instellingen, [config](char const* sleutel, auto const& veld, int) {
-    config->Write(sleutel, veld);
-  });
+  bezoekInstellingen(instellingen, [config](char const* sleutel, auto const& veld,
+                                            auto /*standaard*/) { config->Write(sleutel, veld); });
 }
 
 bool Kestrolin::OnInit() {

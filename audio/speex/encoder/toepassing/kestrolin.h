@@ -2,7 +2,7 @@
 // window.
 #pragma once
 
-#include "audio/speex/encoder/toepassing/kestrolinConfig.h"
+#include "audio/uitvoer/kestrolinConfig.h"
 #include "externals/desktop/desktopApp.h"
 
 class HoofdVenster;

@@ -11,8 +11,8 @@
 class SpeexBasis {
  public:
   // By band: the sampling frequency in Hz, and the samples in a frame.
-  static constexpr std::array<unsigned short, 3> standaardSampFreqs{8000, 16000, 32000};
-  static constexpr std::array<unsigned short, 3> frameSize{160, 320, 640};
+  static constexpr std::array<unsigned short, 3> standaardSampFreqs = speexFrequenties;
+  static constexpr std::array<unsigned short, 3> frameSize = speexFrameSizes;
   // The most bytes that an encoded frame has.
   static constexpr int maxFrameBytes = 200;
 

@@ -63,6 +63,12 @@ SpeexDesktopEncoder::SpeexDesktopEncoder(SpeexEncodeConfig const& instellingen,
 
 int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxMemoryOutputStream& uitvoer,
                                 bool metHeader, Percentage& verhouding) {
+  wxOutputStream& stroom = uitvoer;
+  return encode(bestand, stroom, metHeader, verhouding);
+}
+
+int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxOutputStream& uitvoer, bool metHeader,
+                                Percentage& verhouding) {
   SndBestand wav = SndBestand::lees(bestand);
   SF_INFO const info = wav.info();
   if (info.samplerate != geefSampFreq()) {
@@ -79,11 +85,11 @@ int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxMemoryOutputStream&
   Omvang const omvang = encodeFrames(wav, frames);
   verhouding = maakVerhouding(omvang.totaal, info.frames);
   schrijfOmvang(tekst, omvang, verhouding);
-  if (taal != UitvoerTaalC && taal != UitvoerTaalCPP) {
-    return taal == UitvoerTaalPython ? pastNiet : onbekendeTaal;
+  if (!heeftArrays(uitvoerTaalRij(taal))) {
+    return zoekUitvoerTaal(taal) == nullptr ? onbekendeTaal : pastNiet;
   }
 
-  tekst.schrijfArrayKop({taal, klasseNaam, bestand.GetName()}, "signed char");
+  tekst.schrijfArrayKop({taal, klasseNaam, bestand.GetName()}, arrayType);
   if (metHeader) {
     tekst.schrijf(
         // TRANSLATORS: without the letter "x" and without "{": the decoder of the text looks for
@@ -116,8 +122,8 @@ void SpeexDesktopEncoder::schrijfInstellingen(FragmentTekst& tekst) const {
                 naamVan(formaatNamen, plaatsVan(config.formaat)) + " \t\t*/\n");
   tekst.schrijf("/* Speex Bitrate                   : " +
                 naamVan(bitrateNamen, static_cast<std::size_t>(config.bitrateType)) + " \t\t*/\n");
-  tekst.schrijf(wxString::Format("/* Speex Max Bitrate               : %ld bytes \t\t*/\n",
-                                 static_cast<long>(config.maxBitrate)));
+  tekst.schrijf(wxString::Format("/* Speex Max Bitrate               : %u bytes \t\t*/\n",
+                                 config.maxBitrate));
   tekst.schrijf("/* Speex AGC                       : " + naamVan(booleanNamen, config.agc) +
                 " \t\t*/\n");
   tekst.schrijf("/* Speex Denoise                   : " + naamVan(booleanNamen, config.denoise) +
@@ -141,7 +147,7 @@ void SpeexDesktopEncoder::schrijfOmvang(FragmentTekst& tekst, Omvang const& omva
 }
 
 SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav,
-                                                              wxMemoryOutputStream& uit) {
+                                                              wxOutputStream& uit) {
   auto const n = static_cast<sf_count_t>(geefFrameSize(config.formaat));
   std::vector<short> vers(static_cast<std::size_t>(n));
   std::vector<short> samples(vers.size());

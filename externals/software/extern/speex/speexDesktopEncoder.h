@@ -16,6 +16,7 @@ class Percentage;
 class SndBestand;
 class wxFileName;
 class wxMemoryOutputStream;
+class wxOutputStream;
 
 struct SpeexEncoderOpties {
   // C.
@@ -31,8 +32,10 @@ class SpeexDesktopEncoder : public SpeexEncoder {
  public:
   // What encode returns.
   static constexpr int gelukt = 0;
-  static constexpr int pastNiet = 2;  // another sampling frequency, or Python
+  static constexpr int pastNiet = 2;  // another sampling frequency, or a language without arrays
   static constexpr int onbekendeTaal = 3;
+  // The elements of its arrays.
+  static constexpr char const* arrayType = "signed char";
 
   SpeexDesktopEncoder(SpeexEncodeConfig const& instellingen, SpeexEncoderOpties const& opties);
 
@@ -47,6 +50,8 @@ class SpeexDesktopEncoder : public SpeexEncoder {
   // interleaved values as the file has frames. Passes std::bad_alloc on.
   int encode(wxFileName const& bestand, wxMemoryOutputStream& uitvoer, bool metHeader,
              Percentage& verhouding);
+  int encode(wxFileName const& bestand, wxOutputStream& uitvoer, bool metHeader,
+             Percentage& verhouding);
 
  private:
   // What the frames of a file come to, in bytes.
@@ -59,7 +64,7 @@ class SpeexDesktopEncoder : public SpeexEncoder {
   void schrijfInstellingen(FragmentTekst& tekst) const;
   static void schrijfOmvang(FragmentTekst& tekst, Omvang const& omvang,
                             Percentage const& verhouding);
-  Omvang encodeFrames(SndBestand& wav, wxMemoryOutputStream& uit);
+  Omvang encodeFrames(SndBestand& wav, wxOutputStream& uit);
   int encodeFrame(std::vector<short> const& samples, std::vector<float>& geschaald);
 
   std::array<char, maxFrameBytes> frameBuffer{};  // one encoded frame

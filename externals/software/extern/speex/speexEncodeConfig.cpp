@@ -2,19 +2,9 @@
 
 namespace {
 
-constexpr unsigned long long sampleBits = 16;
-
 Breuk frequentieVan(SpeexBandFormaat band) {
-  switch (band) {
-    case SpeexNarrowband:
-      return {8000, 1};
-    case SpeexWideband:
-      return {16000, 1};
-    case SpeexUltraWideband:
-      return {32000, 1};
-    default:
-      return {0, 1};
-  }
+  auto const plaats = static_cast<std::size_t>(band);
+  return {plaats < speexFrequenties.size() ? speexFrequenties[plaats] : 0, 1};
 }
 
 }  // namespace

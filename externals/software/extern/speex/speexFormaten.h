@@ -2,12 +2,14 @@
 // window, of the settings in the configuration, and of the tables of the Speex classes.
 #pragma once
 
+#include <array>
+
 // Also the number by which the Speex library knows the mode.
-enum SpeexBandFormaat : int {
-  SpeexNarrowband = 0,    // 8000 Hz, frames of 160 samples
-  SpeexWideband = 1,      // 16000 Hz, frames of 320 samples
-  SpeexUltraWideband = 2  // 32000 Hz, frames of 640 samples
-};
+enum SpeexBandFormaat : int { SpeexNarrowband = 0, SpeexWideband = 1, SpeexUltraWideband = 2 };
+
+// By band: the sampling frequency in Hz, and the samples in a frame.
+inline constexpr std::array<unsigned short, 3> speexFrequenties{8000, 16000, 32000};
+inline constexpr std::array<unsigned short, 3> speexFrameSizes{160, 320, 640};
 
 enum SpeexBitrateType : int {
   SpeexFixedBitrate = 0,     // constant, set by the quality alone

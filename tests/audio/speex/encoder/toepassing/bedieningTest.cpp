@@ -44,15 +44,6 @@ TEST(BedieningsRegels, FollowFromTheThreeFlagsInAllEightStates) {
   }
 }
 
-TEST(BedieningsRegels, OnlyCppAndPythonHaveAClass) {
-  EXPECT_FALSE(taalHeeftKlasse(0));
-  EXPECT_TRUE(taalHeeftKlasse(1));
-  EXPECT_TRUE(taalHeeftKlasse(2));
-  EXPECT_FALSE(taalHeeftKlasse(-1));
-  EXPECT_FALSE(taalHeeftKlasse(3));
-  EXPECT_FALSE(taalHeeftKlasse(99));
-}
-
 class BedieningProef : public GereedProef {
  protected:
   // Holds all ten windows and menu items against the row of that state.

@@ -1,5 +1,5 @@
 // The names that are proposed for a saved text, and the name that is told afterwards.
-#include "audio/speex/encoder/toepassing/bestandsNamen.h"
+#include "audio/uitvoer/bestandsNamen.h"
 
 #include <gtest/gtest.h>
 

@@ -13,3 +13,8 @@ bool isAdpcm(SF_INFO const& info);
 // The index of the band choice for the rate of a usable file: 0 for 8000, 1 for 16000, 2 for 32000
 // Hz.
 int bandVoorFrequentie(int samplerate);
+
+// Whether a usable file goes with the others of its load. The first file of a load decides on the
+// band of all. One at 8000 Hz behind others ends the load without a word: that asymmetry stays.
+enum class BandOordeel { past, wijktAf, wijktStilAf };
+BandOordeel keurBand(int samplerate, int band);

@@ -1,11 +1,12 @@
-#include "audio/speex/encoder/toepassing/speexConfig.h"
+#include "audio/uitvoer/uitvoerOpties.h"
 
 #include <speex/speex_types.h>
 
 #include <algorithm>
 #include <limits>
 
-#include "audio/speex/encoder/toepassing/kestrolinConfig.h"
+#include "audio/uitvoer/dacBreedte.h"
+#include "audio/uitvoer/kestrolinConfig.h"
 
 namespace {
 
@@ -32,6 +33,13 @@ unsigned int begrensBitrate(unsigned int bitrate) {
   return std::min(bitrate, hoogste);
 }
 
+template <typename Opties>
+Opties maakConverterOpties(KestrolinConfig const& instellingen, wxString const& klasse) {
+  auto const taal = static_cast<decltype(Opties::taal)>(instellingen.speexOutputLanguage);
+  return uitvoerTaalRij(taal).krijgtKlasse ? Opties(taal, klasse, bitShiftVan(instellingen))
+                                           : Opties(taal, bitShiftVan(instellingen));
+}
+
 }  // namespace
 
 SpeexBandFormaat speexBandVan(KestrolinConfig const& instellingen) {
@@ -45,14 +53,31 @@ SpeexBandFormaat speexBandVan(KestrolinConfig const& instellingen) {
   }
 }
 
-SpeexEncodeConfig maakSpeexConfig(KestrolinConfig const& instellingen, unsigned int gainBits) {
+SpeexEncodeConfig maakSpeexConfig(KestrolinConfig const& instellingen) {
   return {speexBandVan(instellingen),
           begrensNiveau(instellingen.speexQuality),
           begrensNiveau(instellingen.speexComplexity),
           bitrateSoortVan(instellingen),
           begrensBitrate(instellingen.speexBitRate),
-          gainBits,
+          bitShiftVan(instellingen),
           instellingen.speexVAC,
           instellingen.speexDenoise,
           instellingen.speexAGC};
+}
+
+SpeexEncoderOpties maakSpeexOpties(KestrolinConfig const& instellingen, wxString const& klasse) {
+  return uitvoerTaalRij(instellingen.speexOutputLanguage).krijgtKlasse ? SpeexEncoderOpties(klasse)
+                                                                       : SpeexEncoderOpties();
+}
+
+PCMEncoderOpties maakPcmOpties(KestrolinConfig const& instellingen, wxString const& klasse) {
+  return maakConverterOpties<PCMEncoderOpties>(instellingen, klasse);
+}
+
+ADPCMEncoderOpties maakAdpcmOpties(KestrolinConfig const& instellingen, wxString const& klasse) {
+  return maakConverterOpties<ADPCMEncoderOpties>(instellingen, klasse);
+}
+
+InbedOpties maakInbedOpties(KestrolinConfig const& instellingen, wxString const& klasse) {
+  return {instellingen.speexOutputLanguage, klasse, dacBitsVan(instellingen)};
 }

@@ -1,18 +1,11 @@
-#include "audio/speex/encoder/toepassing/bestandsNamen.h"
+#include "audio/uitvoer/bestandsNamen.h"
 
 #include <wx/filename.h>
 
 #include "audio/codec/uitvoerTaal.h"
 
 wxString extensieVoorTaal(int taal) {
-  switch (taal) {
-    case UitvoerTaalC:
-      return "c";
-    case UitvoerTaalCPP:
-      return "cpp";
-    default:
-      return "py";
-  }
+  return uitvoerTaalRij(taal).extensie;
 }
 
 wxString stelNaamVoor(wxArrayString const& wavBestanden, wxString const& map) {

@@ -1,5 +1,5 @@
 // Which sound files are taken, by what libsndfile tells of them.
-#include "audio/speex/encoder/toepassing/wavKeuring.h"
+#include "audio/uitvoer/wavKeuring.h"
 
 #include <gtest/gtest.h>
 
@@ -73,6 +73,23 @@ TEST(WavKeuring, EachFrequencyHasItsBand) {
   EXPECT_EQ(bandVoorFrequentie(8000), 0);
   EXPECT_EQ(bandVoorFrequentie(16000), 1);
   EXPECT_EQ(bandVoorFrequentie(32000), 2);
+}
+
+TEST(WavKeuring, FileGoesWithAnotherOfItsBand) {
+  EXPECT_EQ(keurBand(8000, 0), BandOordeel::past);
+  EXPECT_EQ(keurBand(16000, 1), BandOordeel::past);
+  EXPECT_EQ(keurBand(32000, 2), BandOordeel::past);
+}
+
+TEST(WavKeuring, FileOfAnotherBandIsToldButForOneAt8000Hz) {
+  EXPECT_EQ(keurBand(16000, 0), BandOordeel::wijktAf);
+  EXPECT_EQ(keurBand(32000, 0), BandOordeel::wijktAf);
+  EXPECT_EQ(keurBand(32000, 1), BandOordeel::wijktAf);
+  EXPECT_EQ(keurBand(16000, 2), BandOordeel::wijktAf);
+  EXPECT_EQ(keurBand(8000, 1), BandOordeel::wijktStilAf);
+  EXPECT_EQ(keurBand(8000, 2), BandOordeel::wijktStilAf);
+  // A band that an edited configuration made up.
+  EXPECT_EQ(keurBand(8000, 7), BandOordeel::wijktStilAf);
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "audio/speex/encoder/toepassing/doelKeuring.h"
+#include "audio/uitvoer/doelKeuring.h"
 
 #include <wx/filename.h>
 #include <wx/intl.h>

@@ -1,0 +1,25 @@
+// The window's eye on a run: a progress dialog for as long as this object lives, without a button
+// to cancel.
+#pragma once
+
+#include <wx/progdlg.h>
+
+#include "audio/uitvoer/uitvoerRun.h"
+
+class wxCheckBox;
+
+class VensterToezicht : public RunToezicht {
+ public:
+  // For a run over `aantal` files. The box tells whether an array has its header, and is read for
+  // each.
+  VensterToezicht(wxWindow* ouder, wxString const& titel, wxString const& bericht,
+                  std::size_t aantal, wxCheckBox const& inclHeader);
+
+  bool metHeader() override;
+  void meldNietHeel(wxString const& wav) override;
+  void meldGedaan(std::size_t nummer) override;
+
+ private:
+  wxProgressDialog voortgang;
+  wxCheckBox const& inclHeaderVakje;
+};
