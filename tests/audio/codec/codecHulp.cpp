@@ -79,19 +79,28 @@ std::string tekstVan(wxMemoryOutputStream const& stroom) {
   return tekst;
 }
 
-std::string zonderMoment(std::string const& tekst) {
-  std::size_t const begin = tekst.find("/* Date");
-  std::size_t const einde = tekst.find('\n', begin);
-  if (begin == std::string::npos || einde == std::string::npos) {
-    ADD_FAILURE() << "no line of date and time";
-    return tekst;
-  }
-  std::string const regel = tekst.substr(begin, einde + 1 - begin);
-  std::string vorm = regel;
+std::string zonderMomenten(std::string const& tekst) {
+  std::string vorm = tekst;
   std::replace_if(
       vorm.begin(), vorm.end(), [](char teken) { return teken >= '0' && teken <= '9'; }, '9');
-  EXPECT_EQ(vorm, "/* Date : 9999-99-99 : 99:99:99\t\t*/\n") << regel;
-  return tekst.substr(0, begin) + momentRegel + tekst.substr(einde + 1);
+  std::string const moment = "/* Date : 9999-99-99 : 99:99:99\t\t*/\n";
+  std::string zonder;
+  std::size_t begin = 0;
+  for (std::size_t plaats = vorm.find(moment); plaats != std::string::npos;
+       plaats = vorm.find(moment, begin)) {
+    zonder.append(tekst, begin, plaats - begin).append(momentRegel);
+    begin = plaats + moment.size();
+  }
+  return zonder + tekst.substr(begin);
+}
+
+std::string zonderMoment(std::string const& tekst) {
+  std::string const zonder = zonderMomenten(tekst);
+  std::size_t const plaats = zonder.find(momentRegel);
+  EXPECT_TRUE(plaats != std::string::npos &&
+              zonder.find("/* Date", plaats + 1) == std::string::npos)
+      << "not one line of date and time: " << tekst.substr(0, 200);
+  return zonder;
 }
 
 testing::AssertionResult zelfdeTekst(std::string const& gevonden, std::string const& verwacht) {

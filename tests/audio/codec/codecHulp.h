@@ -27,6 +27,8 @@ std::string tekstVan(wxMemoryOutputStream const& stroom);
 // The text with its one line of date and time replaced by momentRegel; the test fails where that
 // line is not there, or has another shape than "2024-01-31 : 09:05:00".
 std::string zonderMoment(std::string const& tekst);
+// The same for a text of any number of fragments. A line of another shape stays.
+std::string zonderMomenten(std::string const& tekst);
 extern std::string const momentRegel;
 
 // Compares whole texts; the failure shows the first line that differs and not all of both.
