@@ -7,7 +7,7 @@
 namespace {
 
 constexpr UitvoerTaalRij geenTaal{
-    static_cast<UitvoerTaal>(-1), "", "py", false, true, "", "", "", "", ""};
+    static_cast<UitvoerTaal>(-1), "", "py", false, true, UitvoerTaalCPP, "", "", "", "", ""};
 
 }  // namespace
 

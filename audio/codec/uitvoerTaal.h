@@ -18,6 +18,8 @@ struct UitvoerTaalRij {
   char const* extensie;  // of a file of source text, without a point
   bool vraagtKlasse;     // nothing is made without the name of a class
   bool krijgtKlasse;     // the options of an encoder have the name of the class in them
+  // The language of Speex fragments: C++ where it is none that arrays can be made in.
+  UitvoerTaal speexTaal;
   // Patterns. Empty ones leave their line out: a text without an arrayKop has no declarations, no
   // counts, and no comment on the header of an array.
   char const* declaratiesBegin;
@@ -28,13 +30,13 @@ struct UitvoerTaalRij {
 };
 
 inline constexpr std::array<UitvoerTaalRij, 3> uitvoerTalen{{
-    {UitvoerTaalC, "C ", "c", false, false, "", "// extern const $type $naam[];\n", "",
-     "/* const unsigned int $naam=$aantal; */\n", "const $type $naam[] = \n{\n"},
-    {UitvoerTaalCPP, "C++", "cpp", true, true, "// class $klasse\n//{\n\t//private:\n",
-     "// static const $type $naam[];\n", "//};\n", "//const unsigned int $klasse::$naam=$aantal;\n",
-     "const $type $klasse::$naam[] = \n{\n"},
+    {UitvoerTaalC, "C ", "c", false, false, UitvoerTaalC, "", "// extern const $type $naam[];\n",
+     "", "/* const unsigned int $naam=$aantal; */\n", "const $type $naam[] = \n{\n"},
+    {UitvoerTaalCPP, "C++", "cpp", true, true, UitvoerTaalCPP,
+     "// class $klasse\n//{\n\t//private:\n", "// static const $type $naam[];\n", "//};\n",
+     "//const unsigned int $klasse::$naam=$aantal;\n", "const $type $klasse::$naam[] = \n{\n"},
     // Declined where it is chosen; an edited configuration can hold it.
-    {UitvoerTaalPython, "Python", "py", true, true, "", "", "", "", ""},
+    {UitvoerTaalPython, "Python", "py", true, true, UitvoerTaalCPP, "", "", "", "", ""},
 }};
 
 // The row of that number, or null.

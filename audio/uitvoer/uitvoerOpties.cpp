@@ -66,8 +66,10 @@ SpeexEncodeConfig maakSpeexConfig(KestrolinConfig const& instellingen) {
 }
 
 SpeexEncoderOpties maakSpeexOpties(KestrolinConfig const& instellingen, wxString const& klasse) {
-  return uitvoerTaalRij(instellingen.speexOutputLanguage).krijgtKlasse ? SpeexEncoderOpties(klasse)
-                                                                       : SpeexEncoderOpties();
+  UitvoerTaalRij const& taal = uitvoerTaalRij(instellingen.speexOutputLanguage);
+  SpeexEncoderOpties opties = taal.krijgtKlasse ? SpeexEncoderOpties(klasse) : SpeexEncoderOpties();
+  opties.taal = taal.speexTaal;
+  return opties;
 }
 
 PCMEncoderOpties maakPcmOpties(KestrolinConfig const& instellingen, wxString const& klasse) {

@@ -20,8 +20,8 @@ SpeexBandFormaat speexBandVan(KestrolinConfig const& instellingen);
 // largest, is that.
 SpeexEncodeConfig maakSpeexConfig(KestrolinConfig const& instellingen);
 
-// `klasse` is the class that owns the arrays. It stays out of options for C. Options of Speex know
-// no other language than C and C++, and every other number of the settings counts as C++ there.
+// `klasse` is the class that owns the arrays. It stays out of options for C. For Speex a language
+// in which no arrays can be made counts as C++.
 SpeexEncoderOpties maakSpeexOpties(KestrolinConfig const& instellingen, wxString const& klasse);
 PCMEncoderOpties maakPcmOpties(KestrolinConfig const& instellingen, wxString const& klasse);
 ADPCMEncoderOpties maakAdpcmOpties(KestrolinConfig const& instellingen, wxString const& klasse);

@@ -129,7 +129,6 @@ TEST(UitvoerOpties, OptionsForCHaveNoClassAndAllOthersHave) {
     EXPECT_EQ(maakAdpcmOpties(record, "Geluid").taal, taal);
     EXPECT_EQ(maakAdpcmOpties(record, "Geluid").klasseNaam, klasse);
     EXPECT_EQ(maakSpeexOpties(record, "Geluid").klasseNaam, klasse);
-    // Speex knows two languages.
     EXPECT_EQ(maakSpeexOpties(record, "Geluid").taal, taal == 0 ? 0 : 1);
     EXPECT_EQ(maakInbedOpties(record, "Geluid").taal, taal);
     EXPECT_EQ(maakInbedOpties(record, "Geluid").klasse, "Geluid");

@@ -11,22 +11,21 @@ namespace {
 
 constexpr char const* speexPad = "/Gebruikersinstellingen/Speex";
 
-// Hands each setting to `werk`, with its key and its default, in the order of the file. The one
-// list of them: what is read at the start is written at the end.
+// Hands each setting to `werk`, with its key, in the order of the file. The one list of them: what
+// is read at the start is written at the end.
 template <typename Werk>
 void bezoekInstellingen(KestrolinConfig& record, Werk const& werk) {
-  constexpr KestrolinConfig eersteStart;
-  werk("speexFormat", record.speexFormat, eersteStart.speexFormat);
-  werk("speexQuality", record.speexQuality, eersteStart.speexQuality);
-  werk("speexComplexity", record.speexComplexity, eersteStart.speexComplexity);
-  werk("speexBitRateChoice", record.speexBitRateChoice, eersteStart.speexBitRateChoice);
-  werk("speexBitRate", record.speexBitRate, eersteStart.speexBitRate);
-  werk("speexOutputLanguage", record.speexOutputLanguage, eersteStart.speexOutputLanguage);
-  werk("speexVAC", record.speexVAC, eersteStart.speexVAC);
-  werk("speexDenoise", record.speexDenoise, eersteStart.speexDenoise);
-  werk("speexAGC", record.speexAGC, eersteStart.speexAGC);
-  werk("IncludeHeader", record.IncludeHeader, eersteStart.IncludeHeader);
-  werk("dacNumberOfBits", record.dacNumberOfBits, eersteStart.dacNumberOfBits);
+  werk("speexFormat", record.speexFormat);
+  werk("speexQuality", record.speexQuality);
+  werk("speexComplexity", record.speexComplexity);
+  werk("speexBitRateChoice", record.speexBitRateChoice);
+  werk("speexBitRate", record.speexBitRate);
+  werk("speexOutputLanguage", record.speexOutputLanguage);
+  werk("speexVAC", record.speexVAC);
+  werk("speexDenoise", record.speexDenoise);
+  werk("speexAGC", record.speexAGC);
+  werk("IncludeHeader", record.IncludeHeader);
+  werk("dacNumberOfBits", record.dacNumberOfBits);
 }
 
 // A flag is stored as a number, of which the low byte counts.
@@ -42,19 +41,21 @@ void zet(unsigned int& veld, int getal) {
 
 }  // namespace
 
-Kestrolin::Kestrolin() : DesktopApp("Kestrolin"), instellingen() {
+Kestrolin::Kestrolin() : DesktopApp("Kestrolin") {
   wxFileConfig* const config = geefAppConfig();
   config->SetPath(speexPad);
-  bezoekInstellingen(instellingen, [config](char const* sleutel, auto& veld, auto standaard) {
-    zet(veld, leesGetal(*config, sleutel, static_cast<int>(standaard)));
+  // The record begins with the defaults.
+  bezoekInstellingen(instellingen, [config](char const* sleutel, auto& veld) {
+    zet(veld, leesGetal(*config, sleutel, static_cast<int>(veld)));
   });
 }
 
 Kestrolin::~Kestrolin() {
   wxFileConfig* const config = geefAppConfig();
   config->SetPath(speexPad);
-  bezoekInstellingen(instellingen, [config](char const* sleutel, auto const& veld,
-                                            auto /*standaard*/) { config->Write(sleutel, veld); });
+  bezoekInstellingen(instellingen, [config](char const* sleutel, auto const& veld) {
+    config->Write(sleutel, veld);
+  });
 }
 
 bool Kestrolin::OnInit() {
