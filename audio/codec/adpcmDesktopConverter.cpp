@@ -30,6 +30,7 @@ unsigned long long leesGrootte(wxInputStream& stroom) {
 
 }  // namespace
 
+// NOLINTNEXTLINE(modernize-pass-by-value): callers hand over what they keep.
 ADPCMDesktopConverter::ADPCMDesktopConverter(ADPCMEncoderOpties const& begin) : opties(begin) {}
 
 void ADPCMDesktopConverter::zetOpties(ADPCMEncoderOpties const& nieuw) {

@@ -16,6 +16,7 @@
 #include "audio/codec/sndBestand.h"
 #include "numeriek/byteGereedschap.h"
 
+// NOLINTNEXTLINE(modernize-pass-by-value): callers hand over what they keep.
 PCMDesktopConverter::PCMDesktopConverter(PCMEncoderOpties const& begin) : opties(begin) {}
 
 void PCMDesktopConverter::zetOpties(PCMEncoderOpties const& nieuw) {
