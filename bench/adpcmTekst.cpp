@@ -8,20 +8,19 @@
 #include <memory>
 #include <vector>
 
-#include "audio/codec/adpcmDesktopConverter.h"
 #include "audio/codec/adpcmPakket.h"
-#include "audio/codec/pcmDesktopConverter.h"
+#include "audio/codec/audioConfig.h"
 #include "audio/codec/pcmPakket.h"
 #include "audio/codec/sndBestand.h"
 #include "audio/codec/wavFormaat.h"
+#include "audio/uitvoer/uitvoerOpties.h"
 #include "bench/geluid.h"
 #include "bench/meting.h"
 
 namespace {
 
-constexpr int samplerate = 32000;
 constexpr int seconden = 120;
-constexpr sf_count_t samples = static_cast<sf_count_t>(samplerate) * seconden;
+constexpr sf_count_t samples = static_cast<sf_count_t>(hoogsteRate) * seconden;
 constexpr int herhalingen = 7;
 
 // What a converter needs for the coding alone, and for the text.
@@ -57,7 +56,7 @@ Kosten meetConverter(Opties const& opties, wxFileName const& wav) {
 
 // Through libsndfile, as IMA ADPCM.
 bool schrijfIma(wxFileName const& doel, std::vector<short> const& blok) {
-  return SndBestand::schrijf(doel, samplerate, 1, wavAdpcm).schrijfItems(blok.data(), samples) ==
+  return SndBestand::schrijf(doel, hoogsteRate, 1, wavAdpcm).schrijfItems(blok.data(), samples) ==
          samples;
 }
 
@@ -66,14 +65,15 @@ bool schrijfIma(wxFileName const& doel, std::vector<short> const& blok) {
 bool meetAdpcm(std::string const& map) {
   wxFileName const wav(map + "/adpcm.wav");
   wxFileName const ima(map + "/ima.wav");
-  maakRuis(map + "/adpcm.wav", samplerate, seconden);
+  maakRuis(map + "/adpcm.wav", hoogsteRate, seconden);
   std::vector<short> blok(static_cast<std::size_t>(samples));
   bool const gelezen = SndBestand::lees(wav).leesItems(blok.data(), samples) == samples;
 
+  KestrolinConfig const instellingen = eersteInstellingen(UitvoerTaalC, sampleBits);
   auto const adpcm = meetConverter<VelmoraADPCMPakket, ADPCMDesktopConverter>(
-      ADPCMEncoderOpties(ADPCMTaalC, 0), wav);
-  auto const pcm =
-      meetConverter<VelmoraPCMPakket, PCMDesktopConverter>(PCMEncoderOpties(PCMTaalC, 0), wav);
+      maakAdpcmOpties(instellingen, wxString()), wav);
+  auto const pcm = meetConverter<VelmoraPCMPakket, PCMDesktopConverter>(
+      maakPcmOpties(instellingen, wxString()), wav);
   Verbruik const snd = meetBeste(herhalingen, [&] { return schrijfIma(ima, blok) ? 0 : 1; });
   if (!gelezen || !adpcm.geslaagd() || !pcm.geslaagd() || !snd.geslaagd) {
     std::cerr << "bench: the ADPCM text could not be measured\n";
@@ -81,7 +81,7 @@ bool meetAdpcm(std::string const& map) {
   }
   constexpr double perMillisec = 1e3;
   std::printf("ADPCM of %d s at %d Hz: coding %.0f ms, libsndfile %.0f ms, text %.0f ms\n",
-              seconden, samplerate, adpcm.coderen.seconden * perMillisec,
+              seconden, hoogsteRate, adpcm.coderen.seconden * perMillisec,
               snd.seconden * perMillisec,
               (adpcm.geheel.seconden - adpcm.coderen.seconden) * perMillisec);
 

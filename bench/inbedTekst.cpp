@@ -6,27 +6,22 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "audio/codec/pcmDesktopConverter.h"
-#include "audio/codec/wavInbedding.h"
+#include "audio/codec/audioConfig.h"
+#include "audio/uitvoer/fragmentMaker.h"
+#include "audio/uitvoer/uitvoerOpties.h"
 #include "bench/geluid.h"
 #include "bench/meting.h"
 
 namespace {
 
-constexpr int samplerate = 32000;
 constexpr int herhalingen = 5;
 
-int codeer(wxFileName const& wav) {
-  PCMDesktopConverter const converter(PCMEncoderOpties(PCMTaalC, 0));
+template <typename Maker>
+int maakTekst(wxFileName const& wav) {
+  Maker maker;
   wxMemoryOutputStream uit;
-  converter.codeerBestand(wav, true, uit);
-  return uit.GetSize() > 0 ? 0 : 1;
-}
-
-int inbed(wxFileName const& wav) {
-  constexpr int dacBits = 16;
-  wxMemoryOutputStream uit;
-  return schrijfInbedding(wav, {0, wxString(), dacBits}, uit) ? 0 : 1;
+  maker.begin(eersteInstellingen(UitvoerTaalC, sampleBits), wxString(), 1);
+  return maker.maak(wav, true, uit) == Gemaakt::heel && uit.GetSize() > 0 ? 0 : 1;
 }
 
 }  // namespace
@@ -34,12 +29,12 @@ int inbed(wxFileName const& wav) {
 bool meetInbedding(std::string const& map) {
   constexpr int lang = 120;
   std::string const pad = map + "/inbed.wav";
-  maakRuis(pad, samplerate, lang);
+  maakRuis(pad, hoogsteRate, lang);
   wxFileName const wav(pad);
   // The images lie where the other files do, and go with them.
   setenv("TMPDIR", map.c_str(), 1);
-  Verbruik const pcm = meetBeste(herhalingen, [&] { return codeer(wav); });
-  Verbruik const inbedding = meetBeste(herhalingen, [&] { return inbed(wav); });
+  Verbruik const pcm = meetBeste(herhalingen, [&] { return maakTekst<PCMMaker>(wav); });
+  Verbruik const inbedding = meetBeste(herhalingen, [&] { return maakTekst<WAVMaker>(wav); });
   if (!pcm.geslaagd || !inbedding.geslaagd) {
     std::cerr << "bench: the embedding or its peer failed\n";
     return false;

@@ -12,20 +12,24 @@
 #include <vector>
 
 #include "audio/codec/array.h"
-#include "audio/codec/pcmDesktopConverter.h"
+#include "audio/codec/audioConfig.h"
 #include "audio/codec/pcmPakket.h"
+#include "audio/uitvoer/uitvoerOpties.h"
 #include "bench/geluid.h"
 #include "bench/meting.h"
 
 namespace {
 
-constexpr int samplerate = 32000;
 constexpr int herhalingen = 5;
 constexpr double mib = 1024.0 * 1024.0;
 
+PCMEncoderOpties opties() {
+  return maakPcmOpties(eersteInstellingen(UitvoerTaalC, sampleBits), wxString());
+}
+
 // Writes the bytes of the array, for the peer, and returns their number.
 double maakBytes(std::string const& wav, std::string const& doel) {
-  PCMDesktopConverter converter(PCMEncoderOpties(PCMTaalC, 0));
+  PCMDesktopConverter converter(opties());
   std::unique_ptr<VelmoraPCMPakket> const pakket(converter.codeerBestand(wxFileName(wav)));
   VelmoraArray<unsigned char> array(pakket->serieelGeefAantalBytes());
   pakket->maakSerieel(array, true);
@@ -37,7 +41,7 @@ double maakBytes(std::string const& wav, std::string const& doel) {
 
 // Returns the size of the text in bytes.
 double codeer(std::string const& wav) {
-  PCMDesktopConverter const converter(PCMEncoderOpties(PCMTaalC, 0));
+  PCMDesktopConverter const converter(opties());
   wxMemoryOutputStream uit;
   converter.codeerBestand(wxFileName(wav), true, uit);
   return static_cast<double>(uit.GetSize());
@@ -58,10 +62,10 @@ bool meetPcm(std::string const& map) {
   std::string const wav = map + "/lang.wav";
   std::string const kortWav = map + "/kort.wav";
   std::string const bytes = map + "/bytes";
-  maakRuis(wav, samplerate, lang);
-  maakRuis(kortWav, samplerate, kort);
+  maakRuis(wav, hoogsteRate, lang);
+  maakRuis(kortWav, hoogsteRate, kort);
   double const aantal = maakBytes(wav, bytes);
-  if (aantal < 2.0 * lang * samplerate || wxFileName::GetSize(bytes).ToDouble() != aantal) {
+  if (aantal < 2.0 * lang * hoogsteRate || wxFileName::GetSize(bytes).ToDouble() != aantal) {
     std::cerr << "bench: the files to measure with could not be written to " << map << "\n";
     return false;
   }
@@ -74,7 +78,7 @@ bool meetPcm(std::string const& map) {
     return false;
   }
   std::printf("PCM text of %d s at %d Hz: %.1f MB/s of array bytes; xxd -i: %.1f MB/s\n", lang,
-              samplerate, aantal / eigen.seconden / 1e6, aantal / xxd.seconden / 1e6);
+              hoogsteRate, aantal / eigen.seconden / 1e6, aantal / xxd.seconden / 1e6);
 
   constexpr double doelSnelheid = 0.8;
   constexpr double doelGeheugen = 3;

@@ -12,14 +12,14 @@
 #include <memory>
 #include <vector>
 
+#include "audio/codec/audioConfig.h"
 #include "audio/codec/sndBestand.h"
 #include "audio/codec/wavFormaat.h"
-#include "audio/uitvoer/kestrolinConfig.h"
+#include "audio/uitvoer/speexMaker.h"
 #include "audio/uitvoer/uitvoerOpties.h"
 #include "bench/geluid.h"
 #include "bench/meting.h"
 #include "externals/software/extern/speex/speexDesktop.h"
-#include "numeriek/percentage.h"
 
 namespace {
 
@@ -41,12 +41,12 @@ constexpr std::array<Band, 3> banden{{{SpeexNarrowband, "8 kHz", "0x40,(signed c
                                       {SpeexUltraWideband, "32 kHz", "0x00,(signed char)0x7d"}}};
 
 std::string encodeer(Band const& band, std::string const& wav) {
-  KestrolinConfig instellingen = eersteStart;
+  KestrolinConfig instellingen = eersteInstellingen(UitvoerTaalC, sampleBits);
   instellingen.speexFormat = band.formaat;
-  SpeexDesktopEncoder encoder(maakSpeexConfig(instellingen), SpeexEncoderOpties());
+  SpeexMaker maker;
   wxMemoryOutputStream uit;
-  Percentage verhouding;
-  if (encoder.encode(wxFileName(wav), uit, true, verhouding) != SpeexDesktopEncoder::gelukt) {
+  maker.begin(instellingen, wxString(), 1);
+  if (maker.maak(wxFileName(wav), true, uit) != Gemaakt::heel) {
     return {};
   }
   std::string tekst(uit.GetSize(), '\0');

@@ -24,13 +24,10 @@
 #include <string>
 #include <vector>
 
-#include "audio/codec/adpcmDesktopConverter.h"
 #include "audio/codec/audioConfig.h"
-#include "audio/codec/pcmDesktopConverter.h"
 #include "audio/codec/wavFormaat.h"
-#include "audio/uitvoer/dacBreedte.h"
-#include "audio/uitvoer/kestrolinConfig.h"
 #include "audio/uitvoer/speexMaker.h"
+#include "audio/uitvoer/uitvoerOpties.h"
 
 namespace {
 
@@ -82,45 +79,35 @@ wxFileName wxPad(fs::path const& pad) {
   return {wxString::FromUTF8(pad.string())};
 }
 
-// The settings of a first start, for C and a DAC of that width.
-KestrolinConfig instellingenVoor(int bits) {
-  KestrolinConfig instellingen;
-  instellingen.speexOutputLanguage = UitvoerTaalC;
-  instellingen.dacNumberOfBits = dacIndexVan(bits);
-  return instellingen;
-}
-
 class Teksten {
  public:
   Teksten(fs::path bron, fs::path doel) : fragmenten(std::move(bron)), map(std::move(doel)) {}
 
   void pcm() const {
-    PCMDesktopConverter converter(PCMEncoderOpties(PCMTaalC, 0));
-    PCMMaker maker(converter);
-    maak(maker, instellingenVoor(dacBits), "pcm.c",
+    PCMMaker maker;
+    maak(maker, eersteInstellingen(UitvoerTaalC, dacBits), "pcm.c",
          {kopie("ready", "_pcm", lees(bron("ready")), wavPcm16),
           kopie("chime", "_pcm", lees(bron("chime")), wavPcm16)});
   }
 
   void adpcm() const {
-    ADPCMDesktopConverter converter(ADPCMEncoderOpties(ADPCMTaalC, 0));
-    ADPCMMaker maker(converter);
+    ADPCMMaker maker;
     // The fragments are soft already.
-    maak(maker, instellingenVoor(sampleBits), "adpcm.c",
+    maak(maker, eersteInstellingen(UitvoerTaalC, sampleBits), "adpcm.c",
          {kopie("ready", "_adpcm", zacht(lees(bron("ready"))), wavPcm16),
           kopie("warning", "_adpcm", zacht(lees(bron("warning"))), wavPcm16)});
   }
 
   void wav() const {
     WAVMaker maker;
-    maak(maker, instellingenVoor(dacBits), "wav.c",
+    maak(maker, eersteInstellingen(UitvoerTaalC, dacBits), "wav.c",
          {kopie("chime", "_wav", lees(bron("chime")), wavPcm16),
           kopie("alarm", "_wav", lees(bron("alarm")), wavAdpcm)});
   }
 
   void speex(SpeexBandFormaat band, std::vector<char const*> const& namen,
              std::string const& bestand) const {
-    KestrolinConfig instellingen = instellingenVoor(dacBits);
+    KestrolinConfig instellingen = eersteInstellingen(UitvoerTaalC, dacBits);
     instellingen.speexFormat = band;
     std::vector<wxFileName> wavs(namen.size());
     std::transform(namen.begin(), namen.end(), wavs.begin(), [this](char const* naam) {

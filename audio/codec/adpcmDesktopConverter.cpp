@@ -30,8 +30,8 @@ unsigned long long leesGrootte(wxInputStream& stroom) {
 
 }  // namespace
 
-// NOLINTNEXTLINE(modernize-pass-by-value): callers hand over what they keep.
-ADPCMDesktopConverter::ADPCMDesktopConverter(ADPCMEncoderOpties const& begin) : opties(begin) {}
+// NOLINTNEXTLINE(modernize-pass-by-value): callers keep their options.
+ADPCMDesktopConverter::ADPCMDesktopConverter(ADPCMEncoderOpties const& eerste) : opties(eerste) {}
 
 void ADPCMDesktopConverter::zetOpties(ADPCMEncoderOpties const& nieuw) {
   opties = nieuw;
@@ -54,7 +54,7 @@ void ADPCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
                                           wxMemoryOutputStream& uit) {
   wxOutputStream& stroom = uit;
   codeerBestand(wav, metHeader, stroom);
-  // A memory stream takes more text after this.
+  // Close changes nothing for a memory stream.
   uit.Close();
 }
 

@@ -30,7 +30,7 @@ using ADPCMEncoderOpties = ConverterOpties<ADPCMEncoderTaal>;
 class ADPCMDesktopConverter : public ADPCMConverter {
  public:
   // The shift of the options reaches the coder with zetOpties only; until then nothing is scaled.
-  explicit ADPCMDesktopConverter(ADPCMEncoderOpties const& begin);
+  explicit ADPCMDesktopConverter(ADPCMEncoderOpties const& eerste);
 
   // Replaces the language, the class name and the shift. The coder's state stays as it is.
   void zetOpties(ADPCMEncoderOpties const& nieuw);
@@ -39,7 +39,8 @@ class ADPCMDesktopConverter : public ADPCMConverter {
   // takes as many interleaved values as the file has frames. An odd last sample is not coded.
   VelmoraADPCMPakket* codeerBestand(wxFileName const& wav);
 
-  // Appends the text of one file to `uit`, with the serial header in the array or without. Either
+  // Appends the text of one file to `uit`, a stream in memory or any other, with the serial header
+  // in the array or without. Either
   // way the array has room for the header; without it, nine zero bytes stand at its end.
   void codeerBestand(wxFileName const& wav, bool metHeader, wxMemoryOutputStream& uit);
   void codeerBestand(wxFileName const& wav, bool metHeader, wxOutputStream& uit);

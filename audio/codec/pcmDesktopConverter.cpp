@@ -16,8 +16,8 @@
 #include "audio/codec/sndBestand.h"
 #include "numeriek/byteGereedschap.h"
 
-// NOLINTNEXTLINE(modernize-pass-by-value): callers hand over what they keep.
-PCMDesktopConverter::PCMDesktopConverter(PCMEncoderOpties const& begin) : opties(begin) {}
+// NOLINTNEXTLINE(modernize-pass-by-value): callers keep their options.
+PCMDesktopConverter::PCMDesktopConverter(PCMEncoderOpties const& eerste) : opties(eerste) {}
 
 void PCMDesktopConverter::zetOpties(PCMEncoderOpties const& nieuw) {
   opties = nieuw;
@@ -38,7 +38,7 @@ void PCMDesktopConverter::codeerBestand(wxFileName const& wav, bool metHeader,
                                         wxMemoryOutputStream& uit) const {
   wxOutputStream& stroom = uit;
   codeerBestand(wav, metHeader, stroom);
-  // A memory stream takes more text after this.
+  // Close changes nothing for a memory stream.
   uit.Close();
 }
 

@@ -25,7 +25,7 @@ using PCMEncoderOpties = ConverterOpties<PCMEncoderTaal>;
 // 0 Hz, and is told in the log. std::bad_alloc passes through.
 class PCMDesktopConverter {
  public:
-  explicit PCMDesktopConverter(PCMEncoderOpties const& begin);
+  explicit PCMDesktopConverter(PCMEncoderOpties const& eerste);
 
   // Replaces the language, the class name and the shift.
   void zetOpties(PCMEncoderOpties const& nieuw);
@@ -34,7 +34,8 @@ class PCMDesktopConverter {
   // channel it takes as many interleaved values as the file has frames.
   VelmoraPCMPakket* codeerBestand(wxFileName const& wav) const;
 
-  // Appends the text of one file to `uit`, with the serial header in the array or without. Either
+  // Appends the text of one file to `uit`, a stream in memory or any other, with the serial header
+  // in the array or without. Either
   // way the array has room for the header; without it, six zero bytes stand at its end.
   void codeerBestand(wxFileName const& wav, bool metHeader, wxMemoryOutputStream& uit) const;
   void codeerBestand(wxFileName const& wav, bool metHeader, wxOutputStream& uit) const;

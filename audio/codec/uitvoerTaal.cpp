@@ -7,7 +7,7 @@
 namespace {
 
 constexpr UitvoerTaalRij geenTaal{
-    static_cast<UitvoerTaal>(-1), "", "py", false, true, UitvoerTaalCPP, "", "", "", "", ""};
+    static_cast<UitvoerTaal>(-1), "", "py", false, true, "", "", "", "", ""};
 
 }  // namespace
 

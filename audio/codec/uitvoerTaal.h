@@ -1,5 +1,6 @@
-// The output languages, a row each: everything that differs from language to language in the
-// generated text, and in what is asked for before it. A further language is a further row.
+// The output languages, a row each. The row has all that differs from language to language in the
+// generated text; the comments and the end of an array are the same in each. A further language is
+// a further row, with its number.
 #pragma once
 
 #include <wx/string.h>
@@ -14,12 +15,10 @@ enum UitvoerTaal : int { UitvoerTaalC = 0, UitvoerTaalCPP = 1, UitvoerTaalPython
 // arrays; $naam, the array; $type, of its elements; $aantal, a number.
 struct UitvoerTaalRij {
   UitvoerTaal nummer;
-  char const* keuze;     // the label of the choice, to the blank
+  char const* keuze;     // the label in the window, with its trailing blank
   char const* extensie;  // of a file of source text, without a point
   bool vraagtKlasse;     // nothing is made without the name of a class
   bool krijgtKlasse;     // the options of an encoder have the name of the class in them
-  // The language of Speex fragments: C++ where it is none that arrays can be made in.
-  UitvoerTaal speexTaal;
   // Patterns. Empty ones leave their line out: a text without an arrayKop has no declarations, no
   // counts, and no comment on the header of an array.
   char const* declaratiesBegin;
@@ -29,21 +28,23 @@ struct UitvoerTaalRij {
   char const* arrayKop;
 };
 
-inline constexpr std::array<UitvoerTaalRij, 3> uitvoerTalen{{
-    {UitvoerTaalC, "C ", "c", false, false, UitvoerTaalC, "", "// extern const $type $naam[];\n",
-     "", "/* const unsigned int $naam=$aantal; */\n", "const $type $naam[] = \n{\n"},
-    {UitvoerTaalCPP, "C++", "cpp", true, true, UitvoerTaalCPP,
-     "// class $klasse\n//{\n\t//private:\n", "// static const $type $naam[];\n", "//};\n",
-     "//const unsigned int $klasse::$naam=$aantal;\n", "const $type $klasse::$naam[] = \n{\n"},
+// By their number.
+inline constexpr std::array uitvoerTalen{
+    UitvoerTaalRij{UitvoerTaalC, "C ", "c", false, false, "", "// extern const $type $naam[];\n",
+                   "", "/* const unsigned int $naam=$aantal; */\n", "const $type $naam[] = \n{\n"},
+    UitvoerTaalRij{UitvoerTaalCPP, "C++", "cpp", true, true,
+                   "// class $klasse\n//{\n\t//private:\n", "// static const $type $naam[];\n",
+                   "//};\n", "//const unsigned int $klasse::$naam=$aantal;\n",
+                   "const $type $klasse::$naam[] = \n{\n"},
     // Declined where it is chosen; an edited configuration can hold it.
-    {UitvoerTaalPython, "Python", "py", true, true, UitvoerTaalCPP, "", "", "", "", ""},
-}};
+    UitvoerTaalRij{UitvoerTaalPython, "Python", "py", true, true, "", "", "", "", ""},
+};
 
 // The row of that number, or null.
 UitvoerTaalRij const* zoekUitvoerTaal(int nummer);
 
-// The same, and for a number that is no language, as an edited configuration can hold, a row that
-// has the extension and the empty patterns of Python and asks for no class.
+// The same. A number that is no language, as an edited configuration can hold, has a row like
+// Python's that asks for no class.
 UitvoerTaalRij const& uitvoerTaalRij(int nummer);
 
 // True for a language in which arrays can be made.
@@ -59,5 +60,6 @@ struct TaalWoorden {
   wxString aantal;
 };
 
-// The pattern with its words put in. What they stand for is data: a "$naam" in it stays.
+// The pattern with its words put in. Inserted text is not searched again: a file called "$naam"
+// keeps its name.
 wxString vulIn(char const* patroon, TaalWoorden const& woorden);

@@ -15,5 +15,5 @@ int dacIndexVan(long long bits);
 // configuration holds, counts as the full width of the samples.
 int dacBitsVan(KestrolinConfig const& instellingen);
 
-// The bits to scale every sample down by: what the samples are wider than the DAC.
+// How many bits each sample is scaled down: sampleBits minus the width of the DAC.
 unsigned int bitShiftVan(KestrolinConfig const& instellingen);

@@ -5,40 +5,52 @@
 
 namespace {
 
-constexpr RunSoort pcmSoort{"/* PCM encoding output of ", " audio files \t\t*/\n\n", "encoding",
-                            byteArrayType};
-constexpr RunSoort adpcmSoort{"/* ADPCM encoding output of ", " audio files \t\t*/\n\n", "encoding",
-                              byteArrayType};
-constexpr RunSoort wavSoort{"/* Embedded output of ", " WAV Files\t\t*/\n\n", "embedding",
+// What is each converter's own: its kind of run, its first options, and those of the settings.
+template <typename Converter>
+struct Eigen;
+
+template <>
+struct Eigen<PCMDesktopConverter> {
+  static constexpr RunSoort soort = codeerSoort("PCM", byteArrayType);
+  static constexpr auto opties = maakPcmOpties;
+};
+
+template <>
+struct Eigen<ADPCMDesktopConverter> {
+  static constexpr RunSoort soort = codeerSoort("ADPCM", byteArrayType);
+  static constexpr auto opties = maakAdpcmOpties;
+};
+
+constexpr RunSoort wavSoort{"/* Embedded output of $aantal WAV Files\t\t*/\n\n", "", "embedding",
                             byteArrayType};
 
 }  // namespace
 
-PCMMaker::PCMMaker(PCMDesktopConverter& eigenConverter)
-    : FragmentMaker(pcmSoort), converter(eigenConverter) {}
+template <typename Converter>
+ConverterMaker<Converter>::ConverterMaker()
+    : FragmentMaker(Eigen<Converter>::soort),
+      eigen(std::make_unique<Converter>(Eigen<Converter>::opties(KestrolinConfig(), wxString()))),
+      converter(*eigen) {}
 
-void PCMMaker::begin(KestrolinConfig const& instellingen, wxString const& klasse,
-                     std::size_t /*aantal*/) {
-  converter.zetOpties(maakPcmOpties(instellingen, klasse));
+template <typename Converter>
+ConverterMaker<Converter>::ConverterMaker(Converter& vanBuiten)
+    : FragmentMaker(Eigen<Converter>::soort), converter(vanBuiten) {}
+
+template <typename Converter>
+void ConverterMaker<Converter>::begin(KestrolinConfig const& instellingen, wxString const& klasse,
+                                      std::size_t /*aantal*/) {
+  converter.zetOpties(Eigen<Converter>::opties(instellingen, klasse));
 }
 
-Gemaakt PCMMaker::maak(wxFileName const& wav, bool metHeader, wxOutputStream& uit) {
+template <typename Converter>
+Gemaakt ConverterMaker<Converter>::maak(wxFileName const& wav, bool metHeader,
+                                        wxOutputStream& uit) {
   converter.codeerBestand(wav, metHeader, uit);
   return Gemaakt::heel;
 }
 
-ADPCMMaker::ADPCMMaker(ADPCMDesktopConverter& eigenConverter)
-    : FragmentMaker(adpcmSoort), converter(eigenConverter) {}
-
-void ADPCMMaker::begin(KestrolinConfig const& instellingen, wxString const& klasse,
-                       std::size_t /*aantal*/) {
-  converter.zetOpties(maakAdpcmOpties(instellingen, klasse));
-}
-
-Gemaakt ADPCMMaker::maak(wxFileName const& wav, bool metHeader, wxOutputStream& uit) {
-  converter.codeerBestand(wav, metHeader, uit);
-  return Gemaakt::heel;
-}
+template class ConverterMaker<PCMDesktopConverter>;
+template class ConverterMaker<ADPCMDesktopConverter>;
 
 WAVMaker::WAVMaker() : FragmentMaker(wavSoort), opties{} {}
 

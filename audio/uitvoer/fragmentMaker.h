@@ -7,18 +7,20 @@
 #include <cstddef>
 #include <memory>
 
+#include "audio/codec/adpcmDesktopConverter.h"
+#include "audio/codec/pcmDesktopConverter.h"
 #include "audio/codec/wavInbedding.h"
 #include "audio/uitvoer/runTekst.h"
 
-class ADPCMDesktopConverter;
-class PCMDesktopConverter;
 class wxFileName;
 class wxOutputStream;
 struct KestrolinConfig;
 
-// What became of the text of a recording: all of it; its text, with an array that does not hold all
-// of the recording; or nothing, and nothing that follows can be made either.
-enum class Gemaakt { heel, nietHeel, mislukt };
+enum class Gemaakt {
+  heel,      // the text is complete
+  nietHeel,  // the text is complete, but its array lacks a part of the recording
+  mislukt    // no text
+};
 
 class FragmentMaker {
  public:
@@ -36,42 +38,37 @@ class FragmentMaker {
   // has classes.
   virtual void begin(KestrolinConfig const& instellingen, wxString const& klasse,
                      std::size_t aantal) = 0;
-  // Appends the text of a recording to `uit`, with the header in its array or without.
+  // Appends the text of a recording to `uit`, with the header in its array or without. Wants a
+  // begin() before. Passes std::bad_alloc on.
   virtual Gemaakt maak(wxFileName const& wav, bool metHeader, wxOutputStream& uit) = 0;
 
  private:
   RunSoort soort;
 };
 
-// Over a converter of the caller's, whose options a run replaces. A recording that cannot be read
-// is told in the log.
-class PCMMaker : public FragmentMaker {
+// Makes fragments by one of the two converters. A recording that cannot be read is told in the log.
+template <typename Converter>
+class ConverterMaker : public FragmentMaker {
  public:
-  explicit PCMMaker(PCMDesktopConverter& eigenConverter);
+  // Has a converter of its own.
+  ConverterMaker();
+  // Uses the caller's converter, which must outlive the maker. begin() replaces its options; what
+  // else the converter holds, as the state of the ADPCM coder, goes on from run to run.
+  explicit ConverterMaker(Converter& vanBuiten);
 
   void begin(KestrolinConfig const& instellingen, wxString const& klasse,
              std::size_t aantal) override;
   Gemaakt maak(wxFileName const& wav, bool metHeader, wxOutputStream& uit) override;
 
  private:
-  PCMDesktopConverter& converter;
+  std::unique_ptr<Converter> eigen;
+  Converter& converter;
 };
 
-// The same. The state of the coder stays in the converter and goes on from run to run: a caller who
-// wants the same bytes from every run has a new converter for each.
-class ADPCMMaker : public FragmentMaker {
- public:
-  explicit ADPCMMaker(ADPCMDesktopConverter& eigenConverter);
+using PCMMaker = ConverterMaker<PCMDesktopConverter>;
+using ADPCMMaker = ConverterMaker<ADPCMDesktopConverter>;
 
-  void begin(KestrolinConfig const& instellingen, wxString const& klasse,
-             std::size_t aantal) override;
-  Gemaakt maak(wxFileName const& wav, bool metHeader, wxOutputStream& uit) override;
-
- private:
-  ADPCMDesktopConverter& converter;
-};
-
-// Embedding of whole WAV images, which have a header of their own in any case.
+// Embeds each WAV file as a whole. Ignores `metHeader`: a WAV file has its own header.
 class WAVMaker : public FragmentMaker {
  public:
   WAVMaker();

@@ -1,10 +1,9 @@
-// The live settings of the encoders. The application reads them from the configuration at its start
-// and writes them back at its end; in between the main window's handlers change them in place.
+// The settings of an output. The initial values are the defaults of a first start.
 #pragma once
 
 #include "audio/codec/uitvoerTaal.h"
 
-// The fields bear the names of their configuration keys. They begin as a first start has them.
+// The fields bear the names of their configuration keys, and hold whatever the file says.
 struct KestrolinConfig {
   int speexFormat = 0;               // index of the band choice: 0 narrow, 1 wide, 2 ultra wide
   unsigned int speexQuality = 8;     // 0 to 10

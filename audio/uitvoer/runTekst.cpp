@@ -29,7 +29,7 @@ wxString declaraties(RunDoel const& doel, char const* arrayType,
 }
 
 wxString runHoofd(RunSoort const& soort, RunDoel const& doel, wxArrayString const& wavBestanden) {
-  return soort.kopBegin + std::to_string(wavBestanden.size()) + soort.kopEinde +
+  return vulIn(soort.kopRegel, {{}, soort.naam, {}, std::to_string(wavBestanden.size())}) +
          _("/* Put these declarations in a header file :*/\n") +
          declaraties(doel, soort.arrayType, wavBestanden) + "\n\n";
 }

@@ -7,13 +7,19 @@
 
 // What differs from one way of output to the next.
 struct RunSoort {
-  char const* kopBegin;   // of the first line, up to the number of files
-  char const* kopEinde;   // and behind it
+  char const* kopRegel;   // the first line: a pattern with $naam and $aantal, the number of files
+  char const* naam;       // of the encoder
   char const* bezigheid;  // as the marks name it
   char const* arrayType;  // of the elements of an array
 };
 
-// How the arrays belong to the program of the user.
+// The runs of an encoder.
+constexpr RunSoort codeerSoort(char const* encoder, char const* arrayType) {
+  return {"/* $naam encoding output of $aantal audio files \t\t*/\n\n", encoder, "encoding",
+          arrayType};
+}
+
+// The output language, and the class that owns the arrays.
 struct RunDoel {
   int taal;  // an UitvoerTaal, or any other value
   wxString klasse;

@@ -3,14 +3,7 @@
 #include "audio/uitvoer/uitvoerOpties.h"
 #include "numeriek/percentage.h"
 
-namespace {
-
-constexpr RunSoort speexSoort{"/* Speex encoding output of ", " audio files \t\t*/\n\n", "encoding",
-                              SpeexDesktopEncoder::arrayType};
-
-}  // namespace
-
-SpeexMaker::SpeexMaker() : FragmentMaker(speexSoort) {}
+SpeexMaker::SpeexMaker() : FragmentMaker(codeerSoort("Speex", SpeexDesktopEncoder::arrayType)) {}
 
 void SpeexMaker::begin(KestrolinConfig const& instellingen, wxString const& klasse,
                        std::size_t aantal) {

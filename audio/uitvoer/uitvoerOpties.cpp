@@ -6,14 +6,12 @@
 #include <limits>
 
 #include "audio/uitvoer/dacBreedte.h"
-#include "audio/uitvoer/kestrolinConfig.h"
 
 namespace {
 
 // A spin control gets the number as a signed one, so that one of more than 31 bits shows as 0.
 unsigned int begrensNiveau(unsigned int niveau) {
-  constexpr int hoogste = 10;
-  return static_cast<unsigned int>(std::clamp(static_cast<int>(niveau), 0, hoogste));
+  return static_cast<unsigned int>(std::clamp(static_cast<int>(niveau), 0, speexHoogsteNiveau));
 }
 
 SpeexBitrateType bitrateSoortVan(KestrolinConfig const& instellingen) {
@@ -42,6 +40,13 @@ Opties maakConverterOpties(KestrolinConfig const& instellingen, wxString const& 
 
 }  // namespace
 
+KestrolinConfig eersteInstellingen(UitvoerTaal taal, long long dacBits) {
+  KestrolinConfig instellingen;
+  instellingen.speexOutputLanguage = taal;
+  instellingen.dacNumberOfBits = dacIndexVan(dacBits);
+  return instellingen;
+}
+
 SpeexBandFormaat speexBandVan(KestrolinConfig const& instellingen) {
   switch (instellingen.speexFormat) {
     case SpeexWideband:
@@ -68,7 +73,7 @@ SpeexEncodeConfig maakSpeexConfig(KestrolinConfig const& instellingen) {
 SpeexEncoderOpties maakSpeexOpties(KestrolinConfig const& instellingen, wxString const& klasse) {
   UitvoerTaalRij const& taal = uitvoerTaalRij(instellingen.speexOutputLanguage);
   SpeexEncoderOpties opties = taal.krijgtKlasse ? SpeexEncoderOpties(klasse) : SpeexEncoderOpties();
-  opties.taal = taal.speexTaal;
+  opties.taal = heeftArrays(taal) ? taal.nummer : UitvoerTaalCPP;
   return opties;
 }
 

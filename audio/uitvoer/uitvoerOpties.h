@@ -1,6 +1,5 @@
-// The options of the four ways of output, made from the settings. The settings hold what the
-// configuration file says, whatever that is, and the encoders take what they are handed: the limits
-// stand in between, here alone.
+// The options of the four ways of output, made from the settings. Settings can hold any value, and
+// the encoders check nothing. The limits are applied here.
 #pragma once
 
 #include <wx/string.h>
@@ -8,9 +7,11 @@
 #include "audio/codec/adpcmDesktopConverter.h"
 #include "audio/codec/pcmDesktopConverter.h"
 #include "audio/codec/wavInbedding.h"
+#include "audio/uitvoer/kestrolinConfig.h"
 #include "externals/software/extern/speex/speexDesktopEncoder.h"
 
-struct KestrolinConfig;
+// The settings of a first start, with this language and a DAC of this width.
+KestrolinConfig eersteInstellingen(UitvoerTaal taal, long long dacBits);
 
 // A band that does not exist counts as narrowband.
 SpeexBandFormaat speexBandVan(KestrolinConfig const& instellingen);

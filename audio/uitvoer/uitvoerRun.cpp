@@ -4,10 +4,10 @@
 
 #include "audio/codec/fragmentTekst.h"
 #include "audio/uitvoer/fragmentMaker.h"
-#include "audio/uitvoer/kestrolinConfig.h"
+#include "audio/uitvoer/runTekst.h"
 
-std::size_t voerRunUit(RunOpdracht const& opdracht, FragmentMaker& maker, wxOutputStream& uit,
-                       RunToezicht& toezicht) {
+std::optional<wxString> voerRunUit(RunOpdracht const& opdracht, FragmentMaker& maker,
+                                   wxOutputStream& uit, RunToezicht& toezicht) {
   std::size_t const aantal = opdracht.wavBestanden.size();
   RunSoort const& soort = maker.geefSoort();
   maker.begin(opdracht.instellingen, opdracht.klasse, aantal);
@@ -15,18 +15,19 @@ std::size_t voerRunUit(RunOpdracht const& opdracht, FragmentMaker& maker, wxOutp
   FragmentTekst tekst(uit);
   tekst.schrijf(runHoofd(soort, {opdracht.instellingen.speexOutputLanguage, opdracht.klasse},
                          opdracht.wavBestanden));
-  for (std::size_t gedaan = 0; gedaan < aantal; ++gedaan) {
-    wxString const& wav = opdracht.wavBestanden[gedaan];
-    tekst.schrijf(startMerk(soort, gedaan + 1));
-    Gemaakt const uitslag = maker.maak(wxFileName(wav), toezicht.metHeader(), uit);
+  for (std::size_t nummer = 1; nummer <= aantal; ++nummer) {
+    wxString const& wav = opdracht.wavBestanden[nummer - 1];
+    tekst.schrijf(startMerk(soort, nummer));
+    Gemaakt const uitslag =
+        maker.maak(wxFileName(wav), toezicht.metHeader(opdracht.instellingen), uit);
     if (uitslag == Gemaakt::mislukt) {
-      return gedaan;
+      return wav;
     }
     if (uitslag == Gemaakt::nietHeel) {
       toezicht.meldNietHeel(wav);
     }
-    tekst.schrijf(stopMerk(soort, gedaan + 1));
-    toezicht.meldGedaan(gedaan + 1);
+    tekst.schrijf(stopMerk(soort, nummer));
+    toezicht.meldGedaan(nummer);
   }
-  return aantal;
+  return std::nullopt;
 }

@@ -1,24 +1,26 @@
-// The run: from recordings to one text, in any of the four ways of output. It asks nothing and
-// shows nothing; who starts it can watch.
+// The run: from recordings to one text, in any of the four ways of output. The run opens no window.
+// The caller follows it through a RunToezicht.
 #pragma once
 
 #include <wx/arrstr.h>
 #include <wx/string.h>
 
 #include <cstddef>
+#include <optional>
+
+#include "audio/uitvoer/kestrolinConfig.h"
 
 class FragmentMaker;
 class wxOutputStream;
-struct KestrolinConfig;
 
-// What a run is about. It must outlive the run.
+// The input of a run. The objects it refers to must live until voerRunUit returns.
 struct RunOpdracht {
-  wxArrayString const& wavBestanden;  // the paths, in the order of the text
+  wxSortedArrayString const& wavBestanden;  // the paths, in the order of the text
   KestrolinConfig const& instellingen;
   wxString const& klasse;  // the class that owns the arrays, where the language has classes
 };
 
-// Who watches a run.
+// Follows a run. This one says nothing.
 class RunToezicht {
  public:
   RunToezicht() = default;
@@ -29,16 +31,18 @@ class RunToezicht {
   RunToezicht(RunToezicht&&) = delete;
   RunToezicht& operator=(RunToezicht&&) = delete;
 
-  // Whether the next array has its header; asked for each.
-  virtual bool metHeader() = 0;
-  // The array of this recording does not hold all of it. The run goes on.
-  virtual void meldNietHeel(wxString const& wav) = 0;
-  // The text of the file of this number, from 1 on, is complete.
-  virtual void meldGedaan(std::size_t nummer) = 0;
+  // Whether the next array has its header. The run asks before each recording.
+  virtual bool metHeader(KestrolinConfig const& instellingen) { return instellingen.IncludeHeader; }
+  // The array of this recording lacks a part of it. The run goes on.
+  virtual void meldNietHeel(wxString const& /*wav*/) {}
+  // The text of the recording of this number, from 1 on, is complete.
+  virtual void meldGedaan(std::size_t /*nummer*/) {}
 };
 
-// Appends the text to `uit`: UTF-8 with "\n" line ends. The settings count as they are at the
-// start. Returns the number of recordings that are done: fewer than there are where the maker gave
-// up at the next one, and the text ends there.
-std::size_t voerRunUit(RunOpdracht const& opdracht, FragmentMaker& maker, wxOutputStream& uit,
-                       RunToezicht& toezicht);
+// Appends the text to `uit`: UTF-8 with "\n" line ends. A stream that fails gets no more text; the
+// caller asks the stream. Passes std::bad_alloc on.
+//
+// Returns the path of the recording that the maker could not make: the text ends at that one's
+// start mark. Nothing where all are done.
+std::optional<wxString> voerRunUit(RunOpdracht const& opdracht, FragmentMaker& maker,
+                                   wxOutputStream& uit, RunToezicht& toezicht);

@@ -11,7 +11,7 @@ bool isBruikbaar(SF_INFO const& info);
 bool isAdpcm(SF_INFO const& info);
 
 // The index of the band choice for the rate of a usable file: 0 for 8000, 1 for 16000, 2 for 32000
-// Hz.
+// Hz. 3 for any other rate.
 int bandVoorFrequentie(int samplerate);
 
 // Whether a usable file goes with the others of its load. The first file of a load decides on the

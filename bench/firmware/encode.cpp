@@ -10,12 +10,9 @@
 #include <sstream>
 #include <string>
 
-#include "audio/codec/adpcmDesktopConverter.h"
 #include "audio/codec/audioConfig.h"
-#include "audio/codec/pcmDesktopConverter.h"
-#include "audio/uitvoer/dacBreedte.h"
-#include "audio/uitvoer/kestrolinConfig.h"
 #include "audio/uitvoer/speexMaker.h"
+#include "audio/uitvoer/uitvoerOpties.h"
 #include "audio/uitvoer/wavKeuring.h"
 
 namespace {
@@ -46,14 +43,6 @@ ArrayBytes arrayIn(wxMemoryOutputStream const& stream) {
   return bytes;
 }
 
-// The settings of a first start, for C and a DAC of that width.
-KestrolinConfig settingsFor(unsigned int dacBits) {
-  KestrolinConfig settings;
-  settings.speexOutputLanguage = UitvoerTaalC;
-  settings.dacNumberOfBits = dacIndexVan(dacBits);
-  return settings;
-}
-
 // The array that the tool makes of a recording, empty where it makes none.
 ArrayBytes arrayOf(FragmentMaker& maker, KestrolinConfig const& settings, wxFileName const& wav) {
   wxMemoryOutputStream text;
@@ -64,19 +53,17 @@ ArrayBytes arrayOf(FragmentMaker& maker, KestrolinConfig const& settings, wxFile
 }  // namespace
 
 ArrayBytes pcmArray(wxFileName const& wav, unsigned int dacBits) {
-  PCMDesktopConverter converter(PCMEncoderOpties(PCMTaalC, 0));
-  PCMMaker maker(converter);
-  return arrayOf(maker, settingsFor(dacBits), wav);
+  PCMMaker maker;
+  return arrayOf(maker, eersteInstellingen(UitvoerTaalC, dacBits), wav);
 }
 
 ArrayBytes adpcmArray(wxFileName const& wav) {
-  ADPCMDesktopConverter converter(ADPCMEncoderOpties(ADPCMTaalC, 0));
-  ADPCMMaker maker(converter);
-  return arrayOf(maker, settingsFor(sampleBits), wav);
+  ADPCMMaker maker;
+  return arrayOf(maker, eersteInstellingen(UitvoerTaalC, sampleBits), wav);
 }
 
 ArrayBytes speexArray(wxFileName const& wav, int rate, unsigned int quality, unsigned int dacBits) {
-  KestrolinConfig settings = settingsFor(dacBits);
+  KestrolinConfig settings = eersteInstellingen(UitvoerTaalC, dacBits);
   settings.speexFormat = bandVoorFrequentie(rate);
   settings.speexQuality = quality;
   SpeexMaker maker;
@@ -85,5 +72,5 @@ ArrayBytes speexArray(wxFileName const& wav, int rate, unsigned int quality, uns
 
 ArrayBytes embeddedArray(wxFileName const& wav) {
   WAVMaker maker;
-  return arrayOf(maker, settingsFor(sampleBits), wav);
+  return arrayOf(maker, eersteInstellingen(UitvoerTaalC, sampleBits), wav);
 }

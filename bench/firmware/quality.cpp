@@ -19,6 +19,8 @@
 
 #include "audio/codec/audioConfig.h"
 #include "audio/codec/sndBestand.h"
+#include "audio/codec/wavFormaat.h"
+#include "audio/uitvoer/dacBreedte.h"
 #include "bench/firmware/decode.h"
 #include "bench/firmware/encode.h"
 #include "kestrolin_dac.h"
@@ -53,8 +55,7 @@ Fragment readFragment(std::string const& path) {
 
 bool writeWav(wxFileName const& file, int rate, Samples const& samples, int format) {
   auto const count = static_cast<sf_count_t>(samples.size());
-  return SndBestand::schrijf(file, rate, 1, SF_FORMAT_WAV | format)
-             .schrijfItems(samples.data(), count) == count;
+  return SndBestand::schrijf(file, rate, 1, format).schrijfItems(samples.data(), count) == count;
 }
 
 // These samples under the fragment's own name, in a folder for this format.
@@ -113,14 +114,14 @@ std::vector<Case> casesOf(Fragment const& fragment, std::string const& folder) {
     return static_cast<short>(std::lround(sample * quietVolume));
   });
   std::vector<Case> cases;
-  for (unsigned int const dacBits : {8U, 10U, 12U, 16U}) {
-    cases.push_back(pcmCase(fragment, dacBits));
+  for (long long const dacBits : dacBreedten) {
+    cases.push_back(pcmCase(fragment, static_cast<unsigned int>(dacBits)));
   }
   cases.push_back(embeddedCase(fragment.file, "PCM"));
-  cases.push_back(embeddedCase(
-      writeCopy(fragment, fragment.samples, folder + "/ima", SF_FORMAT_IMA_ADPCM), "IMA ADPCM"));
-  cases.push_back(adpcmCase(writeCopy(fragment, quiet, folder + "/quiet", SF_FORMAT_PCM_16),
-                            "brought down", 1 / quietVolume));
+  cases.push_back(
+      embeddedCase(writeCopy(fragment, fragment.samples, folder + "/ima", wavAdpcm), "IMA ADPCM"));
+  cases.push_back(adpcmCase(writeCopy(fragment, quiet, folder + "/quiet", wavPcm16), "brought down",
+                            1 / quietVolume));
   // The encoder kept eight bits of each sample.
   cases.push_back(adpcmCase(fragment.file, "as it is", scaleOf(8)));
   for (unsigned int const quality : {0U, 2U, 4U, 6U, 8U, 10U}) {
@@ -138,7 +139,7 @@ bool reportCase(Fragment const& fragment, Case const& heard, wxFileName const& s
   std::cout << fragment.file.GetName() << '\t' << heard.encoder << '\t' << heard.setting << '\t'
             << bytes << '\t' << std::lround(static_cast<double>(bytes) / duration) << '\t'
             << heard.scale << '\t' << sound.GetFullPath() << '\n';
-  return !heard.samples.empty() && writeWav(sound, fragment.rate, heard.samples, SF_FORMAT_PCM_16);
+  return !heard.samples.empty() && writeWav(sound, fragment.rate, heard.samples, wavPcm16);
 }
 
 bool reportFragment(std::string const& path, std::string const& folder) {

@@ -30,13 +30,6 @@ TEST(UitvoerTaal, ArraysAreMadeInCAndCppAlone) {
   }
 }
 
-TEST(UitvoerTaal, SpeexFragmentsAreInTheLanguageOfTheOthersOrElseInCpp) {
-  for (UitvoerTaalRij const& taal : uitvoerTalen) {
-    EXPECT_EQ(taal.speexTaal, heeftArrays(taal) ? taal.nummer : UitvoerTaalCPP) << taal.keuze;
-  }
-  EXPECT_EQ(uitvoerTaalRij(99).speexTaal, UitvoerTaalCPP);
-}
-
 TEST(UitvoerTaal, OtherNumbersAreNoLanguage) {
   for (int const anders : {-2147483647 - 1, -1, 3, 99, 2147483647}) {
     EXPECT_EQ(zoekUitvoerTaal(anders), nullptr) << anders;

@@ -37,14 +37,17 @@ std::string RunProef::inbed() {
 }
 
 std::string RunProef::tekstVan(FragmentMaker& maker) {
-  return tekstTot(wavBestanden.size() + 1, maker);
+  return draai(maker, std::nullopt);
 }
 
 std::string RunProef::tekstTot(std::size_t nummer, FragmentMaker& maker) {
+  return draai(maker, wavBestanden[nummer - 1]);
+}
+
+std::string RunProef::draai(FragmentMaker& maker, std::optional<wxString> const& einde) {
   wxMemoryOutputStream uit;
   ProefToezicht toezicht(metHeader);
-  EXPECT_EQ(voerRunUit({wavBestanden, instellingen, wxTekst(klasse)}, maker, uit, toezicht) + 1,
-            nummer);
+  EXPECT_EQ(voerRunUit({wavBestanden, instellingen, wxTekst(klasse)}, maker, uit, toezicht), einde);
   nietHeel = toezicht.nietHeel;
   gedaan = toezicht.gedaan;
   return zonderMomenten(::tekstVan(uit));

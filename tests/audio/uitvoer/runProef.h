@@ -7,8 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "audio/codec/adpcmDesktopConverter.h"
-#include "audio/codec/pcmDesktopConverter.h"
 #include "audio/uitvoer/kestrolinConfig.h"
 #include "audio/uitvoer/speexMaker.h"
 #include "audio/uitvoer/uitvoerRun.h"
@@ -21,7 +19,7 @@ class ProefToezicht : public RunToezicht {
  public:
   explicit ProefToezicht(bool metKop = true) : header(metKop) {}
 
-  bool metHeader() override { return header; }
+  bool metHeader(KestrolinConfig const& /*instellingen*/) override { return header; }
   void meldNietHeel(wxString const& wav) override { nietHeel.push_back(wav.utf8_string()); }
   void meldGedaan(std::size_t nummer) override { gedaan.push_back(nummer); }
 
@@ -63,12 +61,12 @@ class RunProef : public testing::Test {
   std::vector<std::string> nietHeel;
   std::vector<std::size_t> gedaan;
   // The state of the ADPCM coder goes on from run to run.
-  PCMDesktopConverter pcmConverter{PCMEncoderOpties(PCMTaalC, 0)};
-  ADPCMDesktopConverter adpcmConverter{ADPCMEncoderOpties(ADPCMTaalC, 0)};
-  PCMMaker pcmMaker{pcmConverter};
-  ADPCMMaker adpcmMaker{adpcmConverter};
+  PCMMaker pcmMaker;
+  ADPCMMaker adpcmMaker;
 
  private:
+  std::string draai(FragmentMaker& maker, std::optional<wxString> const& einde);
+
   wxSortedArrayString wavBestanden;
   OmgevingsWaarde tijdelijk{"TMPDIR", map.pad("tmp")};
 };

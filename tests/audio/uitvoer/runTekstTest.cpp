@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr RunSoort soort{"/* ", " files */\n\n", "making", "T"};
+constexpr RunSoort soort{"/* $aantal files by $naam */\n\n", "test", "making", "T"};
 
 wxArrayString paden(std::initializer_list<char const*> lijst) {
   wxArrayString uit;
@@ -62,7 +62,7 @@ TEST(RunTekst, NamesAreDataAndGoInUnchanged) {
 
 TEST(RunTekst, TheHeadJoinsItsFirstLineTheCommentTheDeclarationsAndTwoLineEnds) {
   EXPECT_EQ(runHoofd(soort, {0, "K"}, paden({"/a/bel.wav"})),
-            "/* 1 files */\n"
+            "/* 1 files by test */\n"
             "\n"
             "/* Put these declarations in a header file :*/\n"
             "// extern const T bel[];\n"
@@ -72,7 +72,7 @@ TEST(RunTekst, TheHeadJoinsItsFirstLineTheCommentTheDeclarationsAndTwoLineEnds) 
 
 TEST(RunTekst, TheHeadKeepsItsCommentWhereNothingIsDeclared) {
   EXPECT_EQ(runHoofd(soort, {2, "K"}, paden({"/a/bel.wav", "/a/zoem.wav"})),
-            "/* 2 files */\n"
+            "/* 2 files by test */\n"
             "\n"
             "/* Put these declarations in a header file :*/\n"
             "\n"

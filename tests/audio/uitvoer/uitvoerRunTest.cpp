@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr RunSoort proefSoort{"/* ", " files */\n", "making", "T"};
+constexpr RunSoort proefSoort{"/* $aantal files */\n", "", "making", "T"};
 
 // Writes a line for each file into its text, and notes what came before it.
 class NoterendeMaker : public FragmentMaker {
@@ -37,13 +37,13 @@ class NoterendeMaker : public FragmentMaker {
 // Has the header in every second array.
 class WisselToezicht : public ProefToezicht {
  public:
-  bool metHeader() override { return ++gevraagd % 2 == 0; }
+  bool metHeader(KestrolinConfig const& /*instellingen*/) override { return ++gevraagd % 2 == 0; }
   int gevraagd = 0;
 };
 
 class UitvoerRun : public testing::Test {
  protected:
-  std::size_t draai(std::initializer_list<char const*> wavs) {
+  std::optional<wxString> draai(std::initializer_list<char const*> wavs) {
     for (char const* wav : wavs) {
       paden.Add(wav);
     }
@@ -51,7 +51,7 @@ class UitvoerRun : public testing::Test {
     return voerRunUit({paden, instellingen, "K"}, maker, uit, toezicht);
   }
 
-  wxArrayString paden;
+  wxSortedArrayString paden;
   KestrolinConfig instellingen;
   NoterendeMaker maker;
   WisselToezicht toezicht;
@@ -61,14 +61,14 @@ class UitvoerRun : public testing::Test {
 std::string const kop = "/* Put these declarations in a header file :*/\n";
 
 TEST_F(UitvoerRun, PutsEachTextBetweenItsMarksBehindTheHead) {
-  EXPECT_EQ(draai({"/a/b.wav", "/a/a.wav"}), 2U);
+  EXPECT_EQ(draai({"/b/a.wav", "/a/b.wav"}), std::nullopt);
   EXPECT_EQ(tekstVan(uit), "/* 2 files */\n" + kop +
                                "// extern const T b[];\n// extern const T a[];\n\n\n"
                                "/******* Start making file number 1 \t\t*******/\n"
                                "/a/b.wav without\n"
                                "/******* Stop making file number 1 \t\t*******/\n\n"
                                "/******* Start making file number 2 \t\t*******/\n"
-                               "/a/a.wav with\n"
+                               "/b/a.wav with\n"
                                "/******* Stop making file number 2 \t\t*******/\n\n");
   EXPECT_EQ(maker.begonnen, "K8/2");
   EXPECT_EQ(toezicht.gedaan, (std::vector<std::size_t>{1, 2}));
@@ -77,14 +77,14 @@ TEST_F(UitvoerRun, PutsEachTextBetweenItsMarksBehindTheHead) {
 }
 
 TEST_F(UitvoerRun, OverNoFilesHasItsHeadAlone) {
-  EXPECT_EQ(draai({}), 0U);
+  EXPECT_EQ(draai({}), std::nullopt);
   EXPECT_EQ(tekstVan(uit), "/* 0 files */\n" + kop + "\n\n");
   EXPECT_EQ(maker.begonnen, "K8/0");
   EXPECT_EQ(toezicht.gevraagd, 0);
 }
 
 TEST_F(UitvoerRun, EndsAtTheFileThatCannotBeMade) {
-  EXPECT_EQ(draai({"/a/a.wav", "/a/stuk.wav", "/a/c.wav"}), 1U);
+  EXPECT_EQ(draai({"/a/a.wav", "/a/stuk.wav", "/b/c.wav"}), "/a/stuk.wav");
   std::string const tekst = tekstVan(uit);
   EXPECT_EQ(tekst.substr(tekst.find("/******* Start making file number 2")),
             "/******* Start making file number 2 \t\t*******/\n/a/stuk.wav with\n");
@@ -92,22 +92,29 @@ TEST_F(UitvoerRun, EndsAtTheFileThatCannotBeMade) {
 }
 
 TEST_F(UitvoerRun, GoesOnBehindAFileThatIsNotAllThereAndTellsItsPath) {
-  EXPECT_EQ(draai({"/a//half.wav", "/a/c.wav"}), 2U);
+  EXPECT_EQ(draai({"/a//half.wav", "/b/c.wav"}), std::nullopt);
   EXPECT_EQ(toezicht.nietHeel, std::vector<std::string>{"/a//half.wav"});
   EXPECT_EQ(toezicht.gedaan, (std::vector<std::size_t>{1, 2}));
+}
+
+TEST(RunToezicht, TakesTheHeaderFromTheSettings) {
+  RunToezicht stil;
+  KestrolinConfig instellingen;
+  EXPECT_TRUE(stil.metHeader(instellingen));
+  instellingen.IncludeHeader = false;
+  EXPECT_FALSE(stil.metHeader(instellingen));
 }
 
 TEST_F(UitvoerRun, WritesToAFileAsToMemory) {
   TijdelijkeMap const map;
   maakWav(map.pad("bel.wav"), {1, -1});
-  wxArrayString wavs;
+  wxSortedArrayString wavs;
   wavs.Add(wxTekst(map.pad("bel.wav")));
   wavs.Add(wxTekst(map.pad("bel.wav")));
   auto const schrijf = [&](FragmentMaker& een, wxOutputStream& doel) {
-    EXPECT_EQ(voerRunUit({wavs, instellingen, "K"}, een, doel, toezicht), 2U);
+    EXPECT_EQ(voerRunUit({wavs, instellingen, "K"}, een, doel, toezicht), std::nullopt);
   };
-  PCMDesktopConverter pcm(PCMEncoderOpties(PCMTaalC, 0));
-  PCMMaker pcmMaker(pcm);
+  PCMMaker pcmMaker;
   SpeexMaker speexMaker;
   for (FragmentMaker* const een :
        {static_cast<FragmentMaker*>(&pcmMaker), static_cast<FragmentMaker*>(&speexMaker)}) {

@@ -71,6 +71,9 @@ constexpr char const* speexFileSleutel = "speexFile";
 constexpr char const* klasseNaamSleutel = "klasseNaam";
 constexpr char const* encoderSoortSleutel = "Convertertype";
 
+// What the controls show before the settings reach them, and keep where those are out of range.
+constexpr KestrolinConfig eersteStart;
+
 // The home directory without a separator at its end, so that its last part can name a file. It is
 // kept so, shown so in messages, and written so into the configuration.
 wxString geefThuis() {
@@ -158,18 +161,17 @@ void HoofdVenster::maakBronControls() {
 }
 
 void HoofdVenster::maakSpeexControls() {
-  auto const maakSpin = [this](int id, wxString const& waarde) {
-    constexpr int hoogste = 10;
-    return new wxSpinCtrl(paneel, id, waarde, wxDefaultPosition, wxDefaultSize, wxSP_ARROW_KEYS, 0,
-                          hoogste);
+  auto const maakSpin = [this](int id, unsigned int waarde) {
+    return new wxSpinCtrl(paneel, id, wxString::Format("%u", waarde), wxDefaultPosition,
+                          wxDefaultSize, wxSP_ARROW_KEYS, 0, speexHoogsteNiveau);
   };
-  formaatKeuze = maakKeuze(paneel, ID_FORMAAT, {"Narrowband", "Wideband", "Ultra Wideband"});
+  formaatKeuze = maakKeuze(paneel, ID_FORMAAT, {speexBandNamen.begin(), speexBandNamen.end()});
   bitRateTypeKeuze =
       maakKeuze(paneel, ID_BITRATE_TYPE, {"Fixed Bitrate", "Variable Bitrate", "Average Bitrate"});
   qualityLabel = new wxStaticText(paneel, wxID_ANY, "Quality:");
-  qualitySpin = maakSpin(ID_QUALITY, "8");
+  qualitySpin = maakSpin(ID_QUALITY, eersteStart.speexQuality);
   complexityLabel = new wxStaticText(paneel, wxID_ANY, "Complexity:");
-  complexitySpin = maakSpin(ID_COMPLEXITY, "3");
+  complexitySpin = maakSpin(ID_COMPLEXITY, eersteStart.speexComplexity);
   vadVakje = new wxCheckBox(paneel, ID_VAD, "Voice Activated \nDetection");
   agcVakje = new wxCheckBox(paneel, ID_AGC, "Adaptive Gain Control");
   denoiseVakje = new wxCheckBox(paneel, ID_DENOISE, "Denoise input");
@@ -193,8 +195,10 @@ void HoofdVenster::maakCodeControls() {
   klasseLabel = new wxStaticText(paneel, wxID_ANY, "Class :");
   klasseVeld = new wxTextCtrl(paneel, ID_KLASSE);
   inclHeaderVakje = new wxCheckBox(paneel, ID_INCL_HEADER, "Include header in array");
-  dacTypeKeuze =
-      maakKeuze(paneel, ID_DAC_TYPE, {"8 Bit DAC", "10 Bit DAC", "12 Bit DAC", "16 Bit DAC"});
+  std::vector<wxString> dacs(DacAantalBits.size());
+  std::transform(DacAantalBits.begin(), DacAantalBits.end(), dacs.begin(),
+                 [](long long bits) { return wxString::Format("%lld Bit DAC", bits); });
+  dacTypeKeuze = maakKeuze(paneel, ID_DAC_TYPE, dacs);
   encodeKnop = new wxButton(paneel, ID_CODEER, "Encode");
   speexSaveKnop = new wxButton(paneel, wxID_SAVE);
   playEncodedKnop = new wxButton(paneel, ID_SPEEL_RESULTAAT, "Play Encoded");
@@ -213,14 +217,14 @@ void HoofdVenster::set_properties() {
     statusBalk->SetStatusText("No audio file loaded", veld);
   }
   wavSaveKnop->Disable();
-  formaatKeuze->SetSelection(0);
-  bitRateTypeKeuze->SetSelection(0);
-  denoiseVakje->SetValue(true);
+  formaatKeuze->SetSelection(eersteStart.speexFormat);
+  bitRateTypeKeuze->SetSelection(eersteStart.speexBitRateChoice);
+  denoiseVakje->SetValue(eersteStart.speexDenoise);
   perpenhVakje->SetValue(true);
   encoderTypeKeuze->SetSelection(0);
-  langImplKeuze->SetSelection(1);
-  inclHeaderVakje->SetValue(true);
-  dacTypeKeuze->SetSelection(static_cast<int>(DacAantalBits.size()) - 1);
+  langImplKeuze->SetSelection(eersteStart.speexOutputLanguage);
+  inclHeaderVakje->SetValue(eersteStart.IncludeHeader);
+  dacTypeKeuze->SetSelection(eersteStart.dacNumberOfBits);
   encodeKnop->SetDefault();
   speexSaveKnop->Disable();
   playEncodedKnop->Disable();

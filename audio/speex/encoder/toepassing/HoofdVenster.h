@@ -13,8 +13,8 @@
 #include <wx/treebase.h>
 
 #include <array>
-#include <deque>
 #include <functional>
+#include <list>
 #include <optional>
 
 #include "audio/codec/adpcmDesktopConverter.h"
@@ -204,9 +204,8 @@ class HoofdVenster : public wxFrame {
   // Its coder's state goes on from run to run.
   ADPCMDesktopConverter adpcmConverter;
   PCMDesktopConverter pcmConverter;
-  // The encoders of failed runs, which wait for the window's end, and behind them that of the run
-  // that is on.
-  std::deque<SpeexMaker> speexEncoder;
+  // Those of failed runs, kept until the window closes, then that of the current run.
+  std::list<SpeexMaker> speexMakers;
   wxMemoryOutputStream uitvoerStroom;  // the text of the last encoding
   bool bestandGeladen = false;
   bool gecodeerd = false;   // uitvoerStroom fits the settings

@@ -30,15 +30,15 @@ void HoofdVenster::encodeHandler(wxCommandEvent& event) {
 }
 
 void HoofdVenster::encodeSpeex(wxCommandEvent& /*event*/) {
-  SpeexMaker& maker = speexEncoder.emplace_back();
+  auto const maker = speexMakers.emplace(speexMakers.end());
   // Cut to a whole percentage, as the ratio of each file is.
-  auto const staart = [&maker] {
+  auto const staart = [maker] {
     return wxString::Format(_("\nwas on average encoded to %d%% of the original size"),
-                            maker.geefGemiddelde());
+                            maker->geefGemiddelde());
   };
-  if (codeer(maker, "Speex encoding succeeded", _("Audio encoded in Speex embedded format"),
+  if (codeer(*maker, "Speex encoding succeeded", _("Audio encoded in Speex embedded format"),
              staart)) {
-    speexEncoder.pop_back();
+    speexMakers.erase(maker);
   }
 }
 
@@ -63,11 +63,11 @@ bool HoofdVenster::codeer(FragmentMaker& maker, wxString const& titel, wxString 
   uitvoerStroom.GetOutputStreamBuffer()->ResetBuffer();
   uitvoerStroom.GetOutputStreamBuffer()->Truncate();
 
-  std::size_t const gedaan =
+  std::optional<wxString> const mislukt =
       voerRunUit({wavBestanden, *instellingen, klasseNaam}, maker, uitvoerStroom, toezicht);
-  if (gedaan < wavBestanden.size()) {
+  if (mislukt) {
     // An earlier result stays marked as one, although its text has made place for this one's.
-    meldCoderenMislukt(wxFileName(wavBestanden[gedaan]));
+    meldCoderenMislukt(wxFileName(*mislukt));
     return false;
   }
 

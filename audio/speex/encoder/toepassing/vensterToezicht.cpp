@@ -10,7 +10,7 @@ VensterToezicht::VensterToezicht(wxWindow* ouder, wxString const& titel, wxStrin
                 wxPD_APP_MODAL | wxPD_AUTO_HIDE | wxPD_ELAPSED_TIME),
       inclHeaderVakje(inclHeader) {}
 
-bool VensterToezicht::metHeader() {
+bool VensterToezicht::metHeader(KestrolinConfig const& /*instellingen*/) {
   return inclHeaderVakje.GetValue();
 }
 

@@ -1,5 +1,5 @@
-// The window's eye on a run: a progress dialog for as long as this object lives, without a button
-// to cancel.
+// Shows a run in a progress dialog without a button to cancel. The dialog closes when this object
+// dies.
 #pragma once
 
 #include <wx/progdlg.h>
@@ -11,11 +11,11 @@ class wxCheckBox;
 class VensterToezicht : public RunToezicht {
  public:
   // For a run over `aantal` files. The box tells whether an array has its header, and is read for
-  // each.
+  // each. Box and window must outlive this object.
   VensterToezicht(wxWindow* ouder, wxString const& titel, wxString const& bericht,
                   std::size_t aantal, wxCheckBox const& inclHeader);
 
-  bool metHeader() override;
+  bool metHeader(KestrolinConfig const& instellingen) override;
   void meldNietHeel(wxString const& wav) override;
   void meldGedaan(std::size_t nummer) override;
 

@@ -58,7 +58,7 @@ SpeexDesktopEncoder::SpeexDesktopEncoder(SpeexEncodeConfig const& instellingen,
       taal(opties.taal),
       klasseNaam(opties.klasseNaam),
       booleanNamen{"false", "true"},
-      formaatNamen{"Narrowband", "Wideband", "Ultra Wideband"},
+      formaatNamen(speexBandNamen.begin(), speexBandNamen.end()),
       bitrateNamen{"Fixed Bitrate", "Variable Bitrate", "Averaged Bitrate"} {}
 
 int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxMemoryOutputStream& uitvoer,
