@@ -62,31 +62,31 @@ Soort* zoekSoort(wxWindow* ouder, int id) {
 
 }  // namespace
 
-std::string VensterProef::procesPad(std::string const& naam) {
+std::string VensterStart::procesPad(std::string const& naam) {
   static TijdelijkeMap const proces;
   return proces.pad(naam);
 }
 
-VensterProef::VensterProef() {
+VensterStart::VensterStart() {
   wxSetAssertHandler(meldAssertie);
   std::filesystem::create_directories(map.pad("tmp"));
   std::filesystem::create_directories(map.pad("thuis"));
   setenv("NO_AT_BRIDGE", "1", 1);
 }
 
-VensterProef::~VensterProef() {
+VensterStart::~VensterStart() {
   if (lus) {
     stop();
   }
   EXPECT_TRUE(antwoorden.isOp()) << "a prepared answer was never asked for";
 }
 
-std::vector<LogRegel>& VensterProef::log() {
+std::vector<LogRegel>& VensterLezer::log() {
   static std::vector<LogRegel> regels;
   return regels;
 }
 
-void VensterProef::start(wxString const& configuratie) {
+void VensterStart::start(wxString const& configuratie) {
   if (!configuratie.empty()) {
     wxFFile(thuis() + "/.Kestrolin", "w").Write(configuratie, wxConvUTF8);
   }
@@ -111,7 +111,7 @@ void VensterProef::start(wxString const& configuratie) {
   rust();
 }
 
-wxString VensterProef::stop() {
+wxString VensterStart::stop() {
   if (leeft()) {
     venster->Close();
     rust();
@@ -125,7 +125,7 @@ wxString VensterProef::stop() {
   return inhoud(thuis() + "/.Kestrolin");
 }
 
-void VensterProef::rust() {
+void VensterStart::rust() {
   wxYield();
   wxTheApp->ProcessPendingEvents();
   if (leeft()) {
@@ -136,47 +136,47 @@ void VensterProef::rust() {
 }
 
 template <typename Soort>
-Soort* VensterProef::zoek(int id) const {
+Soort* VensterLezer::zoek(int id) const {
   auto* const gevonden = zoekSoort<Soort>(venster, id);
   EXPECT_NE(gevonden, nullptr) << "no such control with id " << id;
   return gevonden;
 }
 
-wxButton* VensterProef::knop(int id) const {
+wxButton* VensterLezer::knop(int id) const {
   return zoek<wxButton>(id);
 }
-wxChoice* VensterProef::keuze(int id) const {
+wxChoice* VensterLezer::keuze(int id) const {
   return zoek<wxChoice>(id);
 }
-wxRadioBox* VensterProef::radio(int id) const {
+wxRadioBox* VensterLezer::radio(int id) const {
   return zoek<wxRadioBox>(id);
 }
-wxCheckBox* VensterProef::vakje(int id) const {
+wxCheckBox* VensterLezer::vakje(int id) const {
   return zoek<wxCheckBox>(id);
 }
-wxSpinCtrl* VensterProef::spin(int id) const {
+wxSpinCtrl* VensterLezer::spin(int id) const {
   return zoek<wxSpinCtrl>(id);
 }
-wxTextCtrl* VensterProef::veld(int id) const {
+wxTextCtrl* VensterLezer::veld(int id) const {
   return zoek<wxTextCtrl>(id);
 }
-wxTreeCtrl* VensterProef::boom() const {
+wxTreeCtrl* VensterLezer::boom() const {
   return zoek<wxTreeCtrl>(wxID_ANY);
 }
-wxMenuItem* VensterProef::menuItem(int id) const {
+wxMenuItem* VensterLezer::menuItem(int id) const {
   return venster->GetMenuBar()->FindItem(id);
 }
-wxWindow* VensterProef::metLabel(wxString const& label) const {
+wxWindow* VensterLezer::metLabel(wxString const& label) const {
   return zoekLabel(venster, label);
 }
-wxString VensterProef::status() const {
+wxString VensterLezer::status() const {
   return venster->GetStatusBar()->GetStatusText(0);
 }
-wxString VensterProef::tekst() const {
+wxString VensterLezer::tekst() const {
   return veld(ID_TEKST)->GetValue();
 }
 
-void VensterProef::verstuur(wxWindow* bron, wxEventType soort, int waarde) {
+void VensterStart::verstuur(wxWindow* bron, wxEventType soort, int waarde) {
   ASSERT_TRUE(bron->IsEnabled()) << "a disabled control was used: " << bron->GetLabel().utf8_str();
   wxCommandEvent event(soort, bron->GetId());
   event.SetEventObject(bron);
@@ -185,26 +185,26 @@ void VensterProef::verstuur(wxWindow* bron, wxEventType soort, int waarde) {
   rust();
 }
 
-void VensterProef::klik(int id) {
+void VensterStart::klik(int id) {
   verstuur(knop(id), wxEVT_BUTTON, 0);
 }
 
-void VensterProef::kies(wxChoice* doel, int rij) {
+void VensterStart::kies(wxChoice* doel, int rij) {
   doel->SetSelection(rij);
   verstuur(doel, wxEVT_CHOICE, rij);
 }
 
-void VensterProef::kies(wxRadioBox* doel, int rij) {
+void VensterStart::kies(wxRadioBox* doel, int rij) {
   doel->SetSelection(rij);
   verstuur(doel, wxEVT_RADIOBOX, rij);
 }
 
-void VensterProef::zet(wxCheckBox* doel, bool aan) {
+void VensterStart::zet(wxCheckBox* doel, bool aan) {
   doel->SetValue(aan);
   verstuur(doel, wxEVT_CHECKBOX, aan ? 1 : 0);
 }
 
-void VensterProef::zet(wxSpinCtrl* doel, int waarde) {
+void VensterStart::zet(wxSpinCtrl* doel, int waarde) {
   doel->SetValue(waarde);
   ASSERT_TRUE(doel->IsEnabled());
   wxSpinEvent event(wxEVT_SPINCTRL, doel->GetId());
@@ -214,14 +214,14 @@ void VensterProef::zet(wxSpinCtrl* doel, int waarde) {
   rust();
 }
 
-void VensterProef::typ(wxTextCtrl* doel, wxString const& nieuw) {
+void VensterStart::typ(wxTextCtrl* doel, wxString const& nieuw) {
   ASSERT_TRUE(doel->IsEnabled());
   // SetValue sends the event that typing sends.
   doel->SetValue(nieuw);
   rust();
 }
 
-void VensterProef::kiesMenu(int id) {
+void VensterStart::kiesMenu(int id) {
   wxMenuItem* const item = menuItem(id);
   ASSERT_NE(item, nullptr) << "no menu item " << id;
   ASSERT_TRUE(item->IsEnabled()) << "a disabled menu item was used: " << id;
@@ -231,7 +231,7 @@ void VensterProef::kiesMenu(int id) {
   rust();
 }
 
-wxArrayString VensterProef::laad(std::vector<wxString> const& paden) {
+wxArrayString VensterStart::laad(std::vector<wxString> const& paden) {
   wxArrayString lijst;
   for (wxString const& een : paden) {
     lijst.Add(een);
@@ -241,25 +241,44 @@ wxArrayString VensterProef::laad(std::vector<wxString> const& paden) {
   return lijst;
 }
 
-std::vector<wxString> VensterProef::boomRegels() const {
+std::vector<wxString> VensterLezer::boomRegels() const {
   std::vector<wxString> regels;
   voegRegelsToe(*boom(), boom()->GetRootItem(), 0, regels);
   return regels;
 }
 
-wxString VensterProef::pad(wxString const& naam) const {
+wxString VensterStart::pad(wxString const& naam) const {
   return wxString::FromUTF8(map.pad().c_str()) + "/" + naam;
 }
 
-wxString VensterProef::thuis() const {
+wxString VensterStart::thuis() const {
   return pad("thuis");
 }
 
-wxString VensterProef::inhoud(wxString const& bestand) {
+wxString VensterStart::inhoud(wxString const& bestand) {
   wxFFile lezer(bestand, "rb");
   wxString tekst;
   if (lezer.IsOpened()) {
     lezer.ReadAll(&tekst, wxConvUTF8);
   }
   return tekst;
+}
+
+std::unique_ptr<VensterStart>& RustProef::gestart() {
+  static std::unique_ptr<VensterStart> van;
+  return van;
+}
+
+void RustProef::SetUpTestSuite() {
+  gestart() = std::make_unique<VensterStart>();
+  gestart()->start();
+}
+
+void RustProef::TearDownTestSuite() {
+  gestart().reset();
+}
+
+void RustProef::SetUp() {
+  venster = gestart()->venster;
+  ASSERT_NE(venster, nullptr);
 }

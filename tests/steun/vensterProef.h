@@ -29,29 +29,9 @@ class wxSpinCtrl;
 class wxTextCtrl;
 class wxTreeCtrl;
 
-class VensterProef : public ::testing::Test {
+// What can be read of the window.
+class VensterLezer {
  public:
-  VensterProef(VensterProef const&) = delete;
-  VensterProef& operator=(VensterProef const&) = delete;
-  VensterProef(VensterProef&&) = delete;
-  VensterProef& operator=(VensterProef&&) = delete;
-
- protected:
-  VensterProef();
-  ~VensterProef() override;
-
-  // Starts the application, with `configuratie` as the text of its configuration file where it is
-  // not empty.
-  void start(wxString const& configuratie = wxEmptyString);
-  // Ends the application as the user would by closing the window, and returns the configuration
-  // file's text.
-  wxString stop();
-  // True until the window has closed.
-  bool leeft() const { return venster != nullptr; }
-
-  // Lets the toolkit work off its events and one idle cycle, in which the enable rules run.
-  void rust();
-
   // The controls, by kind and id: the ids 1 to 3 are shared between kinds.
   wxButton* knop(int id) const;
   wxChoice* keuze(int id) const;
@@ -65,6 +45,40 @@ class VensterProef : public ::testing::Test {
   wxWindow* metLabel(wxString const& label) const;
   wxString status() const;
   wxString tekst() const;
+  // The lines below the root of the tree, each with its depth as leading blanks.
+  std::vector<wxString> boomRegels() const;
+
+  // What was logged since the start, without debug levels.
+  static std::vector<LogRegel>& log();
+
+  HoofdVenster* venster = nullptr;
+
+ private:
+  template <typename Soort>
+  Soort* zoek(int id) const;
+};
+
+// The application, from its start to its end.
+class VensterStart : public VensterLezer {
+ public:
+  VensterStart();
+  ~VensterStart();
+  VensterStart(VensterStart const&) = delete;
+  VensterStart& operator=(VensterStart const&) = delete;
+  VensterStart(VensterStart&&) = delete;
+  VensterStart& operator=(VensterStart&&) = delete;
+
+  // Starts the application, with `configuratie` as the text of its configuration file where it is
+  // not empty.
+  void start(wxString const& configuratie = wxEmptyString);
+  // Ends the application as the user would by closing the window, and returns the configuration
+  // file's text.
+  wxString stop();
+  // True until the window has closed.
+  bool leeft() const { return venster != nullptr; }
+
+  // Lets the toolkit work off its events and one idle cycle, in which the enable rules run.
+  void rust();
 
   // What a user does: the control changes first, then its event goes out. A control that is
   // disabled fails the test. Each lets the application rest afterwards.
@@ -78,9 +92,6 @@ class VensterProef : public ::testing::Test {
 
   // Loads these paths through the window, in this order, and returns what is left of the list.
   wxArrayString laad(std::vector<wxString> const& paden);
-  // The lines below the root of the tree, each with its depth as leading blanks.
-  std::vector<wxString> boomRegels() const;
-
   // A path in the test's own directory.
   wxString pad(wxString const& naam) const;
   wxString thuis() const;
@@ -89,14 +100,8 @@ class VensterProef : public ::testing::Test {
 
   TijdelijkeMap map;
   Antwoorden antwoorden;
-  HoofdVenster* venster = nullptr;
-
-  // What was logged since the start, without debug levels.
-  static std::vector<LogRegel>& log();
 
  private:
-  template <typename Soort>
-  Soort* zoek(int id) const;
   void verstuur(wxWindow* bron, wxEventType soort, int waarde);
 
   // A name in a directory that stays until the process ends.
@@ -111,4 +116,20 @@ class VensterProef : public ::testing::Test {
   OmgevingsWaarde thuisMap{"HOME", map.pad("thuis")};
   OmgevingsWaarde tijdelijkeBestanden{"TMPDIR", map.pad("tmp")};
   std::unique_ptr<wxGUIEventLoop> lus;
+};
+
+class VensterProef : public ::testing::Test, protected VensterStart {};
+
+// For suites that only read the window of a first start at rest: one start for all of their tests.
+// A suite that CMake is told of as one of the SUITES runs in one process.
+class RustProef : public ::testing::Test, protected VensterLezer {
+ public:
+  static void SetUpTestSuite();
+  static void TearDownTestSuite();
+
+ protected:
+  void SetUp() override;
+
+ private:
+  static std::unique_ptr<VensterStart>& gestart();
 };

@@ -133,15 +133,13 @@ std::vector<Element> const paneelIndeling{
     {1, "Button 5006", 0, rek | middenH | rondom, 20},
 };
 
-class IndelingProef : public VensterProef {};
+class IndelingProef : public RustProef {};
 
 TEST_F(IndelingProef, FrameHoldsThePanel) {
-  start();
   EXPECT_EQ(elementenVan(*venster), vensterIndeling);
 }
 
 TEST_F(IndelingProef, PanelHoldsEveryElementInItsPlace) {
-  start();
   std::vector<Element> const gevonden = elementenVan(*venster->GetChildren().GetFirst()->GetData());
   ASSERT_EQ(gevonden.size(), paneelIndeling.size());
   for (std::size_t i = 0; i < gevonden.size(); ++i) {
@@ -150,7 +148,6 @@ TEST_F(IndelingProef, PanelHoldsEveryElementInItsPlace) {
 }
 
 TEST_F(IndelingProef, EveryControlLiesInsideThePanelAtTheRememberedSize) {
-  start();
   wxWindow const* const paneel = venster->GetChildren().GetFirst()->GetData();
   EXPECT_EQ(paneel->GetSize(), wxSize(800, 600));
   for (wxWindow const* kind : paneel->GetChildren()) {

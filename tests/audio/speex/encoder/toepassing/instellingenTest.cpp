@@ -7,23 +7,21 @@
 #include <wx/textctrl.h>
 
 #include <functional>
+#include <sstream>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/kestrolin.h"
 #include "tests/audio/speex/encoder/toepassing/gereedProef.h"
 
 namespace {
 
 class InstellingenProef : public GereedProef {
  protected:
-  // Whether there is still a result after this control's event, with "Encode" the other way round.
-  // The Speex controls are disabled beside a PCM result, so the event goes out without the user.
-  void verwachtResultaatWeg(wxWindow* bron, wxEventType soort) {
-    ASSERT_TRUE(isGecodeerd());
-    ASSERT_FALSE(knop(ID_CODEER)->IsEnabled());
-    stuur(bron, soort);
-    EXPECT_FALSE(isGecodeerd());
-    EXPECT_FALSE(knop(ID_SPEEL_RESULTAAT)->IsEnabled());
-    EXPECT_TRUE(knop(ID_CODEER)->IsEnabled());
+  // A result is there, or has been given up, with "Encode" the other way round.
+  void verwachtResultaat(bool isEr) const {
+    EXPECT_EQ(isGecodeerd(), isEr);
+    EXPECT_EQ(knop(ID_SPEEL_RESULTAAT)->IsEnabled(), isEr);
+    EXPECT_EQ(knop(ID_CODEER)->IsEnabled(), !isEr);
   }
 
   void verwachtFout(std::size_t aantal) const {
@@ -34,6 +32,16 @@ class InstellingenProef : public GereedProef {
     }
   }
 
+  // The settings of the running program, in the order of the record.
+  static std::string toon(KestrolinConfig const& c) {
+    std::ostringstream tekst;
+    tekst << c.speexFormat << ' ' << c.speexQuality << ' ' << c.speexComplexity << ' '
+          << c.speexBitRateChoice << ' ' << c.speexBitRate << ' ' << c.speexOutputLanguage << ' '
+          << c.speexVAC << c.speexDenoise << c.speexAGC << c.IncludeHeader << ' '
+          << c.dacNumberOfBits;
+    return tekst.str();
+  }
+
   // Enters a bit rate through the event of the Enter key.
   void geefRate(wxString const& rate) {
     veld(ID_MAX_RATE)->ChangeValue(rate);
@@ -41,175 +49,61 @@ class InstellingenProef : public GereedProef {
   }
 };
 
-TEST_F(InstellingenProef, BandIsStoredAsTheSelection) {
+using Instellingen = KestrolinConfig;
+
+// What a user does to a control, and what that does to the settings.
+struct Stap {
+  char const* naam;
+  std::function<void()> doet;
+  void (*anders)(Instellingen&);
+};
+
+TEST_F(InstellingenProef, EachControlIsStoredInItsOwnSettingAlone) {
+  std::vector<Stap> const stappen{
+      {"band", [&] { kies(keuze(ID_FORMAAT), 2); }, [](Instellingen& c) { c.speexFormat = 2; }},
+      {"bit rate kind", [&] { kies(keuze(ID_BITRATE_TYPE), 1); },
+       [](Instellingen& c) { c.speexBitRateChoice = 1; }},
+      {"quality", [&] { zet(spin(ID_QUALITY), 10); }, [](Instellingen& c) { c.speexQuality = 10; }},
+      {"complexity", [&] { zet(spin(ID_COMPLEXITY), 0); },
+       [](Instellingen& c) { c.speexComplexity = 0; }},
+      {"voice activity off", [&] { zet(vakje(ID_VAD), false); },
+       [](Instellingen& c) { c.speexVAC = false; }},
+      {"voice activity on", [&] { zet(vakje(ID_VAD), true); },
+       [](Instellingen& c) { c.speexVAC = true; }},
+      {"gain control off", [&] { zet(vakje(ID_AGC), false); },
+       [](Instellingen& c) { c.speexAGC = false; }},
+      {"gain control on", [&] { zet(vakje(ID_AGC), true); },
+       [](Instellingen& c) { c.speexAGC = true; }},
+      {"denoise off", [&] { zet(vakje(ID_DENOISE), false); },
+       [](Instellingen& c) { c.speexDenoise = false; }},
+      {"denoise on", [&] { zet(vakje(ID_DENOISE), true); },
+       [](Instellingen& c) { c.speexDenoise = true; }},
+      {"enhancement is no setting", [&] { zet(vakje(ID_PERPENH), false); }, [](Instellingen&) {}},
+      {"width of the DAC", [&] { kies(keuze(ID_DAC_TYPE), 1); },
+       [](Instellingen& c) { c.dacNumberOfBits = 1; }},
+      {"language C", [&] { kies(radio(ID_LANG_IMPL), 0); },
+       [](Instellingen& c) { c.speexOutputLanguage = 0; }},
+      {"language C++", [&] { kies(radio(ID_LANG_IMPL), 1); },
+       [](Instellingen& c) { c.speexOutputLanguage = 1; }},
+      {"bit rate that is a number", [&] { geefRate("12345"); },
+       [](Instellingen& c) { c.speexBitRate = 12345; }},
+      // 2^32 + 7.
+      {"low 32 bits of a bit rate", [&] { geefRate("4294967303"); },
+       [](Instellingen& c) { c.speexBitRate = 7; }},
+      {"bit rate in base ten", [&] { geefRate("010"); },
+       [](Instellingen& c) { c.speexBitRate = 10; }},
+      {"bit rate typed without Enter", [&] { typ(veld(ID_MAX_RATE), "9999"); },
+       [](Instellingen&) {}},
+  };
   start();
-  kies(keuze(ID_FORMAAT), 2);
-  EXPECT_EQ(stopSpeex("speexFormat"), "2");
-}
-
-TEST_F(InstellingenProef, BandGivesTheResultUp) {
-  startGecodeerd();
-  verwachtResultaatWeg(keuze(ID_FORMAAT), wxEVT_CHOICE);
-}
-
-TEST_F(InstellingenProef, BitRateKindIsStoredAsTheSelection) {
-  start();
-  kies(keuze(ID_BITRATE_TYPE), 1);
-  EXPECT_EQ(stopSpeex("speexBitRateChoice"), "1");
-}
-
-TEST_F(InstellingenProef, BitRateKindGivesTheResultUp) {
-  startGecodeerd();
-  verwachtResultaatWeg(keuze(ID_BITRATE_TYPE), wxEVT_CHOICE);
-}
-
-TEST_F(InstellingenProef, QualityIsStored) {
-  start();
-  zet(spin(ID_QUALITY), 10);
-  EXPECT_EQ(stopSpeex("speexQuality"), "10");
-}
-
-TEST_F(InstellingenProef, QualityGivesTheResultUp) {
-  startGecodeerd();
-  verwachtResultaatWeg(spin(ID_QUALITY), wxEVT_SPINCTRL);
-}
-
-TEST_F(InstellingenProef, ComplexityIsStored) {
-  start();
-  zet(spin(ID_COMPLEXITY), 0);
-  EXPECT_EQ(stopSpeex("speexComplexity"), "0");
-}
-
-TEST_F(InstellingenProef, ComplexityGivesTheResultUp) {
-  startGecodeerd();
-  verwachtResultaatWeg(spin(ID_COMPLEXITY), wxEVT_SPINCTRL);
-}
-
-TEST_F(InstellingenProef, FlagsAreStoredEachInItsOwnKey) {
-  start();
-  zet(vakje(ID_VAD), false);
-  auto sleutels = stopSleutels();
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexVAC"), "0");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexAGC"), "1");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexDenoise"), "1");
-}
-
-TEST_F(InstellingenProef, GainControlIsStored) {
-  start();
-  zet(vakje(ID_AGC), false);
-  auto sleutels = stopSleutels();
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexVAC"), "1");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexAGC"), "0");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexDenoise"), "1");
-}
-
-TEST_F(InstellingenProef, DenoiseIsStored) {
-  start();
-  zet(vakje(ID_DENOISE), false);
-  auto sleutels = stopSleutels();
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexVAC"), "1");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexAGC"), "1");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexDenoise"), "0");
-}
-
-TEST_F(InstellingenProef, FlagCanBeSetAgain) {
-  startMetSpeex("speexVAC=0\nspeexAGC=0\nspeexDenoise=0\n");
-  zet(vakje(ID_VAD), true);
-  zet(vakje(ID_AGC), true);
-  zet(vakje(ID_DENOISE), true);
-  auto sleutels = stopSleutels();
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexVAC"), "1");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexAGC"), "1");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexDenoise"), "1");
-}
-
-TEST_F(InstellingenProef, VoiceActivityGivesTheResultUp) {
-  startGecodeerd();
-  verwachtResultaatWeg(vakje(ID_VAD), wxEVT_CHECKBOX);
-}
-
-TEST_F(InstellingenProef, GainControlGivesTheResultUp) {
-  startGecodeerd();
-  verwachtResultaatWeg(vakje(ID_AGC), wxEVT_CHECKBOX);
-}
-
-TEST_F(InstellingenProef, DenoiseGivesTheResultUp) {
-  startGecodeerd();
-  verwachtResultaatWeg(vakje(ID_DENOISE), wxEVT_CHECKBOX);
-}
-
-TEST_F(InstellingenProef, EnhancementLeavesTheResultAndTheSettingsAlone) {
-  startGecodeerd();
-  vakje(ID_PERPENH)->SetValue(false);
-  stuur(vakje(ID_PERPENH), wxEVT_CHECKBOX);
-  EXPECT_TRUE(isGecodeerd());
-  EXPECT_TRUE(knop(ID_SPEEL_RESULTAAT)->IsEnabled());
-  EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
-}
-
-TEST_F(InstellingenProef, DacIsStoredAsTheSelectionAndGivesTheResultUp) {
-  startGecodeerd();
-  kies(keuze(ID_DAC_TYPE), 1);
-  EXPECT_FALSE(isGecodeerd());
-  EXPECT_TRUE(knop(ID_CODEER)->IsEnabled());
-  EXPECT_EQ(stopSpeex("dacNumberOfBits"), "1");
-}
-
-TEST_F(InstellingenProef, EncoderKindGivesTheResultUpAlsoWhenChosenAgain) {
-  startGecodeerd();
-  verwachtResultaatWeg(radio(ID_ENCODER_TYPE), wxEVT_RADIOBOX);
-}
-
-TEST_F(InstellingenProef, LanguageIsStoredAndGivesTheResultUp) {
-  startGecodeerd();
-  kies(radio(ID_LANG_IMPL), 1);
-  EXPECT_FALSE(isGecodeerd());
-  EXPECT_EQ(stopSpeex("speexOutputLanguage"), "1");
-}
-
-TEST_F(InstellingenProef, LanguageCIsStored) {
-  start();
-  kies(radio(ID_LANG_IMPL), 0);
-  EXPECT_EQ(stopSpeex("speexOutputLanguage"), "0");
-}
-
-TEST_F(InstellingenProef, HeaderTickedAgainGivesTheResultUp) {
-  startGecodeerd();
-  verwachtResultaatWeg(vakje(ID_INCL_HEADER), wxEVT_CHECKBOX);
-  EXPECT_EQ(stopSpeex("IncludeHeader"), "1");
-}
-
-TEST_F(InstellingenProef, ClassNameIsStoredAsTypedAndGivesTheResultUp) {
-  startGeladen();
-  kies(radio(ID_LANG_IMPL), 1);
-  codeerPcm();
-  ASSERT_TRUE(isGecodeerd());
-  typ(veld(ID_KLASSE), wxString::FromUTF8("Gelu\xC3\xAF"
-                                          "d $HOME"));
-  EXPECT_FALSE(isGecodeerd());
-  EXPECT_EQ(stopSleutels().at("/Configuratie/klasseNaam"), wxString::FromUTF8("Gelu\xC3\xAF"
-                                                                              "d $HOME"));
-}
-
-TEST_F(InstellingenProef, BitRateThatIsANumberIsTakenOver) {
-  start();
-  geefRate("12345");
-  EXPECT_TRUE(nietsGelogd(log()));
-  EXPECT_EQ(stopSpeex("speexBitRate"), "12345");
-}
-
-TEST_F(InstellingenProef, BitRateKeepsItsLow32Bits) {
-  start();
-  // 2^32 + 7.
-  geefRate("4294967303");
-  EXPECT_TRUE(nietsGelogd(log()));
-  EXPECT_EQ(stopSpeex("speexBitRate"), "7");
-}
-
-TEST_F(InstellingenProef, BitRateIsReadInBaseTen) {
-  start();
-  geefRate("010");
-  EXPECT_EQ(stopSpeex("speexBitRate"), "10");
+  Instellingen verwacht;
+  for (Stap const& stap : stappen) {
+    SCOPED_TRACE(stap.naam);
+    stap.doet();
+    stap.anders(verwacht);
+    EXPECT_EQ(toon(wxGetApp().geefInstellingen()), toon(verwacht));
+    EXPECT_TRUE(nietsGelogd(log()));
+  }
 }
 
 TEST_F(InstellingenProef, BitRateThatIsNoNumberIsLoggedAndTheOldOneStays) {
@@ -223,31 +117,42 @@ TEST_F(InstellingenProef, BitRateThatIsNoNumberIsLoggedAndTheOldOneStays) {
   EXPECT_EQ(stopSpeex("speexBitRate"), "7000");
 }
 
-TEST_F(InstellingenProef, BitRateGivesTheResultUp) {
+// The Speex controls are disabled beside a PCM result, so their events go out without the user.
+TEST_F(InstellingenProef, EachControlGivesTheResultUpAndItsTextStays) {
+  std::vector<std::pair<char const*, std::function<void()>>> const stappen{
+      {"band", [&] { stuur(keuze(ID_FORMAAT), wxEVT_CHOICE); }},
+      {"bit rate kind", [&] { stuur(keuze(ID_BITRATE_TYPE), wxEVT_CHOICE); }},
+      {"quality", [&] { stuur(spin(ID_QUALITY), wxEVT_SPINCTRL); }},
+      {"complexity", [&] { stuur(spin(ID_COMPLEXITY), wxEVT_SPINCTRL); }},
+      {"voice activity", [&] { stuur(vakje(ID_VAD), wxEVT_CHECKBOX); }},
+      {"gain control", [&] { stuur(vakje(ID_AGC), wxEVT_CHECKBOX); }},
+      {"denoise", [&] { stuur(vakje(ID_DENOISE), wxEVT_CHECKBOX); }},
+      {"encoder chosen again", [&] { stuur(radio(ID_ENCODER_TYPE), wxEVT_RADIOBOX); }},
+      {"header ticked again", [&] { stuur(vakje(ID_INCL_HEADER), wxEVT_CHECKBOX); }},
+      {"bit rate", [&] { stuur(veld(ID_MAX_RATE), wxEVT_TEXT_ENTER); }},
+      {"width of the DAC", [&] { kies(keuze(ID_DAC_TYPE), 1); }},
+      {"language", [&] { kies(radio(ID_LANG_IMPL), 1); }},
+      {"class", [&] { typ(veld(ID_KLASSE), wxString::FromUTF8("Geluïd $HOME")); }},
+      {"bit rate that is no number", [&] { geefRate("abc"); }}};
   startGecodeerd();
-  verwachtResultaatWeg(veld(ID_MAX_RATE), wxEVT_TEXT_ENTER);
-}
-
-TEST_F(InstellingenProef, BitRateThatIsNoNumberGivesTheResultUpToo) {
-  startGecodeerd();
-  veld(ID_MAX_RATE)->ChangeValue("abc");
-  verwachtResultaatWeg(veld(ID_MAX_RATE), wxEVT_TEXT_ENTER);
+  vakje(ID_PERPENH)->SetValue(false);
+  stuur(vakje(ID_PERPENH), wxEVT_CHECKBOX);
+  for (auto const& [naam, doet] : stappen) {
+    SCOPED_TRACE(naam);
+    verwachtResultaat(true);
+    wxString const oud = tekst();
+    EXPECT_FALSE(oud.empty());
+    doet();
+    verwachtResultaat(false);
+    EXPECT_EQ(tekst(), oud);
+    codeer();
+  }
   verwachtFout(1);
-}
-
-TEST_F(InstellingenProef, TypingABitRateWithoutEnterChangesNothing) {
-  start();
-  typ(veld(ID_MAX_RATE), "9999");
-  EXPECT_EQ(stopSpeex("speexBitRate"), "5000");
-}
-
-TEST_F(InstellingenProef, TextOfTheOldResultStaysUntilTheNextEncoding) {
-  startGecodeerd();
-  wxString const oud = tekst();
-  ASSERT_FALSE(oud.empty());
-  kies(keuze(ID_DAC_TYPE), 0);
-  EXPECT_FALSE(isGecodeerd());
-  EXPECT_EQ(tekst(), oud);
+  auto const sleutels = stopSleutels();
+  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/dacNumberOfBits"), "1");
+  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexOutputLanguage"), "1");
+  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/IncludeHeader"), "1");
+  EXPECT_EQ(sleutels.at("/Configuratie/klasseNaam"), wxString::FromUTF8("Geluïd $HOME"));
 }
 
 }  // namespace

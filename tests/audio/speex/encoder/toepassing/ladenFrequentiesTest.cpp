@@ -15,11 +15,8 @@ class FrequentiesProef : public WerkProef {
   // A usable file of one sample at this rate.
   wxString opRate(std::string const& naam, int rate) { return wav(naam, {1}, {rate}); }
 
-  // Loads a file at `eerst` and one at `dan`, and expects the message.
-  void verwachtBericht(int eerst, int dan) {
-    begin();
-    antwoorden.opBericht(wxID_OK);
-    laad({opRate("a.wav", eerst), opRate("b.wav", dan)});
+  // The one message of a load that ends.
+  void verwachtBericht() const {
     ASSERT_EQ(antwoorden.berichten.size(), 1U);
     Bericht const& bericht = antwoorden.berichten[0];
     EXPECT_EQ(bericht.titel, "Multiple sampling frequencies not supported");
@@ -29,13 +26,6 @@ class FrequentiesProef : public WerkProef {
     EXPECT_EQ(bericht.stijl & (wxCLOSE | wxICON_ERROR), wxCLOSE | wxICON_ERROR);
     EXPECT_EQ(bericht.stijl & (wxYES_NO | wxCANCEL | wxICON_QUESTION | wxICON_INFORMATION), 0);
     EXPECT_EQ(bericht.ouder, venster);
-    verwachtEinde(eerst, dan);
-  }
-  void verwachtGeenBericht(int eerst) {
-    begin();
-    laad({opRate("a.wav", eerst), opRate("b.wav", 8000)});
-    EXPECT_TRUE(antwoorden.berichten.empty());
-    verwachtEinde(eerst, 8000);
   }
   // The tree with the first file whole and the second broken off, and nothing loaded.
   void verwachtEinde(int eerst, int dan) {
@@ -50,34 +40,41 @@ class FrequentiesProef : public WerkProef {
     EXPECT_FALSE(knop(wxID_SAVEAS)->IsEnabled());
     EXPECT_EQ(status(), "No audio file loaded");
     EXPECT_TRUE(nietsGelogd(log()));
-    EXPECT_TRUE(stop().Contains("\nfile1=" + pad("a.wav") + "\nfile2=\n"));
   }
 };
 
-TEST_F(FrequentiesProef, From8000To16000AMessageEndsTheLoad) {
-  verwachtBericht(8000, 16000);
-}
-TEST_F(FrequentiesProef, From8000To32000AMessageEndsTheLoad) {
-  verwachtBericht(8000, 32000);
-}
-TEST_F(FrequentiesProef, From16000To32000AMessageEndsTheLoad) {
-  verwachtBericht(16000, 32000);
-}
-TEST_F(FrequentiesProef, From32000To16000AMessageEndsTheLoad) {
-  verwachtBericht(32000, 16000);
-}
-TEST_F(FrequentiesProef, From16000To8000TheLoadEndsWithoutAWord) {
-  verwachtGeenBericht(16000);
-}
-TEST_F(FrequentiesProef, From32000To8000TheLoadEndsWithoutAWord) {
-  verwachtGeenBericht(32000);
-}
-
-TEST_F(FrequentiesProef, TheBandStaysThatOfTheFirstFile) {
+TEST_F(FrequentiesProef, AnotherOneEndsTheLoadAndTheBandStaysThatOfTheFirstFile) {
+  struct Paar {
+    int eerst;
+    int dan;
+    char const* band;
+  };
   begin();
-  laad({opRate("a.wav", 16000), opRate("b.wav", 8000)});
-  EXPECT_EQ(keuze(ID_FORMAAT)->GetStringSelection(), "Wideband");
-  EXPECT_TRUE(stop().Contains("\nspeexFormat=1\n"));
+  // With a message, but for those that end at 8000 Hz: without a word.
+  for (Paar const& paar :
+       {Paar{8000, 16000, "Narrowband"}, Paar{8000, 32000, "Narrowband"},
+        Paar{32000, 16000, "Ultra Wideband"}, Paar{32000, 8000, "Ultra Wideband"},
+        Paar{16000, 32000, "Wideband"}, Paar{16000, 8000, "Wideband"}}) {
+    SCOPED_TRACE(::testing::Message() << paar.eerst << " and " << paar.dan << " Hz");
+    antwoorden.berichten.clear();
+    std::vector<wxString> tijdens;
+    if (paar.dan != 8000) {
+      antwoorden.opBericht(wxID_OK, [&] { tijdens = boomRegels(); });
+    }
+    laad({opRate("a.wav", paar.eerst), opRate("b.wav", paar.dan)});
+    verwachtEinde(paar.eerst, paar.dan);
+    if (paar.dan == 8000) {
+      EXPECT_TRUE(antwoorden.berichten.empty());
+    } else {
+      verwachtBericht();
+      // The tree shows the file already while the message stands.
+      EXPECT_EQ(tijdens, boomRegels());
+    }
+    EXPECT_EQ(keuze(ID_FORMAAT)->GetStringSelection(), paar.band);
+  }
+  wxString const bewaard = stop();
+  EXPECT_TRUE(bewaard.Contains("\nfile1=" + pad("a.wav") + "\nfile2=\n"));
+  EXPECT_TRUE(bewaard.Contains("\nspeexFormat=1\n"));
 }
 
 TEST_F(FrequentiesProef, TheThirdFileIsNeverOpened) {
@@ -94,25 +91,12 @@ TEST_F(FrequentiesProef, TheThirdFileIsNeverOpened) {
   EXPECT_EQ(over[2], c);
   EXPECT_EQ(boomRegels().size(), 14U);
   EXPECT_FALSE(isGeladen());
-}
-
-TEST_F(FrequentiesProef, FilesTurnedAwayBeforeTheEndHaveLeftTheList) {
-  begin();
-  wxArrayString const over =
-      laad({pad("weg.wav"), opRate("a.wav", 16000), pad("weg2.wav"), opRate("b.wav", 8000)});
+  // Files turned away before the end have left the list.
+  wxArrayString const rest = laad({pad("weg.wav"), a, pad("weg2.wav"), b});
   EXPECT_EQ(fouten(), (std::vector<wxString>{afgewezen("weg.wav"), afgewezen("weg2.wav")}));
-  ASSERT_EQ(over.size(), 2U);
-  EXPECT_EQ(over[0], pad("a.wav"));
-  EXPECT_EQ(over[1], pad("b.wav"));
-}
-
-TEST_F(FrequentiesProef, TheMessageComesWhileTheTreeAlreadyShowsTheFile) {
-  begin();
-  std::vector<wxString> regels;
-  antwoorden.opBericht(wxID_OK, [this, &regels] { regels = boomRegels(); });
-  laad({opRate("a.wav", 8000), opRate("b.wav", 32000)});
-  EXPECT_EQ(regels, boomRegels());
-  EXPECT_EQ(regels.size(), 14U);
+  ASSERT_EQ(rest.size(), 2U);
+  EXPECT_EQ(rest[0], a);
+  EXPECT_EQ(rest[1], b);
 }
 
 TEST_F(FrequentiesProef, TheResultAndTheStatusTextOutliveABrokenLoad) {
@@ -127,16 +111,7 @@ TEST_F(FrequentiesProef, TheResultAndTheStatusTextOutliveABrokenLoad) {
   EXPECT_EQ(zonderMoment(tekst()), text);
   bewaar(pad("uit.c"));
   EXPECT_EQ(zonderMoment(inhoud(pad("uit.c"))), text);
-}
-
-// Save proposes the name of a file that is alone in the list, and the directory's for any other
-// number.
-TEST_F(FrequentiesProef, TheFirstFileAloneIsLeftInTheList) {
-  begin();
-  laad({opRate("c.wav", 8000)});
-  codeer();
-  laad({opRate("b.wav", 16000), opRate("a.wav", 8000)});
-  bewaar(pad("uit.c"));
+  // The first file alone is left in the list: for any other number Save proposes the directory's.
   EXPECT_EQ(antwoorden.bestandsVragen.back().naam, "b.c");
 }
 
@@ -151,13 +126,11 @@ TEST_F(FrequentiesProef, OnlyAGoodLoadBringsTheAudioBack) {
   laad({opRate("c.wav", 16000)});
   EXPECT_TRUE(isGeladen());
   EXPECT_EQ(status(), "Audio files loaded");
-}
-
-TEST_F(FrequentiesProef, ThreeFilesOfWhichTheLastDiffersLeaveTwoInTheHistory) {
-  begin();
-  laad({opRate("a.wav", 16000), opRate("b.wav", 16000), opRate("c.wav", 8000)});
-  EXPECT_TRUE(
-      stop().Contains("\nfile1=" + pad("b.wav") + "\nfile2=" + pad("a.wav") + "\nfile3=\n"));
+  // Of three files the last of which differs, two are in the history.
+  laad({pad("a.wav"), pad("c.wav"), pad("b.wav")});
+  EXPECT_FALSE(isGeladen());
+  EXPECT_TRUE(stop().Contains("\nfile1=" + pad("c.wav") + "\nfile2=" + pad("a.wav") +
+                              "\nfile3=" + pad("b.wav") + "\n"));
 }
 
 TEST_F(FrequentiesProef, PcmAndAdpcmOfOneFrequencyLoadTogether) {

@@ -71,7 +71,7 @@ std::vector<Control> verwachteControls() {
   };
 }
 
-class StartProef : public VensterProef {
+class StartProef : public RustProef {
  protected:
   wxPanel* paneel() const {
     return dynamic_cast<wxPanel*>(venster->GetChildren().GetFirst()->GetData());
@@ -79,7 +79,6 @@ class StartProef : public VensterProef {
 };
 
 TEST_F(StartProef, FirstStartShowsItsOwnTitleAndLogsNothing) {
-  start();
   EXPECT_EQ(venster->GetTitle(), "Kestrolin Encoder for embedded applications");
   EXPECT_TRUE(venster->IsShown());
   EXPECT_EQ(venster->GetClientSize(), wxSize(800, 600));
@@ -88,7 +87,6 @@ TEST_F(StartProef, FirstStartShowsItsOwnTitleAndLogsNothing) {
 }
 
 TEST_F(StartProef, FrameHasTheDefaultStyleNoParentAndTheSystemsBackground) {
-  start();
   EXPECT_EQ(venster->GetWindowStyleFlag(), wxDEFAULT_FRAME_STYLE);
   EXPECT_EQ(venster->GetWindowStyleFlag(), 541072960);
   EXPECT_EQ(venster->GetParent(), nullptr);
@@ -97,7 +95,6 @@ TEST_F(StartProef, FrameHasTheDefaultStyleNoParentAndTheSystemsBackground) {
 }
 
 TEST_F(StartProef, PanelHoldsEveryControlInTheOrderOfItsMaking) {
-  start();
   ASSERT_NE(paneel(), nullptr);
   EXPECT_EQ(paneel()->GetWindowStyleFlag(), wxTAB_TRAVERSAL | wxNO_BORDER);
   EXPECT_EQ(paneel()->GetWindowStyleFlag(), 2621440);
@@ -126,14 +123,12 @@ TEST_F(StartProef, StylesHaveTheirNumbers) {
 }
 
 TEST_F(StartProef, FrameHoldsThePanelAndTheStatusBarAlone) {
-  start();
   ASSERT_EQ(venster->GetChildren().size(), 2U);
   EXPECT_EQ(venster->GetChildren().GetFirst()->GetData(), paneel());
   EXPECT_EQ(venster->GetChildren().GetLast()->GetData(), venster->GetStatusBar());
 }
 
 TEST_F(StartProef, StatusBarHasOneFieldOverTheWholeWidth) {
-  start();
   wxStatusBar const* const balk = venster->GetStatusBar();
   ASSERT_NE(balk, nullptr);
   EXPECT_EQ(balk->GetId(), 0);
@@ -145,12 +140,10 @@ TEST_F(StartProef, StatusBarHasOneFieldOverTheWholeWidth) {
 }
 
 TEST_F(StartProef, EncodeIsTheDefaultButton) {
-  start();
   EXPECT_EQ(venster->GetDefaultItem(), knop(ID_CODEER));
 }
 
 TEST_F(StartProef, ChoicesHoldTheirRowsAndStandOnTheDefaults) {
-  start();
   EXPECT_EQ(keuze(ID_FORMAAT)->GetStrings(),
             (wxArrayString{
                 3, std::array<wxString, 3>{"Narrowband", "Wideband", "Ultra Wideband"}.data()}));
@@ -170,7 +163,6 @@ TEST_F(StartProef, ChoicesHoldTheirRowsAndStandOnTheDefaults) {
 }
 
 TEST_F(StartProef, RadioBoxesHoldTheirRowsAndStandOnTheDefaults) {
-  start();
   wxRadioBox const* const encoder = radio(ID_ENCODER_TYPE);
   ASSERT_EQ(encoder->GetCount(), 3U);
   EXPECT_EQ(encoder->GetString(0), "Speex");
@@ -187,7 +179,6 @@ TEST_F(StartProef, RadioBoxesHoldTheirRowsAndStandOnTheDefaults) {
 }
 
 TEST_F(StartProef, SpinControlsGoFrom0To10AndStandOnTheDefaults) {
-  start();
   for (int const id : {ID_QUALITY, ID_COMPLEXITY}) {
     EXPECT_EQ(spin(id)->GetMin(), 0);
     EXPECT_EQ(spin(id)->GetMax(), 10);
@@ -198,19 +189,16 @@ TEST_F(StartProef, SpinControlsGoFrom0To10AndStandOnTheDefaults) {
 }
 
 TEST_F(StartProef, BoxesAreAllTicked) {
-  start();
   for (int const id : {ID_VAD, ID_AGC, ID_DENOISE, ID_PERPENH, ID_INCL_HEADER}) {
     EXPECT_TRUE(vakje(id)->GetValue()) << id;
   }
 }
 
 TEST_F(StartProef, PicturesInXpmCanBeRead) {
-  start();
   EXPECT_NE(wxImage::FindHandler(wxBITMAP_TYPE_XPM), nullptr);
 }
 
 TEST_F(StartProef, FieldsHoldTheBitRateAndNoClass) {
-  start();
   EXPECT_EQ(veld(ID_MAX_RATE)->GetValue(), "5000");
   EXPECT_FALSE(veld(ID_MAX_RATE)->HasFlag(wxTE_PROCESS_ENTER));
   EXPECT_EQ(veld(ID_KLASSE)->GetValue(), "");
@@ -219,7 +207,6 @@ TEST_F(StartProef, FieldsHoldTheBitRateAndNoClass) {
 }
 
 TEST_F(StartProef, TreeIsEmpty) {
-  start();
   EXPECT_EQ(boom()->GetCount(), 0U);
 }
 
