@@ -17,9 +17,21 @@ constexpr char const* onbruikbaar =
     " cannot be loaded because it isn't a WAV PCM/IMA ADPCM S16 8,16,32 kHz format audio file";
 
 class TaalBericht : public ElkeTaalProef {
- protected:
-  void SetUp() override { beginInTaal(EncoderPCM); }
+ public:
+  // One each, in a window that was started once.
+  void openVraag();
+  void afgewezenBestand();
+  void pythonGeweigerd();
+  void vraagOverHeader();
+  void andereFrequenties();
+  void statusEnBoom();
+  void pcmRun();
+  void vraagBijStoppen();
+  void bewaren();
+  void speexRun();
+  void nietPassendeInstellingen();
 
+ protected:
   // Where there is only one, and nothing is logged.
   Bericht bericht() const {
     EXPECT_EQ(antwoorden.berichten.size(), 1U);
@@ -47,7 +59,7 @@ class TaalBericht : public ElkeTaalProef {
   }
 };
 
-TEST_P(TaalBericht, StatusAndTreeAfterALoad) {
+void TaalBericht::statusEnBoom() {
   ASSERT_EQ(laad({wav("bel.wav")}).size(), 1U);
   verwachtStatus(anders("Audio files loaded"));
   EXPECT_EQ(boom()->GetItemText(boom()->GetRootItem()).utf8_string(), anders("Audio Files"));
@@ -57,7 +69,7 @@ TEST_P(TaalBericht, StatusAndTreeAfterALoad) {
   EXPECT_TRUE(nietsGelogd(log()));
 }
 
-TEST_P(TaalBericht, OpenDialog) {
+void TaalBericht::openVraag() {
   antwoorden.opBestandsVraagAnnuleren();
   klik(wxID_OPEN);
   ASSERT_EQ(antwoorden.bestandsVragen.size(), 1U);
@@ -66,13 +78,13 @@ TEST_P(TaalBericht, OpenDialog) {
   EXPECT_EQ(antwoorden.bestandsVragen[0].filter, "WAV Files (*.wav)|*.wav|MP3 Files (*mp3)|*.mp3");
 }
 
-TEST_P(TaalBericht, TurnedAwayFile) {
+void TaalBericht::afgewezenBestand() {
   EXPECT_TRUE(laad({bestand("ruis.wav", "geen geluid")}).empty());
   ASSERT_EQ(fouten().size(), 1U);
   EXPECT_EQ(fouten()[0].utf8_string(), "ruis.wav" + anders(onbruikbaar));
 }
 
-TEST_P(TaalBericht, FilesOfDifferentFrequencies) {
+void TaalBericht::andereFrequenties() {
   antwoorden.opBericht(wxID_OK);
   laad({wav("bel.wav"), wav("hoog.wav", {1, 2}, {16000})});
   EXPECT_EQ(bericht().titel.utf8_string(), anders("Multiple sampling frequencies not supported"));
@@ -81,7 +93,7 @@ TEST_P(TaalBericht, FilesOfDifferentFrequencies) {
                    "convert your audio files to identical sampling frequencies."));
 }
 
-TEST_P(TaalBericht, SuccessOfARunWithItsProgressAndItsStatus) {
+void TaalBericht::pcmRun() {
   laad({wav("bel.wav")});
   antwoorden.opBericht(wxID_OK, [this] {
     wxGenericProgressDialog const* const dialoog = voortgang();
@@ -96,7 +108,7 @@ TEST_P(TaalBericht, SuccessOfARunWithItsProgressAndItsStatus) {
   verwachtStatus(anders("Audio encoded in PCM embedded format"));
 }
 
-TEST_P(TaalBericht, SuccessOfASpeexRun) {
+void TaalBericht::speexRun() {
   kies(radio(ID_ENCODER_TYPE), EncoderSpeex);
   // 24, 48 and 38 per cent on average, cut.
   laadFragmenten(drieFragmenten());
@@ -109,8 +121,7 @@ TEST_P(TaalBericht, SuccessOfASpeexRun) {
   verwachtStatus(anders("Audio encoded in Speex embedded format"));
 }
 
-TEST_P(TaalBericht, SpeexSettingsThatDoNotFit) {
-  kies(radio(ID_ENCODER_TYPE), EncoderSpeex);
+void TaalBericht::nietPassendeInstellingen() {
   laad({wav("bel.wav")});
   kies(keuze(ID_FORMAAT), 1);
   klik(ID_CODEER);
@@ -123,7 +134,7 @@ TEST_P(TaalBericht, SpeexSettingsThatDoNotFit) {
   verwachtStatus(anders("Encoder error. Please check your settings"));
 }
 
-TEST_P(TaalBericht, QuestionAtAnUnsavedQuit) {
+void TaalBericht::vraagBijStoppen() {
   laad({wav("bel.wav")});
   codeer();
   antwoorden.berichten.clear();
@@ -135,7 +146,7 @@ TEST_P(TaalBericht, QuestionAtAnUnsavedQuit) {
             anders("Your encoded file wasn't saved.\nWould you like to save it?"));
 }
 
-TEST_P(TaalBericht, SaveItsQuestionAndItsStatus) {
+void TaalBericht::bewaren() {
   laad({wav("bel.wav")});
   codeer();
   antwoorden.berichten.clear();
@@ -149,7 +160,7 @@ TEST_P(TaalBericht, SaveItsQuestionAndItsStatus) {
   verwachtStatus(anders("Speex embedded data saved in ") + "uit.c");
 }
 
-TEST_P(TaalBericht, QuestionAboutTheHeader) {
+void TaalBericht::vraagOverHeader() {
   antwoorden.opBericht(wxID_NO);
   zet(vakje(ID_INCL_HEADER), false);
   EXPECT_EQ(bericht().titel.utf8_string(), anders("Header info absence"));
@@ -159,12 +170,39 @@ TEST_P(TaalBericht, QuestionAboutTheHeader) {
                    "length and sampling frequency.\nDo you really want to do this?"));
 }
 
-TEST_P(TaalBericht, PythonIsDeclined) {
+void TaalBericht::pythonGeweigerd() {
   antwoorden.opBericht(wxID_OK);
   kies(radio(ID_LANG_IMPL), 2);
   EXPECT_EQ(bericht().titel.utf8_string(), anders("Python encoding not available"));
   EXPECT_EQ(bericht().tekst.utf8_string(),
             anders("Unfortunately, at present Python encoding has not been implemented yet."));
+}
+
+struct Rij {
+  char const* naam;
+  void (TaalBericht::*doet)();
+};
+
+TEST_P(TaalBericht, EachSpeaksTheLanguage) {
+  beginInTaal(EncoderPCM);
+  for (Rij const& rij :
+       {Rij{"open dialog", &TaalBericht::openVraag},
+        Rij{"file that is turned away", &TaalBericht::afgewezenBestand},
+        Rij{"Python is declined", &TaalBericht::pythonGeweigerd},
+        Rij{"question about the header", &TaalBericht::vraagOverHeader},
+        Rij{"files of different frequencies", &TaalBericht::andereFrequenties},
+        Rij{"status and tree after a load", &TaalBericht::statusEnBoom},
+        Rij{"success of a run with its progress and its status", &TaalBericht::pcmRun},
+        Rij{"question at an unsaved quit", &TaalBericht::vraagBijStoppen},
+        Rij{"save, its question and its status", &TaalBericht::bewaren},
+        Rij{"success of a Speex run", &TaalBericht::speexRun},
+        Rij{"Speex settings that do not fit", &TaalBericht::nietPassendeInstellingen}}) {
+    SCOPED_TRACE(rij.naam);
+    log().clear();
+    antwoorden.berichten.clear();
+    antwoorden.bestandsVragen.clear();
+    (this->*rij.doet)();
+  }
 }
 
 INSTANTIATE_TEST_SUITE_P(Talen, TaalBericht, ::testing::ValuesIn(talen()), taalCode);
