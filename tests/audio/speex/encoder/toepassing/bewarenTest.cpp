@@ -1,8 +1,9 @@
 // Saving of the generated text.
 #include <wx/button.h>
-#include <wx/choice.h>
 #include <wx/filedlg.h>
 #include <wx/radiobox.h>
+
+#include <map>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/werkProef.h"
@@ -36,43 +37,35 @@ TEST_F(BewarenProef, TheDialogIsOpenedWithExactlyTheseArguments) {
   EXPECT_EQ(eerste.ouder, venster);
 }
 
-TEST_F(BewarenProef, InCPlusPlusTheProposedNameAndTheFilterFollowTheLanguage) {
-  beginGecodeerd(1);
-  BestandsVraag const eerste = vraag();
-  EXPECT_EQ(eerste.naam, "bel.cpp");
-  EXPECT_EQ(eerste.filter, "cpp");
-}
-
-TEST_F(BewarenProef, AnyOtherLanguageValueProposesAPythonFile) {
+TEST_F(BewarenProef, TheProposedNameAndTheFilterFollowTheLanguageAlsoOneThatIsNone) {
   beginGecodeerd(99);
-  BestandsVraag const eerste = vraag();
-  EXPECT_EQ(eerste.naam, "bel.py");
-  EXPECT_EQ(eerste.filter, "py");
+  EXPECT_EQ(vraag().naam, "bel.py");
+  EXPECT_EQ(vraag().filter, "py");
+  kies(radio(ID_LANG_IMPL), 1);
+  codeer();
+  EXPECT_EQ(vraag().naam, "bel.cpp");
+  EXPECT_EQ(vraag().filter, "cpp");
+  // A name with another extension stays, and only the status text glues it on.
+  bewaar(pad("klank.c"));
+  EXPECT_EQ(inhoud(pad("klank.c")), tekst());
+  EXPECT_EQ(status(), "Speex embedded data saved in klank.ccpp");
 }
 
-TEST_F(BewarenProef, SeveralFilesProposeTheNameOfTheirDirectory) {
+TEST_F(BewarenProef, AnyOtherNumberOfFilesProposesTheNameOfTheirDirectory) {
   begin();
   submap("geluid");
+  // That of the home directory, where no dialog was.
+  laad({wav("a.wav"), wav("b.wav")});
+  codeer();
+  EXPECT_EQ(vraag().naam, "thuis.c");
+  laad({});
+  codeer();
+  EXPECT_EQ(vraag().naam, "thuis.c");
   antwoorden.opBestandsVraag(wav("geluid/a.wav"));
   klik(wxID_OPEN);
   laad({wav("geluid/a.wav"), wav("geluid/b.wav"), wav("geluid/c.wav")});
   codeer();
   EXPECT_EQ(vraag().naam, "geluid.c");
-}
-
-TEST_F(BewarenProef, WithoutADialogSeveralFilesProposeTheNameOfTheHomeDirectory) {
-  begin();
-  laad({wav("a.wav"), wav("b.wav")});
-  codeer();
-  EXPECT_EQ(vraag().naam, "thuis.c");
-}
-
-TEST_F(BewarenProef, AnEmptyLoadProposesTheNameOfTheDirectoryToo) {
-  begin();
-  laad({wav("a.wav")});
-  laad({});
-  codeer();
-  EXPECT_EQ(vraag().naam, "thuis.c");
 }
 
 TEST_F(BewarenProef, NamesWithDotsBlanksAccentsAndPerCentSignsAreProposedAsTheyAre) {
@@ -84,96 +77,46 @@ TEST_F(BewarenProef, NamesWithDotsBlanksAccentsAndPerCentSignsAreProposedAsTheyA
   }
 }
 
-TEST_F(BewarenProef, TheMenuItemSavesToo) {
+TEST_F(BewarenProef, ANewFileIsWrittenWithoutAQuestionEachTime) {
   beginGecodeerd();
-  antwoorden.opBestandsVraag(pad("uit.c"));
+  // A name without extension stays, and only the status text glues it on. A sign of a format is
+  // shown and not obeyed.
+  for (auto const& [naam, verteld] : std::map<wxString, wxString>{
+           {"uit.c", "uit.c"}, {"twee.c", "twee.c"}, {"klank", "klankc"}, {"%s%n.c", "%s%n.c"}}) {
+    SCOPED_TRACE(naam.utf8_string());
+    bewaar(pad(naam));
+    EXPECT_EQ(inhoud(pad(naam)), tekst());
+    EXPECT_EQ(status(), "Speex embedded data saved in " + verteld);
+  }
+  EXPECT_FALSE(wxFileName::FileExists(pad("klank.c")));
+  EXPECT_FALSE(wxFileName::FileExists(pad("klankc")));
+  antwoorden.opBestandsVraag(pad("menu.c"));
   kiesMenu(wxID_SAVE);
-  EXPECT_EQ(inhoud(pad("uit.c")), tekst());
-  EXPECT_EQ(status(), "Speex embedded data saved in uit.c");
-}
-
-TEST_F(BewarenProef, ANewFileIsWrittenWithoutAQuestion) {
-  beginGecodeerd();
-  bewaar(pad("uit.c"));
-  EXPECT_EQ(inhoud(pad("uit.c")), tekst());
-  EXPECT_EQ(status(), "Speex embedded data saved in uit.c");
+  EXPECT_EQ(inhoud(pad("menu.c")), tekst());
+  EXPECT_EQ(status(), "Speex embedded data saved in menu.c");
   // The message of the run, and no other.
   EXPECT_EQ(antwoorden.berichten.size(), 1U);
   EXPECT_TRUE(nietsGelogd(log()));
+  EXPECT_TRUE(isGecodeerd());
+  EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
 }
 
-TEST_F(BewarenProef, ANameWithoutExtensionStaysAndOnlyTheStatusTextGluesItOn) {
+TEST_F(BewarenProef, AnExistingFileBringsTheQuestionAndIsReplacedOrGrowsByTheAnswer) {
   beginGecodeerd();
-  bewaar(pad("klank"));
-  EXPECT_EQ(inhoud(pad("klank")), tekst());
-  EXPECT_FALSE(wxFileName::FileExists(pad("klank.c")));
-  EXPECT_FALSE(wxFileName::FileExists(pad("klankc")));
-  EXPECT_EQ(status(), "Speex embedded data saved in klankc");
-}
-
-TEST_F(BewarenProef, ANameWithAnotherExtensionStaysAndOnlyTheStatusTextGluesItOn) {
-  beginGecodeerd(1);
-  bewaar(pad("klank.c"));
-  EXPECT_EQ(inhoud(pad("klank.c")), tekst());
-  EXPECT_EQ(status(), "Speex embedded data saved in klank.ccpp");
-}
-
-TEST_F(BewarenProef, APerCentSignInTheChosenNameIsShownAndNotObeyed) {
-  beginGecodeerd();
-  bewaar(pad("%s%n.c"));
-  EXPECT_EQ(inhoud(pad("%s%n.c")), tekst());
-  EXPECT_EQ(status(), "Speex embedded data saved in %s%n.c");
-}
-
-TEST_F(BewarenProef, AnExistingFileBringsTheQuestion) {
-  beginGecodeerd();
-  bewaarOver(bestand("oud.c", "oud\n"), wxID_NO);
-  ASSERT_EQ(antwoorden.berichten.size(), 2U);
-  verwachtVraagOverBestand(antwoorden.berichten[1]);
-}
-
-TEST_F(BewarenProef, TheAnswerNoLeavesTheNewTextAlone) {
-  beginGecodeerd();
-  bewaarOver(bestand("oud.c", std::string(100000, 'x')), wxID_NO);
-  EXPECT_EQ(inhoud(pad("oud.c")), tekst());
-  EXPECT_EQ(status(), "Speex embedded data saved in oud.c");
-}
-
-TEST_F(BewarenProef, EscapeAtTheQuestionOverwritesToo) {
-  beginGecodeerd();
-  bewaarOver(bestand("oud.c", std::string(100000, 'x')), wxID_CANCEL);
-  EXPECT_EQ(inhoud(pad("oud.c")), tekst());
-  EXPECT_EQ(status(), "Speex embedded data saved in oud.c");
-}
-
-TEST_F(BewarenProef, TheAnswerYesAppendsDirectlyBehindTheOldText) {
-  beginGecodeerd();
+  // Escape replaces it too.
+  for (int const antwoord : {wxID_NO, wxID_CANCEL}) {
+    antwoorden.berichten.clear();
+    bewaarOver(bestand("oud.c", std::string(100000, 'x')), antwoord);
+    ASSERT_EQ(antwoorden.berichten.size(), 1U);
+    verwachtVraagOverBestand(antwoorden.berichten[0]);
+    EXPECT_EQ(inhoud(pad("oud.c")), tekst());
+    EXPECT_EQ(status(), "Speex embedded data saved in oud.c");
+  }
+  // Yes appends directly behind the old text, also the same once more.
   bewaarOver(bestand("oud.c", "oud zonder einde"), wxID_YES);
   EXPECT_EQ(inhoud(pad("oud.c")), "oud zonder einde" + tekst());
-}
-
-TEST_F(BewarenProef, TheSameTextAppendedStandsTwiceInTheFile) {
-  beginGecodeerd();
-  bewaar(pad("uit.c"));
-  bewaarOver(pad("uit.c"), wxID_YES);
-  EXPECT_EQ(inhoud(pad("uit.c")), tekst() + tekst());
-}
-
-TEST_F(BewarenProef, TwoSavesWriteTheSameTextTwice) {
-  beginGecodeerd();
-  bewaar(pad("een.c"));
-  bewaar(pad("twee.c"));
-  EXPECT_EQ(inhoud(pad("een.c")), tekst());
-  EXPECT_EQ(inhoud(pad("twee.c")), tekst());
-}
-
-TEST_F(BewarenProef, TheSecondDialogOpensInTheDirectoryOfTheFirstAndProposesAfreshName) {
-  beginGecodeerd();
-  wxString const map2 = submap("uitvoer");
-  bewaar(map2 + "/heel anders.txt");
-  BestandsVraag const tweede = vraag();
-  EXPECT_EQ(tweede.map, map2);
-  EXPECT_EQ(tweede.naam, "bel.c");
+  bewaarOver(pad("oud.c"), wxID_YES);
+  EXPECT_EQ(inhoud(pad("oud.c")), "oud zonder einde" + tekst() + tekst());
 }
 
 TEST_F(BewarenProef, TheStoredDirectoryIsKeptButTheDialogDoesNotStartFromIt) {
@@ -185,12 +128,19 @@ TEST_F(BewarenProef, TheStoredDirectoryIsKeptButTheDialogDoesNotStartFromIt) {
   EXPECT_TRUE(stop().Contains("\nspeexDirectory=" + oud + "\n"));
 }
 
-TEST_F(BewarenProef, TheDirectoryOfASaveReachesTheConfigurationAndTheFileDoesNot) {
+TEST_F(BewarenProef, TheDirectoryOfASaveIsThatOfTheNextDialogAndReachesTheConfiguration) {
   begin(0, "speexFile=/ergens/oud.c\n");
   laad({wav("bel.wav")});
   codeer();
   wxString const map2 = submap("uitvoer");
-  bewaar(map2 + "/uit.c");
+  bewaar(map2 + "/heel anders.txt");
+  // The name is proposed afresh. A cancelled dialog leaves the directory.
+  for (int keer = 0; keer < 2; ++keer) {
+    BestandsVraag const volgende = vraag();
+    EXPECT_EQ(volgende.map, map2);
+    EXPECT_EQ(volgende.naam, "bel.c");
+  }
+  EXPECT_EQ(status(), "Speex embedded data saved in heel anders.txtc");
   wxString const bewaard = stop();
   EXPECT_TRUE(bewaard.Contains("\nspeexDirectory=" + map2 + "\n"));
   EXPECT_TRUE(bewaard.Contains("\nspeexFile=/ergens/oud.c\n"));
@@ -202,49 +152,6 @@ TEST_F(BewarenProef, ACancelledDialogChangesNothingThatCanBeSeen) {
   EXPECT_EQ(status(), "Audio encoded in PCM embedded format");
   EXPECT_TRUE(isGecodeerd());
   EXPECT_TRUE(stop().Contains("\nspeexDirectory=" + thuis() + "\n"));
-}
-
-TEST_F(BewarenProef, ACancelledSecondDialogLeavesTheDirectoryOfTheFirst) {
-  beginGecodeerd();
-  wxString const map2 = submap("uitvoer");
-  bewaar(map2 + "/uit.c");
-  vraag();
-  EXPECT_EQ(vraag().map, map2);
-  EXPECT_EQ(status(), "Speex embedded data saved in uit.c");
-}
-
-TEST_F(BewarenProef, SavingLeavesTheEnablingAlone) {
-  beginGecodeerd();
-  bewaar(pad("uit.c"));
-  EXPECT_TRUE(isGecodeerd());
-  EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
-}
-
-TEST_F(BewarenProef, AfterASaveTheWindowClosesWithoutAQuestion) {
-  beginGecodeerd();
-  bewaar(pad("uit.c"));
-  klik(wxID_EXIT);
-  EXPECT_FALSE(leeft());
-  EXPECT_EQ(antwoorden.berichten.size(), 1U);
-}
-
-TEST_F(BewarenProef, AfterACancelledSaveTheQuestionStillComes) {
-  beginGecodeerd();
-  vraag();
-  antwoorden.opBericht(wxID_NO);
-  klik(wxID_EXIT);
-  EXPECT_FALSE(leeft());
-  EXPECT_EQ(antwoorden.berichten.back().titel, "Encoded audio is not stored yet");
-}
-
-TEST_F(BewarenProef, ANewRunAfterASaveBringsTheQuestionBack) {
-  beginGecodeerd();
-  bewaar(pad("uit.c"));
-  kies(keuze(ID_DAC_TYPE), 0);
-  codeer();
-  antwoorden.opBericht(wxID_NO);
-  klik(wxID_EXIT);
-  EXPECT_FALSE(leeft());
 }
 
 }  // namespace

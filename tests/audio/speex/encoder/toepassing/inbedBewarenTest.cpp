@@ -2,6 +2,7 @@
 // of it and leaves as it was.
 #include <wx/button.h>
 #include <wx/filename.h>
+#include <wx/radiobox.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/inbedVensterProef.h"
@@ -10,42 +11,34 @@ namespace {
 
 using InbedBewarenProef = InbedVensterProef;
 
-TEST_F(InbedBewarenProef, ANameWithoutExtensionStaysAndOnlyTheStatusTextGluesItOn) {
+TEST_F(InbedBewarenProef,
+       TheNameAndTheAnswerAreForTheExactPathAndOnlyTheStatusTextGluesTheExtensionOn) {
   beginMetBel();
+  bestand("klankc", "oud\n");
   inbed(pad("klank"));
+  EXPECT_TRUE(antwoorden.berichten.empty());
   EXPECT_TRUE(zelfdeTekst(gelezen(pad("klank")), verwachteBel()));
   EXPECT_FALSE(wxFileName::FileExists(pad("klank.c")));
-  EXPECT_FALSE(wxFileName::FileExists(pad("klankc")));
+  EXPECT_EQ(inhoud(pad("klankc")), "oud\n");
   EXPECT_EQ(status(), "WAV embedded data saved in klankc");
-}
-
-TEST_F(InbedBewarenProef, ANameWithAnotherExtensionStaysAndOnlyTheStatusTextGluesItOn) {
-  begin(1);
-  laad({wav("bel.wav")});
+  // A name with another extension stays too.
+  kies(radio(ID_LANG_IMPL), 1);
   inbed(pad("klank.c"));
   EXPECT_TRUE(wxFileName::FileExists(pad("klank.c")));
   EXPECT_EQ(status(), "WAV embedded data saved in klank.ccpp");
 }
 
-TEST_F(InbedBewarenProef, AnExistingFileBringsTheQuestion) {
+TEST_F(InbedBewarenProef, AnExistingFileBringsTheQuestionAndNoOrEscapeReplacesIt) {
   beginMetBel();
-  inbedOver(bestand("oud.c", "oud\n"), wxID_NO);
-  ASSERT_EQ(antwoorden.berichten.size(), 1U);
-  verwachtVraagOverBestand(antwoorden.berichten[0]);
-}
-
-TEST_F(InbedBewarenProef, TheAnswerNoReplacesTheFile) {
-  beginMetBel();
-  inbedOver(bestand("oud.c", std::string(100000, 'x')), wxID_NO);
-  EXPECT_TRUE(zelfdeTekst(gelezen(pad("oud.c")), verwachteBel()));
-  EXPECT_EQ(tekst(), inhoud(pad("oud.c")));
-  EXPECT_EQ(status(), "WAV embedded data saved in oud.c");
-}
-
-TEST_F(InbedBewarenProef, EscapeAtTheQuestionReplacesTheFileToo) {
-  beginMetBel();
-  inbedOver(bestand("oud.c", "oud\n"), wxID_CANCEL);
-  EXPECT_TRUE(zelfdeTekst(gelezen(pad("oud.c")), verwachteBel()));
+  for (int const antwoord : {wxID_NO, wxID_CANCEL}) {
+    antwoorden.berichten.clear();
+    inbedOver(bestand("oud.c", std::string(100000, 'x')), antwoord);
+    ASSERT_EQ(antwoorden.berichten.size(), 1U);
+    verwachtVraagOverBestand(antwoorden.berichten[0]);
+    EXPECT_TRUE(zelfdeTekst(gelezen(pad("oud.c")), verwachteBel()));
+    EXPECT_EQ(tekst(), inhoud(pad("oud.c")));
+    EXPECT_EQ(status(), "WAV embedded data saved in oud.c");
+  }
 }
 
 TEST_F(InbedBewarenProef, TheAnswerYesAddsANewHeadAndAllBlocksBehindWhatStandsThere) {
@@ -63,14 +56,6 @@ TEST_F(InbedBewarenProef, TheAnswerYesAddsANewHeadAndAllBlocksBehindWhatStandsTh
                                                     {{"bel", {7}}, {"zoem", {}}})));
   EXPECT_EQ(tekst(), inhoud(doel));
   EXPECT_EQ(status(), "WAV embedded data saved in oud.c");
-}
-
-TEST_F(InbedBewarenProef, TheAnswerIsForTheExactPathAndNotForTheNameThatIsTold) {
-  beginMetBel();
-  bestand("klankc", "oud\n");
-  inbed(pad("klank"));
-  EXPECT_TRUE(antwoorden.berichten.empty());
-  EXPECT_EQ(inhoud(pad("klankc")), "oud\n");
 }
 
 TEST_F(InbedBewarenProef, AFileThatWentSinceTheLoadKeepsItsBlockWithAnEmptyArrayAndIsTold) {
@@ -97,34 +82,24 @@ TEST_F(InbedBewarenProef, AFileThatWentSinceTheLoadKeepsItsBlockWithAnEmptyArray
   EXPECT_EQ(fouten(), std::vector<wxString>{"Could not embed the whole of " + pad("weg.wav")});
 }
 
-TEST_F(InbedBewarenProef, AFreshResultStaysFreshAndIsStillTheOneThatSaveWrites) {
+TEST_F(InbedBewarenProef, AFreshResultStaysFreshAndUnsavedAndIsStillTheOneThatSaveWrites) {
   beginMetBel();
+  // Without a result none appears.
+  inbed(pad("eerder.c"));
+  EXPECT_FALSE(isGecodeerd());
+  EXPECT_TRUE(knop(ID_CODEER)->IsEnabled());
+  EXPECT_TRUE(knop(wxID_SAVEAS)->IsEnabled());
   codeer();
   wxString const gecodeerd = tekst();
   inbed(pad("uit.c"));
   EXPECT_TRUE(isGecodeerd());
   EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
   EXPECT_TRUE(isGeladen());
+  antwoorden.opBericht(wxID_CANCEL);
+  klik(wxID_EXIT);
+  EXPECT_EQ(antwoorden.berichten.back().titel, "Encoded audio is not stored yet");
   bewaar(pad("gecodeerd.c"));
   EXPECT_EQ(inhoud(pad("gecodeerd.c")), gecodeerd);
-}
-
-TEST_F(InbedBewarenProef, WithoutAResultNoneAppears) {
-  beginMetBel();
-  inbed(pad("uit.c"));
-  EXPECT_FALSE(isGecodeerd());
-  EXPECT_TRUE(knop(ID_CODEER)->IsEnabled());
-  EXPECT_TRUE(knop(wxID_SAVEAS)->IsEnabled());
-}
-
-TEST_F(InbedBewarenProef, EmbeddingIsNoSavingOfTheResult) {
-  beginMetBel();
-  codeer();
-  inbed(pad("uit.c"));
-  antwoorden.opBericht(wxID_NO);
-  klik(wxID_EXIT);
-  EXPECT_FALSE(leeft());
-  EXPECT_EQ(antwoorden.berichten.back().titel, "Encoded audio is not stored yet");
 }
 
 TEST_F(InbedBewarenProef, DirectoriesAndHistoryStayAsTheyWere) {

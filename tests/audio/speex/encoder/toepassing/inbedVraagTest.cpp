@@ -12,7 +12,7 @@ namespace {
 
 using InbedVraagProef = InbedVensterProef;
 
-TEST_F(InbedVraagProef, TheDialogIsOpenedWithExactlyTheseArguments) {
+TEST_F(InbedVraagProef, TheDialogIsOpenedWithExactlyTheseArgumentsAndCancelledChangesNothing) {
   begin();
   laad({wav("bel.wav")});
   BestandsVraag const eerste = vraag();
@@ -22,13 +22,12 @@ TEST_F(InbedVraagProef, TheDialogIsOpenedWithExactlyTheseArguments) {
   EXPECT_EQ(eerste.filter, "c");
   EXPECT_EQ(eerste.stijl, 130);
   EXPECT_EQ(eerste.ouder, venster);
-}
-
-TEST_F(InbedVraagProef, OneFileInCProposesItsNameWithC) {
-  begin();
-  submap("a/b");
-  laad({wav("a/b/ding.wav")});
-  EXPECT_EQ(vraag().naam, "ding.c");
+  EXPECT_EQ(status(), "Audio files loaded");
+  EXPECT_EQ(tekst(), "");
+  EXPECT_EQ(voortgang(), nullptr);
+  EXPECT_TRUE(std::filesystem::is_empty(map.pad("tmp")));
+  EXPECT_TRUE(antwoorden.berichten.empty());
+  EXPECT_TRUE(nietsGelogd(log()));
 }
 
 TEST_F(InbedVraagProef, ThreeFilesInSoundsInCPlusPlusProposeSoundsCpp) {
@@ -50,26 +49,20 @@ TEST_F(InbedVraagProef, AnyOtherLanguageValueProposesAPythonFile) {
   EXPECT_EQ(eerste.filter, "py");
 }
 
-TEST_F(InbedVraagProef, NoFilesProposeTheNameOfTheDirectory) {
-  begin();
-  laad({wav("a.wav")});
-  laad({});
-  EXPECT_EQ(vraag().naam, "thuis.c");
-}
-
-TEST_F(InbedVraagProef, NamesWithDotsBlanksAccentsAndPerCentSignsAreProposedAsTheyAre) {
-  begin();
-  for (char const* naam : {"a.b", "stil zwijgen", "één", "100%", "%s%n"}) {
-    laad({wav(std::string(naam) + ".wav")});
-    EXPECT_EQ(vraag().naam, wxString::FromUTF8(naam) + ".c");
-  }
-}
-
-TEST_F(InbedVraagProef, TheProposalFollowsTheFilesAndTheLanguageAfterACancelledDialog) {
+TEST_F(InbedVraagProef, TheProposalFollowsTheFilesAndTheLanguageAfterEachCancelledDialog) {
   begin();
   laad({wav("bel.wav")});
   EXPECT_EQ(vraag().naam, "bel.c");
   EXPECT_EQ(vraag().naam, "bel.c");
+  // No files propose the name of the directory.
+  laad({});
+  EXPECT_EQ(vraag().naam, "thuis.c");
+  submap("a/b");
+  for (char const* naam : {"a/b/ding", "a.b", "stil zwijgen", "één", "100%", "%s%n"}) {
+    wxString const heel = wxString::FromUTF8(naam);
+    laad({wav(std::string(naam) + ".wav")});
+    EXPECT_EQ(vraag().naam, heel.AfterLast('/') + ".c");
+  }
   laad({wav("zoem.wav")});
   EXPECT_EQ(vraag().naam, "zoem.c");
   kies(radio(ID_LANG_IMPL), 1);
@@ -77,18 +70,6 @@ TEST_F(InbedVraagProef, TheProposalFollowsTheFilesAndTheLanguageAfterACancelledD
   EXPECT_EQ(cpp.naam, "zoem.cpp");
   EXPECT_EQ(cpp.filter, "cpp");
   EXPECT_EQ(cpp.map, "");
-}
-
-TEST_F(InbedVraagProef, ACancelledDialogChangesNothingThatCanBeSeen) {
-  begin();
-  laad({wav("bel.wav")});
-  vraag();
-  EXPECT_EQ(status(), "Audio files loaded");
-  EXPECT_EQ(tekst(), "");
-  EXPECT_EQ(voortgang(), nullptr);
-  EXPECT_TRUE(std::filesystem::is_empty(map.pad("tmp")));
-  EXPECT_TRUE(antwoorden.berichten.empty());
-  EXPECT_TRUE(nietsGelogd(log()));
 }
 
 TEST_F(InbedVraagProef, AfterASaveTheDialogStartsInItsDirectoryAndProposesTheFilesAnew) {

@@ -8,6 +8,7 @@
 #include <cstdlib>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/kestrolin.h"
 #include "tests/audio/speex/encoder/toepassing/vreemdeBestanden.h"
 #include "tests/audio/speex/encoder/toepassing/werkProef.h"
 #include "tests/steun/machine.h"
@@ -24,10 +25,10 @@ class LadenProef : public WerkProef {
   }
 };
 
-TEST_F(LadenProef, TheDialogIsOpenedWithExactlyTheseArguments) {
+TEST_F(LadenProef, TheDialogIsOpenedWithExactlyTheseArgumentsAndTheConfiguredFileIsNotUsed) {
   wxString const muziek = submap("muziek");
-  begin(0, "wavDirectory=" + muziek + "\n");
-  antwoorden.opBestandsVraagAnnuleren();
+  begin(0, "wavDirectory=" + muziek + "\nwavFile=/ergens/oud.wav\n");
+  antwoorden.opBestandsVraag(wav("bel.wav"));
   klik(wxID_OPEN);
   ASSERT_EQ(antwoorden.bestandsVragen.size(), 1U);
   BestandsVraag const& vraag = antwoorden.bestandsVragen[0];
@@ -36,15 +37,20 @@ TEST_F(LadenProef, TheDialogIsOpenedWithExactlyTheseArguments) {
   EXPECT_EQ(vraag.filter, "WAV Files (*.wav)|*.wav|MP3 Files (*mp3)|*.mp3");
   EXPECT_EQ(vraag.stijl, wxFD_OPEN | wxFD_FILE_MUST_EXIST | wxFD_MULTIPLE | wxFD_CHANGE_DIR);
   EXPECT_EQ(vraag.ouder, venster);
+  EXPECT_TRUE(stop().Contains("\nwavFile=/ergens/oud.wav\n"));
 }
 
-TEST_F(LadenProef, TheMenuItemOpensTheSameDialogAndTheFirstDirectoryIsHome) {
+TEST_F(LadenProef, TheMenuItemOpensTheSameDialogFirstAtHomeAndThenInTheDirectoryOfTheLast) {
   begin();
-  antwoorden.opBestandsVraagAnnuleren();
+  wxString const muziek = submap("muziek");
+  antwoorden.opBestandsVraag(wav("muziek/bel.wav"));
   kiesMenu(wxID_OPEN);
-  ASSERT_EQ(antwoorden.bestandsVragen.size(), 1U);
+  antwoorden.opBestandsVraagAnnuleren();
+  klik(wxID_OPEN);
+  ASSERT_EQ(antwoorden.bestandsVragen.size(), 2U);
   EXPECT_EQ(antwoorden.bestandsVragen[0].bericht, "Open an Audio file");
   EXPECT_EQ(antwoorden.bestandsVragen[0].map, thuis());
+  EXPECT_EQ(antwoorden.bestandsVragen[1].map, muziek);
 }
 
 TEST_F(LadenProef, ACancelledDialogChangesNothing) {
@@ -60,12 +66,13 @@ TEST_F(LadenProef, ACancelledDialogChangesNothing) {
   EXPECT_TRUE(stop().Contains("\nwavDirectory=" + thuis() + "\n"));
 }
 
-TEST_F(LadenProef, OneWidebandFileGivesItsBandItsSixLinesAndTheStatusText) {
+TEST_F(LadenProef, OneWidebandFileGivesItsBandItsSixLinesInAClosedTreeAndTheStatusText) {
   begin();
   wxString const bel = wav("bel.wav", proefSamples(1600), {16000});
   antwoorden.opBestandsVraag(bel);
   klik(wxID_OPEN);
   EXPECT_EQ(boom()->GetItemText(boom()->GetRootItem()), "Audio Files");
+  EXPECT_FALSE(boom()->IsExpanded(boom()->GetRootItem()));
   EXPECT_EQ(boomRegels(),
             (std::vector<wxString>{"bel.wav", " frames     : 1600", " samplerate : 16000",
                                    " channels   : 1", " format     : WAV S16 PCM",
@@ -79,99 +86,65 @@ TEST_F(LadenProef, OneWidebandFileGivesItsBandItsSixLinesAndTheStatusText) {
   EXPECT_TRUE(bewaard.Contains("\nwavDirectory=" + pad("").BeforeLast('/') + "\n"));
 }
 
-TEST_F(LadenProef, AnAdpcmFileAt32000HzNamesItsFormatAndBand) {
-  begin();
-  laad({bestand("bel.wav", imaAdpcmWav(32000, 256))});
-  EXPECT_EQ(boomRegels(), boomVan({{"bel.wav", 505, 32000, 1, "WAV 4 Bit IMA ADPCM"}}));
-  EXPECT_EQ(keuze(ID_FORMAAT)->GetStringSelection(), "Ultra Wideband");
-  EXPECT_TRUE(stop().Contains("\nspeexFormat=2\n"));
-}
-
-TEST_F(LadenProef, AStereoFileShowsItsChannelsAsSeekableToo) {
-  begin();
-  laad({wav("bel.wav", {1, 2, 3, 4, 5, 6}, {8000, 2})});
-  EXPECT_EQ(boomRegels(), (std::vector<wxString>{"bel.wav", " frames     : 3", " samplerate : 8000",
-                                                 " channels   : 2", " format     : WAV S16 PCM",
-                                                 " sections:", " seekable   : 2"}));
-  EXPECT_EQ(keuze(ID_FORMAAT)->GetStringSelection(), "Narrowband");
-}
-
-TEST_F(LadenProef, AFileWithoutSamplesIsTaken) {
-  begin();
-  laad({wav("stil.wav", {})});
-  EXPECT_EQ(boomRegels(), boomVan({{"stil.wav", 0, 8000}}));
-  EXPECT_TRUE(isGeladen());
-}
-
-TEST_F(LadenProef, AFileCutOffInItsSamplesShowsWhatIsThere) {
-  begin();
+// The band of a file replaces the chosen one without its handler.
+TEST_F(LadenProef, EachKindOfFileReplacesWhatWasLoadedBeforeAndNamesItsFormatAndBand) {
+  begin(0, "", "speexFormat=1\n");
   std::string const heel = wavBytes({}, std::string(8, 'x'));
-  laad({bestand("half.wav", heel.substr(0, heel.size() - 4))});
-  EXPECT_EQ(boomRegels(), boomVan({{"half.wav", 2, 8000}}));
+  auto const verwacht = [this](wxString const& pad, std::vector<BoomBestand> const& bestanden,
+                               int band) {
+    SCOPED_TRACE(pad.utf8_string());
+    laad({pad});
+    EXPECT_EQ(boomRegels(), boomVan(bestanden));
+    EXPECT_EQ(keuze(ID_FORMAAT)->GetSelection(), band);
+    EXPECT_EQ(wxGetApp().geefInstellingen().speexFormat, band);
+    EXPECT_TRUE(isGeladen());
+  };
+  verwacht(bestand("adpcm.wav", imaAdpcmWav(32000, 256)),
+           {{"adpcm.wav", 505, 32000, 1, "WAV 4 Bit IMA ADPCM"}}, 2);
+  // Its channels show as seekable too.
+  verwacht(wav("stereo.wav", {1, 2, 3, 4, 5, 6}, {8000, 2}), {{"stereo.wav", 3, 8000, 2}}, 0);
+  verwacht(wav("zonder samples.wav", {}, {32000}), {{"zonder samples.wav", 0, 32000}}, 2);
+  // What is there of samples that are cut off.
+  verwacht(bestand("half.wav", heel.substr(0, heel.size() - 4)), {{"half.wav", 2, 8000}}, 0);
 }
 
 TEST_F(LadenProef, TheTreeKeepsTheOrderOfSelectionAndTheEncoderTakesThatOfThePaths) {
   begin();
   laad({wav("b.wav"), wav("a.wav")});
   EXPECT_EQ(boomRegels(), boomVan({{"b.wav", 2, 8000}, {"a.wav", 2, 8000}}));
-  wxString const text = codeer();
+  wxString text = codeer();
   EXPECT_TRUE(
       text.Contains("// extern const unsigned char a[];\n// extern const unsigned char b[];\n\n\n"
                     "/******* Start encoding file number 1 \t\t*******/\n"));
   EXPECT_LT(text.find("/* WAV file : a.wav"), text.find("/* WAV file : b.wav"));
-}
 
-TEST_F(LadenProef, TwoFilesOfOneNameInTwoDirectoriesBothCount) {
-  begin();
+  // Two files of one name in two directories both count: the path with x comes first.
   submap("x");
   submap("y");
   laad({wav("y/bel.wav", {5}), wav("x/bel.wav", {7, 7, 7})});
   EXPECT_EQ(boomRegels(), boomVan({{"bel.wav", 1, 8000}, {"bel.wav", 3, 8000}}));
-  wxString const text = codeer();
+  text = codeer();
   EXPECT_TRUE(text.StartsWith("/* PCM encoding output of 2 audio files \t\t*/\n\n"));
-  // The path with x comes first.
   EXPECT_LT(text.find("bel_pcmNumberOfEncSamples=3;"), text.find("bel_pcmNumberOfEncSamples=1;"));
-}
 
-TEST_F(LadenProef, TheSameFileTwiceInOneSelectionCountsTwice) {
-  begin();
-  wxString const bel = wav("bel.wav");
-  laad({bel, bel});
-  EXPECT_EQ(boomRegels(), boomVan({{"bel.wav", 2, 8000}, {"bel.wav", 2, 8000}}));
+  // The same file twice in one selection counts twice.
+  laad({pad("a.wav"), pad("a.wav")});
+  EXPECT_EQ(boomRegels(), boomVan({{"a.wav", 2, 8000}, {"a.wav", 2, 8000}}));
   EXPECT_TRUE(codeer().StartsWith("/* PCM encoding output of 2 audio files \t\t*/\n\n"));
 }
 
-TEST_F(LadenProef, ALoadReplacesAllThatWasLoadedBefore) {
+TEST_F(LadenProef, ALoadReplacesAllThatWasLoadedBeforeAndGivesUpTheResult) {
   begin();
   laad({wav("a.wav"), wav("b.wav")});
-  laad({wav("c.wav")});
-  EXPECT_EQ(boomRegels(), boomVan({{"c.wav", 2, 8000}}));
-  EXPECT_TRUE(codeer().StartsWith("/* PCM encoding output of 1 audio files \t\t*/\n\n"));
-}
-
-TEST_F(LadenProef, ALoadGivesUpTheResultOfTheLastEncoding) {
-  begin();
-  laad({wav("a.wav")});
   codeer();
   EXPECT_TRUE(isGecodeerd());
   EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
-  laad({wav("a.wav")});
+  laad({wav("c.wav")});
   EXPECT_FALSE(isGecodeerd());
   EXPECT_TRUE(knop(ID_CODEER)->IsEnabled());
   EXPECT_EQ(status(), "Audio files loaded");
-}
-
-TEST_F(LadenProef, TheTreeStandsCollapsed) {
-  begin();
-  laad({wav("a.wav")});
-  EXPECT_FALSE(boom()->IsExpanded(boom()->GetRootItem()));
-}
-
-TEST_F(LadenProef, TheBandOfTheFirstFileReplacesTheChosenOneWithoutItsHandler) {
-  begin(0, "", "speexFormat=2\n");
-  laad({wav("a.wav")});
-  EXPECT_EQ(keuze(ID_FORMAAT)->GetSelection(), 0);
-  EXPECT_TRUE(stop().Contains("\nspeexFormat=0\n"));
+  EXPECT_EQ(boomRegels(), boomVan({{"c.wav", 2, 8000}}));
+  EXPECT_TRUE(codeer().StartsWith("/* PCM encoding output of 1 audio files \t\t*/\n\n"));
 }
 
 TEST_F(LadenProef, NamesWithBlanksDotsAccentsAndPerCentSignsLoad) {
@@ -205,23 +178,6 @@ TEST_F(LadenProef, AccentsLoadAndEncodeAlsoWithoutAnyLocale) {
   wxString const text = codeer();
   EXPECT_TRUE(text.Contains("\n// extern const unsigned char " + naam + "[];\n"));
   EXPECT_TRUE(text.Contains("\n/* WAV file : " + naam + ".wav\t\t*/\n"));
-}
-
-TEST_F(LadenProef, TheNextDialogOpensInTheDirectoryOfTheLast) {
-  begin();
-  wxString const muziek = submap("muziek");
-  antwoorden.opBestandsVraag(wav("muziek/bel.wav"));
-  klik(wxID_OPEN);
-  antwoorden.opBestandsVraagAnnuleren();
-  klik(wxID_OPEN);
-  EXPECT_EQ(antwoorden.bestandsVragen[1].map, muziek);
-}
-
-TEST_F(LadenProef, TheConfiguredAudioFileIsKeptUnchangedAndUnused) {
-  begin(0, "wavFile=/ergens/oud.wav\n");
-  antwoorden.opBestandsVraag(wav("bel.wav"));
-  klik(wxID_OPEN);
-  EXPECT_TRUE(stop().Contains("\nwavFile=/ergens/oud.wav\n"));
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // The progress dialog of the three runs and of an embedding: how it is made, and how it goes on.
 #include <wx/progdlg.h>
+#include <wx/radiobox.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/inbedVensterProef.h"
@@ -28,30 +29,15 @@ class VoortgangProef : public InbedVensterProef {
   }
 };
 
-TEST_F(VoortgangProef, OfASpeexRun) {
-  beginSpeex();
-  laadDrie();
-  codeer();
-  verwachtVoortgang();
-}
-
-TEST_F(VoortgangProef, OfAnAdpcmRun) {
-  beginAdpcm();
-  laadDrie();
-  codeer();
-  verwachtVoortgang();
-}
-
-TEST_F(VoortgangProef, OfAPcmRun) {
+TEST_F(VoortgangProef, OfARunOfEachEncoderAndOfAnEmbedding) {
   begin();
   laadDrie();
-  codeer();
-  verwachtVoortgang();
-}
-
-TEST_F(VoortgangProef, OfAnEmbedding) {
-  begin();
-  laadDrie();
+  for (EncoderSoort const soort : {EncoderSpeex, EncoderADPCM, EncoderPCM}) {
+    SCOPED_TRACE(soort);
+    kies(radio(ID_ENCODER_TYPE), soort);
+    codeer();
+    verwachtVoortgang();
+  }
   inbed(pad("uit.c"));
   verwachtVoortgang();
 }
