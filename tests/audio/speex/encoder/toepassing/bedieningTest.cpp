@@ -80,60 +80,23 @@ class BedieningProef : public GereedProef {
 
   // A load that ends at its second file: nothing is loaded any more, and the result stays.
   void verliesBestanden() { laad({maakFragment("a.wav", 16000), maakFragment("b.wav", 8000)}); }
-
-  void startGecodeerdInCPP() {
-    start("[Configuratie]\nklasseNaam=Klank\n");
-    laad({maakFragment("fragment.wav")});
-    codeerPcm();
-  }
 };
 
-TEST_F(BedieningProef, WithoutFilesEverythingIsDisabledInC) {
+TEST_F(BedieningProef, InCTheResultGoesWithALoadAndTheEmptyClassFieldDoesNotMatter) {
   startMetSpeex("speexOutputLanguage=0\n");
   verwacht({false, false, false});
-}
-
-TEST_F(BedieningProef, WithoutFilesEverythingIsDisabledAtAFirstStart) {
-  start();
-  verwacht({false, false, true});
-}
-
-TEST_F(BedieningProef, InCTheEmptyClassFieldDoesNotMatter) {
-  startMetSpeex("speexOutputLanguage=0\n");
   laad({maakFragment("fragment.wav")});
   EXPECT_EQ(veld(ID_KLASSE)->GetValue(), wxString());
   verwacht({true, false, false});
-}
-
-TEST_F(BedieningProef, InCPPTheEmptyClassFieldKeepsEncodeAndSaveAsDisabled) {
-  start();
-  laad({maakFragment("fragment.wav")});
-  verwacht({true, false, true});
-  typ(veld(ID_KLASSE), "K");
+  codeerPcm();
+  verwacht({true, true, false});
+  bewaar(pad("uit.c"));
+  verwacht({true, true, false});
+  laad({maakFragment("ander.wav")});
   verwacht({true, false, false});
-  typ(veld(ID_KLASSE), "");
-  verwacht({true, false, true});
-}
-
-TEST_F(BedieningProef, EmptyClassNameOfTheConfigurationKeepsEncodeDisabled) {
-  start("[Configuratie]\nklasseNaam=\n");
-  laad({maakFragment("fragment.wav")});
-  verwacht({true, false, true});
-}
-
-TEST_F(BedieningProef, ClassNameOfTheConfigurationShowsAndEnablesEncode) {
-  start("[Configuratie]\nklasseNaam=Klank\n");
-  laad({maakFragment("fragment.wav")});
-  EXPECT_EQ(veld(ID_KLASSE)->GetValue(), "Klank");
-  verwacht({true, false, false});
-}
-
-TEST_F(BedieningProef, PythonOfTheConfigurationNeedsAClassToo) {
-  startMetSpeex("speexOutputLanguage=2\n");
-  laad({maakFragment("fragment.wav")});
-  verwacht({true, false, true});
-  typ(veld(ID_KLASSE), "K");
-  verwacht({true, false, false});
+  codeer();
+  verliesBestanden();
+  verwacht({false, true, false});
 }
 
 TEST_F(BedieningProef, RecordDecidesAboutTheClassAndNotTheRadioBox) {
@@ -147,40 +110,28 @@ TEST_F(BedieningProef, RecordDecidesAboutTheClassAndNotTheRadioBox) {
   verwacht({true, false, true});
 }
 
-TEST_F(BedieningProef, AfterAnEncodingEncodeIsDisabledAndTheResultUsable) {
-  startGecodeerd();
-  verwacht({true, true, false});
-}
-
-TEST_F(BedieningProef, SavingChangesNoneOfThem) {
-  startGecodeerd();
-  bewaar(pad("uit.c"));
-  verwacht({true, true, false});
-}
-
-TEST_F(BedieningProef, ResultStaysUsableWithAnEmptyClassField) {
-  startGecodeerdInCPP();
+TEST_F(BedieningProef, InCPPTheEmptyClassFieldKeepsEncodeAndSaveAsDisabledAndTheResultUsable) {
+  start("[Configuratie]\nklasseNaam=\n");
+  verwacht({false, false, true});
+  laad({maakFragment("fragment.wav")});
+  verwacht({true, false, true});
+  typ(veld(ID_KLASSE), "K");
+  verwacht({true, false, false});
+  typ(veld(ID_KLASSE), "");
+  verwacht({true, false, true});
+  typ(veld(ID_KLASSE), "K");
+  codeerPcm();
   verwacht({true, true, false});
   leegKlasseVeld();
   verwacht({true, true, true});
-}
-
-TEST_F(BedieningProef, ResultStaysUsableWithoutFiles) {
-  startGecodeerd();
   verliesBestanden();
-  verwacht({false, true, false});
-}
-
-TEST_F(BedieningProef, ResultStaysUsableWithoutFilesAndClass) {
-  startGecodeerdInCPP();
-  verliesBestanden();
-  leegKlasseVeld();
   verwacht({false, true, true});
 }
 
-TEST_F(BedieningProef, LoadingGivesTheResultUp) {
-  startGecodeerd();
-  laad({maakFragment("ander.wav")});
+TEST_F(BedieningProef, ClassNameOfTheConfigurationShowsAndEnablesEncode) {
+  start("[Configuratie]\nklasseNaam=Klank\n");
+  laad({maakFragment("fragment.wav")});
+  EXPECT_EQ(veld(ID_KLASSE)->GetValue(), "Klank");
   verwacht({true, false, false});
 }
 
@@ -242,9 +193,13 @@ TEST_F(KlasseBedieningProef, CDisablesTheClassAndKeepsItsName) {
   EXPECT_EQ(stopSleutels().at("/Configuratie/klasseNaam"), "Klank");
 }
 
-TEST_F(KlasseBedieningProef, PythonOfTheConfigurationEnablesTheClass) {
+TEST_F(KlasseBedieningProef, PythonOfTheConfigurationEnablesAndNeedsTheClassToo) {
   startMetSpeex("speexOutputLanguage=2\n");
   verwachtKlasse(true);
+  laad({maakFragment("fragment.wav")});
+  verwacht({true, false, true});
+  typ(veld(ID_KLASSE), "K");
+  verwacht({true, false, false});
 }
 
 }  // namespace

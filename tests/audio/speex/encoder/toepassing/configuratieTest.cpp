@@ -83,24 +83,6 @@ TEST_F(ConfiguratieProef, HomeWithASeparatorAtItsEndGivesTheDirectoriesWithoutOn
   EXPECT_EQ(sleutels.at("/Configuratie/speexDirectory"), thuis());
 }
 
-TEST_F(ConfiguratieProef, NothingIsOnDiskWhileTheApplicationRuns) {
-  start();
-  kies(keuze(ID_FORMAAT), 1);
-  EXPECT_FALSE(wxFileExists(thuis() + "/.Kestrolin"));
-}
-
-TEST_F(ConfiguratieProef, FirstStartShowsNarrowbandCppHeaderAnd16Bits) {
-  start();
-  EXPECT_EQ(keuze(ID_FORMAAT)->GetStringSelection(), "Narrowband");
-  EXPECT_EQ(spin(ID_QUALITY)->GetValue(), 8);
-  EXPECT_EQ(spin(ID_COMPLEXITY)->GetValue(), 3);
-  EXPECT_EQ(keuze(ID_BITRATE_TYPE)->GetStringSelection(), "Fixed Bitrate");
-  EXPECT_EQ(veld(ID_MAX_RATE)->GetValue(), "5000");
-  EXPECT_EQ(radio(ID_LANG_IMPL)->GetStringSelection(), "C++");
-  EXPECT_TRUE(vakje(ID_INCL_HEADER)->GetValue());
-  EXPECT_EQ(keuze(ID_DAC_TYPE)->GetStringSelection(), "16 Bit DAC");
-}
-
 // A file with another value for every key.
 constexpr char const* alleAnders =
     "[Gebruikersinstellingen/Speex]\nspeexFormat=2\nspeexQuality=4\nspeexComplexity=9\n"
@@ -109,7 +91,7 @@ constexpr char const* alleAnders =
     "wavDirectory=/klank/in\nspeexDirectory=/klank/uit\nwavFile=oud.wav\nspeexFile=oud.spx\n"
     "klasseNaam=Klank\nConvertertype=1\n";
 
-TEST_F(ConfiguratieProef, EveryValueIsShown) {
+TEST_F(ConfiguratieProef, EveryValueIsShownAndComesBackUnchanged) {
   start(alleAnders);
   EXPECT_EQ(keuze(ID_FORMAAT)->GetSelection(), 2);
   EXPECT_EQ(spin(ID_QUALITY)->GetValue(), 4);
@@ -126,17 +108,6 @@ TEST_F(ConfiguratieProef, EveryValueIsShown) {
   EXPECT_EQ(radio(ID_ENCODER_TYPE)->GetSelection(), 1);
   EXPECT_TRUE(nietsGelogd(log()));
   EXPECT_TRUE(antwoorden.berichten.empty());
-}
-
-TEST_F(ConfiguratieProef, EachFlagIsShownInItsOwnBox) {
-  startMetSpeex("speexVAC=1\nspeexDenoise=0\nspeexAGC=1\n");
-  EXPECT_TRUE(vakje(ID_VAD)->GetValue());
-  EXPECT_FALSE(vakje(ID_DENOISE)->GetValue());
-  EXPECT_TRUE(vakje(ID_AGC)->GetValue());
-}
-
-TEST_F(ConfiguratieProef, EveryValueComesBackUnchanged) {
-  start(alleAnders);
   Sleutels verwacht = eersteKeer();
   for (auto const& [naam, waarde] : configSleutels(alleAnders)) {
     verwacht[naam] = waarde;
@@ -146,10 +117,11 @@ TEST_F(ConfiguratieProef, EveryValueComesBackUnchanged) {
   EXPECT_EQ(sleutels, verwacht);
 }
 
-TEST_F(ConfiguratieProef, EncoderKindOfTheEndIsThatOfTheNextStart) {
-  start();
-  kies(radio(ID_ENCODER_TYPE), 2);
-  EXPECT_EQ(stopSleutels().at("/Configuratie/Convertertype"), "2");
+TEST_F(ConfiguratieProef, EachFlagIsShownInItsOwnBox) {
+  startMetSpeex("speexVAC=1\nspeexDenoise=0\nspeexAGC=1\n");
+  EXPECT_TRUE(vakje(ID_VAD)->GetValue());
+  EXPECT_FALSE(vakje(ID_DENOISE)->GetValue());
+  EXPECT_TRUE(vakje(ID_AGC)->GetValue());
 }
 
 TEST_F(ConfiguratieProef, SizeOfTheWindowIsReadAndNeverWritten) {
@@ -160,16 +132,6 @@ TEST_F(ConfiguratieProef, SizeOfTheWindowIsReadAndNeverWritten) {
   Sleutels const sleutels = stopSleutels();
   EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Venster/GrootteX"), "900");
   EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Venster/GrootteY"), "700");
-}
-
-TEST_F(ConfiguratieProef, ResizedWindowIsForgottenAtTheEnd) {
-  start();
-  venster->SetClientSize(900, 700);
-  rust();
-  // Without the keys the next start has its 800 by 600 again.
-  Sleutels sleutels = stopSleutels();
-  neemMomenten(sleutels);
-  EXPECT_EQ(sleutels, eersteKeer());
 }
 
 TEST_F(ConfiguratieProef, EnhancementIsTickedAtEveryStartAndNeverStored) {
@@ -186,28 +148,20 @@ TEST_F(ConfiguratieProef, EnhancementIsTickedAtEveryStartAndNeverStored) {
   EXPECT_TRUE(vakje(ID_PERPENH)->GetValue());
 }
 
-TEST_F(ConfiguratieProef, UnknownKeysAndGroupsAreKept) {
-  start(
+TEST_F(ConfiguratieProef, UnknownKeysAndGroupsAndDollarSignsAreKept) {
+  wxString const regels =
       "[Eigen]\nsleutel=waarde\n[Configuratie]\nfile10=/klank/tien.wav\nlater=nieuw\n"
-      "[Gebruikersinstellingen/Speex]\nspeexExtra=5\n");
-  Sleutels const sleutels = stopSleutels();
-  EXPECT_EQ(sleutels.at("/Eigen/sleutel"), "waarde");
-  EXPECT_EQ(sleutels.at("/Configuratie/later"), "nieuw");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexExtra"), "5");
-}
-
-TEST_F(ConfiguratieProef, DollarSignsComeBackUnchanged) {
-  start(
-      "[Configuratie]\nwavDirectory=/klank/$HOME\nspeexDirectory=/uit/${HOME}\nwavFile=$HOME.wav\n"
-      "speexFile=$(HOME)\nklasseNaam=$HOME\nfile1=/klank/$HOME.wav\n");
+      "wavDirectory=/klank/$HOME\nspeexDirectory=/uit/${HOME}\nwavFile=$HOME.wav\n"
+      "speexFile=$(HOME)\nklasseNaam=$HOME\nfile1=/klank/$HOME.wav\n"
+      "[Gebruikersinstellingen/Speex]\nspeexExtra=5\n";
+  start(regels);
   EXPECT_EQ(veld(ID_KLASSE)->GetValue(), "$HOME");
   Sleutels const sleutels = stopSleutels();
-  EXPECT_EQ(sleutels.at("/Configuratie/wavDirectory"), "/klank/$HOME");
-  EXPECT_EQ(sleutels.at("/Configuratie/speexDirectory"), "/uit/${HOME}");
-  EXPECT_EQ(sleutels.at("/Configuratie/wavFile"), "$HOME.wav");
-  EXPECT_EQ(sleutels.at("/Configuratie/speexFile"), "$(HOME)");
-  EXPECT_EQ(sleutels.at("/Configuratie/klasseNaam"), "$HOME");
-  EXPECT_EQ(sleutels.at("/Configuratie/file1"), "/klank/$HOME.wav");
+  for (auto const& [naam, waarde] : configSleutels(regels)) {
+    if (!naam.EndsWith("file10")) {
+      EXPECT_EQ(sleutels.at(naam), waarde) << naam.utf8_str();
+    }
+  }
 }
 
 TEST_F(ConfiguratieProef, HistoryComesBackInItsOrderAndTheNewestComesFirst) {
@@ -221,15 +175,21 @@ TEST_F(ConfiguratieProef, HistoryComesBackInItsOrderAndTheNewestComesFirst) {
   EXPECT_EQ(sleutels.at("/Configuratie/file4"), "");
 }
 
-TEST_F(ConfiguratieProef, SettingsOfTheRunAreWrittenAlsoThoseNeverChanged) {
+TEST_F(ConfiguratieProef, SettingsOfTheRunAreWrittenAtItsEndAloneAlsoThoseNeverChangedAndNoSize) {
   start();
   kies(keuze(ID_FORMAAT), 1);
   zet(spin(ID_QUALITY), 2);
+  kies(radio(ID_ENCODER_TYPE), 2);
+  // Without its keys the next start has its 800 by 600 again.
+  venster->SetClientSize(900, 700);
+  rust();
+  EXPECT_FALSE(wxFileExists(thuis() + "/.Kestrolin"));
   Sleutels sleutels = stopSleutels();
   neemMomenten(sleutels);
   Sleutels verwacht = eersteKeer();
   verwacht["/Gebruikersinstellingen/Speex/speexFormat"] = "1";
   verwacht["/Gebruikersinstellingen/Speex/speexQuality"] = "2";
+  verwacht["/Configuratie/Convertertype"] = "2";
   EXPECT_EQ(sleutels, verwacht);
 }
 

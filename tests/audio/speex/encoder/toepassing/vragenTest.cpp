@@ -5,7 +5,11 @@
 #include <wx/radiobox.h>
 #include <wx/textctrl.h>
 
+#include <array>
+#include <functional>
+
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/kestrolin.h"
 #include "tests/audio/speex/encoder/toepassing/gereedProef.h"
 
 namespace {
@@ -44,40 +48,26 @@ constexpr long kopStijl = 10 + 128 + 1024;
 constexpr long quitStijl = 10 + 16 + 1024;
 constexpr long pythonStijl = 4 + 512;
 
-TEST_F(VragenProef, HeaderWarningHasItsExactWords) {
-  start();
-  haalKopWeg(wxID_NO);
-  ASSERT_EQ(aantalBerichten(), 1U);
+// Escape counts as No.
+TEST_F(VragenProef, HeaderWarningGivesTheResultUpAndUnlessAnsweredYesTicksTheBoxAgain) {
   EXPECT_EQ(kopStijl, wxYES_NO | wxNO_DEFAULT | wxICON_QUESTION);
-  verwachtLaatste("Header info absence",
-                  "It is not recommended to remove header information from the encoded output "
-                  "stream.\nYou will have a hard time using the audio data without knowledge of "
-                  "length and sampling frequency.\nDo you really want to do this?",
-                  kopStijl);
-}
-
-TEST_F(VragenProef, HeaderWarningAnsweredYesTakesTheHeaderOut) {
   startGecodeerd();
-  haalKopWeg(wxID_YES);
-  EXPECT_FALSE(vakje(ID_INCL_HEADER)->GetValue());
-  EXPECT_FALSE(isGecodeerd());
+  for (int const antwoord : {wxID_NO, wxID_CANCEL, wxID_YES}) {
+    SCOPED_TRACE(antwoord);
+    antwoorden.berichten.clear();
+    haalKopWeg(antwoord);
+    ASSERT_EQ(aantalBerichten(), 1U);
+    verwachtLaatste("Header info absence",
+                    "It is not recommended to remove header information from the encoded output "
+                    "stream.\nYou will have a hard time using the audio data without knowledge of "
+                    "length and sampling frequency.\nDo you really want to do this?",
+                    kopStijl);
+    EXPECT_EQ(vakje(ID_INCL_HEADER)->GetValue(), antwoord != wxID_YES);
+    EXPECT_EQ(wxGetApp().geefInstellingen().IncludeHeader, antwoord != wxID_YES);
+    EXPECT_FALSE(isGecodeerd());
+    codeer();
+  }
   EXPECT_EQ(stopSpeex("IncludeHeader"), "0");
-}
-
-TEST_F(VragenProef, HeaderWarningAnsweredNoTicksTheBoxAgainAndStillGivesTheResultUp) {
-  startGecodeerd();
-  haalKopWeg(wxID_NO);
-  EXPECT_TRUE(vakje(ID_INCL_HEADER)->GetValue());
-  EXPECT_FALSE(isGecodeerd());
-  EXPECT_EQ(stopSpeex("IncludeHeader"), "1");
-}
-
-TEST_F(VragenProef, HeaderWarningLeftByEscapeCountsAsNo) {
-  startGecodeerd();
-  haalKopWeg(wxID_CANCEL);
-  EXPECT_TRUE(vakje(ID_INCL_HEADER)->GetValue());
-  EXPECT_FALSE(isGecodeerd());
-  EXPECT_EQ(stopSpeex("IncludeHeader"), "1");
 }
 
 TEST_F(VragenProef, PuttingTheHeaderBackAsksNothing) {
@@ -88,26 +78,27 @@ TEST_F(VragenProef, PuttingTheHeaderBackAsksNothing) {
   EXPECT_EQ(stopSpeex("IncludeHeader"), "1");
 }
 
-TEST_F(VragenProef, PythonIsDeclinedInItsExactWordsAndTheBoxGoesBackToCPP) {
-  start();
-  antwoorden.opBericht(wxID_OK);
-  kies(radio(ID_LANG_IMPL), 2);
-  ASSERT_EQ(aantalBerichten(), 1U);
+TEST_F(VragenProef, PythonIsDeclinedInItsExactWordsAndTheBoxGoesBackAndGivesTheResultUp) {
   EXPECT_EQ(pythonStijl, wxOK | wxICON_ERROR);
-  verwachtLaatste("Python encoding not available",
-                  "Unfortunately, at present Python encoding has not been implemented yet.",
-                  pythonStijl);
-  EXPECT_EQ(radio(ID_LANG_IMPL)->GetSelection(), 1);
-  EXPECT_EQ(stopSpeex("speexOutputLanguage"), "1");
-}
-
-TEST_F(VragenProef, DeclinedPythonGoesBackToCAndGivesTheResultUp) {
   startGecodeerd();
-  antwoorden.opBericht(wxID_OK);
-  kies(radio(ID_LANG_IMPL), 2);
-  EXPECT_EQ(radio(ID_LANG_IMPL)->GetSelection(), 0);
-  EXPECT_FALSE(isGecodeerd());
-  EXPECT_EQ(stopSpeex("speexOutputLanguage"), "0");
+  for (int const taal : {0, 1}) {
+    SCOPED_TRACE(taal);
+    kies(radio(ID_LANG_IMPL), taal);
+    if (!isGecodeerd()) {
+      codeer();
+    }
+    antwoorden.berichten.clear();
+    antwoorden.opBericht(wxID_OK);
+    kies(radio(ID_LANG_IMPL), 2);
+    ASSERT_EQ(aantalBerichten(), 1U);
+    verwachtLaatste("Python encoding not available",
+                    "Unfortunately, at present Python encoding has not been implemented yet.",
+                    pythonStijl);
+    EXPECT_EQ(radio(ID_LANG_IMPL)->GetSelection(), taal);
+    EXPECT_EQ(wxGetApp().geefInstellingen().speexOutputLanguage, taal);
+    EXPECT_FALSE(isGecodeerd());
+  }
+  EXPECT_EQ(stopSpeex("speexOutputLanguage"), "1");
 }
 
 TEST_F(VragenProef, PythonOfTheConfigurationIsShownWithoutAWarning) {
@@ -125,28 +116,24 @@ TEST_F(VragenProef, QuitWithoutAResultAsksNothing) {
   EXPECT_EQ(aantalBerichten(), 0U);
 }
 
-TEST_F(VragenProef, QuitRightAfterAnEncodingAsksInItsExactWords) {
-  startGecodeerd();
-  HoofdVenster const* const ouder = venster;
-  std::size_t const voor = aantalBerichten();
-  verlaat(wxID_CANCEL);
-  ASSERT_EQ(aantalBerichten(), voor + 1);
+TEST_F(VragenProef, QuitRightAfterAnEncodingAsksByButtonOrMenuAndCancelGoesOnWithTheResult) {
   EXPECT_EQ(quitStijl, wxYES_NO | wxCANCEL | wxICON_QUESTION);
-  verwachtLaatste("Encoded audio is not stored yet",
-                  "Your encoded file wasn't saved.\nWould you like to save it?", quitStijl);
-  EXPECT_EQ(antwoorden.berichten.back().ouder, ouder);
-}
-
-TEST_F(VragenProef, QuitAnsweredCancelGoesOnWithTheResult) {
   startGecodeerd();
-  verlaat(wxID_CANCEL);
-  EXPECT_TRUE(leeft());
-  EXPECT_TRUE(isGecodeerd());
-}
-
-TEST_F(VragenProef, QuitAnsweredNoEndsWithoutSaving) {
-  startGecodeerd();
-  verlaat(wxID_NO);
+  std::array<std::function<void()>, 2> const wegen{[this] { klik(wxID_EXIT); },
+                                                   [this] { kiesMenu(wxID_EXIT); }};
+  for (auto const& weg : wegen) {
+    antwoorden.berichten.clear();
+    antwoorden.opBericht(wxID_CANCEL);
+    weg();
+    ASSERT_EQ(aantalBerichten(), 1U);
+    verwachtLaatste("Encoded audio is not stored yet",
+                    "Your encoded file wasn't saved.\nWould you like to save it?", quitStijl);
+    EXPECT_TRUE(leeft());
+    EXPECT_TRUE(isGecodeerd());
+  }
+  // No ends it without saving.
+  antwoorden.opBericht(wxID_NO);
+  kiesMenu(wxID_EXIT);
   EXPECT_FALSE(leeft());
   EXPECT_TRUE(antwoorden.bestandsVragen.empty());
 }
@@ -170,17 +157,6 @@ TEST_F(VragenProef, QuitAnsweredYesAndThenACancelledSaveStillEnds) {
   EXPECT_FALSE(leeft());
 }
 
-TEST_F(VragenProef, MenuAsksTheSameQuestionAsTheButton) {
-  startGecodeerd();
-  antwoorden.opBericht(wxID_CANCEL);
-  kiesMenu(wxID_EXIT);
-  EXPECT_TRUE(leeft());
-  EXPECT_EQ(antwoorden.berichten.back().titel, "Encoded audio is not stored yet");
-  antwoorden.opBericht(wxID_NO);
-  kiesMenu(wxID_EXIT);
-  EXPECT_FALSE(leeft());
-}
-
 TEST_F(VragenProef, QuitAfterASaveAsksNothing) {
   startGecodeerd();
   bewaar(pad("uit.c"));
@@ -188,14 +164,6 @@ TEST_F(VragenProef, QuitAfterASaveAsksNothing) {
   klik(wxID_EXIT);
   EXPECT_FALSE(leeft());
   EXPECT_EQ(aantalBerichten(), voor);
-}
-
-TEST_F(VragenProef, QuitAfterACancelledSaveStillAsks) {
-  startGecodeerd();
-  antwoorden.opBestandsVraagAnnuleren();
-  klik(wxID_SAVE);
-  verlaat(wxID_NO);
-  EXPECT_EQ(antwoorden.berichten.back().titel, "Encoded audio is not stored yet");
 }
 
 TEST_F(VragenProef, QuitAfterASettingGaveTheResultUpAsksNothing) {
@@ -207,8 +175,13 @@ TEST_F(VragenProef, QuitAfterASettingGaveTheResultUpAsksNothing) {
   EXPECT_EQ(aantalBerichten(), voor);
 }
 
-TEST_F(VragenProef, QuitAfterASecondEncodingAsksAgainAlthoughTheFirstWasSaved) {
+TEST_F(VragenProef, QuitAfterACancelledSaveOrASecondEncodingAsks) {
   startGecodeerd();
+  antwoorden.opBestandsVraagAnnuleren();
+  klik(wxID_SAVE);
+  verlaat(wxID_CANCEL);
+  EXPECT_EQ(antwoorden.berichten.back().titel, "Encoded audio is not stored yet");
+  // Of the second, although the first was saved.
   bewaar(pad("uit.c"));
   kies(keuze(ID_DAC_TYPE), 0);
   codeerPcm();
