@@ -39,86 +39,67 @@ TEST_F(SpeelBronProef, TwoFilesAreHeardOneToItsEndBeforeTheOtherEachInBoldWhileI
   EXPECT_EQ(vet(), (Vet{{0}, {1}}));
 }
 
-TEST_F(SpeelBronProef, TheSamplesHeardAreThoseOfTheFiles) {
+TEST_F(SpeelBronProef, TheSamplesHeardAreThoseOfTheFilesAtTheirOwnRate) {
   std::vector<std::int16_t> const mono = proefSamples(1001);
   std::vector<std::int16_t> const stereo{1, -1, 32767, -32768, 256, -256};
   speel({wav("bel.wav", mono), wav("zoem.wav", stereo, {8000, 2})});
-  ASSERT_EQ(gehoord.size(), 2U);
+  speel({wav("breed.wav", {1, 2}, {16000})});
+  speel({wav("breder.wav", {1, 2}, {32000})});
+  ASSERT_EQ(gehoord.size(), 4U);
   EXPECT_EQ(gehoord[0].bytes, geluidBytes(mono));
   EXPECT_EQ(gehoord[1].bytes, geluidBytes(stereo));
   EXPECT_EQ(gehoord[1].geluid, (OpgenomenGeluid{2, 8000, 16, 3, 12, wxSOUND_SYNC}));
+  EXPECT_EQ(gehoord[2].geluid.rate, 16000U);
+  EXPECT_EQ(gehoord[3].geluid.rate, 32000U);
 }
 
-TEST_F(SpeelBronProef, FilesAreHeardAtTheirOwnRate) {
-  speel({wav("breed.wav", {1, 2}, {16000})});
-  speel({wav("breder.wav", {1, 2}, {32000})});
-  ASSERT_EQ(gehoord.size(), 2U);
-  EXPECT_EQ(gehoord[0].geluid.rate, 16000U);
-  EXPECT_EQ(gehoord[1].geluid.rate, 32000U);
+// In the order of their paths, and bold where the search finds them: it goes on from the last one,
+// and never back.
+TEST_F(SpeelBronProef, EachFileIsHeardAndItsLineIsBoldWhereTheSearchFindsIt) {
+  struct Rij {
+    char const* naam;
+    Paden boom;
+    Lengten lengten;
+    Vet vet;
+  };
+  for (char const* naam : {"een", "twee", "100%s %n"}) {
+    submap(naam);
+  }
+  wxString const a = klank("a.wav", 5);
+  wxString const b = klank("b.wav", 6);
+  wxString const c = klank("c.wav", 7);
+  wxString const adpcm = bestand("a2.wav", imaAdpcmWav(8000, 100));
+  std::vector<Rij> const rijen{
+      {"a file without samples is a sound too", {wav("0.wav", {}), c}, {0, 7}, {{0}, {1}}},
+      {"a name of any signs", {klank("100%s %n/\xC3\xA9\xC3\xA9n %d bel.wav", 5)}, {5}, {{0}}},
+      {"the search runs out at the last", {c, a, b}, {5, 6, 7}, {{1}, {2}, {}}},
+      {"the search runs out at once", {b, c, a}, {5, 6, 7}, {{2}, {}, {}}},
+      {"the order is one of whole paths and not of names",
+       {klank("een/z.wav", 5), klank("twee/a.wav", 6)},
+       {5, 6},
+       {{0}, {1}}},
+      {"of two files of one name the first line is bold twice",
+       {klank("een/bel.wav", 5), klank("twee/bel.wav", 6), klank("zoem.wav", 7)},
+       {5, 6, 7},
+       {{0}, {0}, {2}}},
+      {"ADPCM is passed over without a word", {a, adpcm, c}, {5, 7}, {{0}, {2}}},
+      // The search for it would go past the two others.
+      {"what is passed over is not searched for", {b, c, adpcm}, {6, 7}, {{0}, {1}}}};
+  for (Rij const& rij : rijen) {
+    SCOPED_TRACE(rij.naam);
+    gehoord.clear();
+    speel(rij.boom);
+    EXPECT_EQ(lengten(), rij.lengten);
+    EXPECT_EQ(vet(), rij.vet);
+  }
 }
 
-TEST_F(SpeelBronProef, AFileWithoutSamplesIsASoundToo) {
-  speel({wav("leeg.wav", {}), klank("zoem.wav", 7)});
-  EXPECT_EQ(lengten(), (Lengten{0, 7}));
-  EXPECT_EQ(vet(), (Vet{{0}, {1}}));
-}
-
-TEST_F(SpeelBronProef, NamesOfEveryKindAreHeard) {
-  submap("100%s %n");
-  speel({klank("100%s %n/\xC3\xA9\xC3\xA9n %d bel.wav", 5)});
-  EXPECT_EQ(lengten(), Lengten{5});
-  EXPECT_EQ(vet(), Vet{{0}});
-}
-
-TEST_F(SpeelBronProef, FilesAreHeardInTheOrderOfTheirPathsAndBoldWhereTheSearchFindsThem) {
-  // In the tree: c, a, b.
-  speel({klank("c.wav", 7), klank("a.wav", 5), klank("b.wav", 6)});
-  EXPECT_EQ(lengten(), (Lengten{5, 6, 7}));
-  EXPECT_EQ(vet(), (Vet{{1}, {2}, {}}));
-}
-
-TEST_F(SpeelBronProef, AfterTheSearchRanOutAllAreHeardWithoutBold) {
-  // In the tree: b, c, a.
-  speel({klank("b.wav", 6), klank("c.wav", 7), klank("a.wav", 5)});
-  EXPECT_EQ(lengten(), (Lengten{5, 6, 7}));
-  EXPECT_EQ(vet(), (Vet{{2}, {}, {}}));
-}
-
-TEST_F(SpeelBronProef, TheOrderIsOneOfWholePathsAndNotOfNames) {
-  submap("een");
-  submap("twee");
-  speel({klank("een/z.wav", 5), klank("twee/a.wav", 6)});
-  EXPECT_EQ(lengten(), (Lengten{5, 6}));
-  EXPECT_EQ(vet(), (Vet{{0}, {1}}));
-}
-
-TEST_F(SpeelBronProef, OfTwoFilesOfOneNameTheFirstLineIsBoldTwice) {
-  submap("een");
-  submap("twee");
-  speel({klank("een/bel.wav", 5), klank("twee/bel.wav", 6), klank("zoem.wav", 7)});
-  EXPECT_EQ(lengten(), (Lengten{5, 6, 7}));
-  EXPECT_EQ(vet(), (Vet{{0}, {0}, {2}}));
-}
-
-TEST_F(SpeelBronProef, AFileThatIsPassedOverIsNotSearchedFor) {
-  // In the tree: b, c, a; the search for a would go past the two others.
-  speel({klank("b.wav", 6), klank("c.wav", 7), bestand("a.wav", imaAdpcmWav(8000, 100))});
-  EXPECT_EQ(lengten(), (Lengten{6, 7}));
-  EXPECT_EQ(vet(), (Vet{{0}, {1}}));
-}
-
-TEST_F(SpeelBronProef, EveryPlaySearchesFromTheTop) {
+TEST_F(SpeelBronProef, EveryPlaySearchesFromTheTopAndTheMenuItemPlaysTheSame) {
   speel({klank("b.wav", 6), klank("a.wav", 5)});
   klik(ID_SPEEL_BRON);
-  EXPECT_EQ(lengten(), (Lengten{5, 6, 5, 6}));
-  EXPECT_EQ(vet(), (Vet{{1}, {}, {1}, {}}));
-}
-
-TEST_F(SpeelBronProef, TheMenuItemPlaysTheSame) {
-  laad({klank("b.wav", 6), klank("a.wav", 5)});
   kiesMenu(ID_SPEEL_BRON);
-  EXPECT_EQ(lengten(), (Lengten{5, 6}));
-  EXPECT_EQ(vet(), (Vet{{1}, {}}));
+  EXPECT_EQ(lengten(), (Lengten{5, 6, 5, 6, 5, 6}));
+  EXPECT_EQ(vet(), (Vet{{1}, {}, {1}, {}, {1}, {}}));
   EXPECT_EQ(vetteRijen(), Rijen{});
 }
 

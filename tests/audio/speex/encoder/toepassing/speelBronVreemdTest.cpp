@@ -8,18 +8,9 @@
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/speelBronProef.h"
-#include "tests/audio/speex/encoder/toepassing/vreemdeBestanden.h"
 #include "tests/steun/geluidPaden.h"
 
 namespace {
-
-TEST_F(SpeelBronProef, AnImaAdpcmFileIsPassedOverWithoutAWord) {
-  Paden const paden{klank("a.wav", 5), bestand("b.wav", imaAdpcmWav(8000, 100)), klank("c.wav", 7)};
-  speel(paden);
-  EXPECT_EQ(neemGeluidPaden(), paden);
-  EXPECT_EQ(lengten(), (Lengten{5, 7}));
-  EXPECT_EQ(vet(), (Vet{{0}, {2}}));
-}
 
 // A WAV file with a LIST chunk of this content before its samples.
 std::string metLijst(std::string const& inhoud, std::string const& data) {
@@ -66,7 +57,8 @@ TEST_F(SpeelBronProef, AFileWithAListThatPromisesMoreSamplesThanItHasIsPassedOve
   EXPECT_EQ(vet(), Vet{{2}});
 }
 
-TEST_F(SpeelBronProef, AFileThatIsGoneSinceTheLoadIsPassedOverWithoutAWord) {
+// The toolkit would ask for as much memory as a directory tells it has, and wait for a pipe.
+TEST_F(SpeelBronProef, AFileThatIsGoneSinceTheLoadAndWhatTookItsPlaceIsPassedOverWithoutAWord) {
   Paden const paden{klank("a.wav", 5), klank("b.wav", 6), klank("c.wav", 7)};
   laad(paden);
   std::filesystem::remove(map.pad("b.wav"));
@@ -74,26 +66,21 @@ TEST_F(SpeelBronProef, AFileThatIsGoneSinceTheLoadIsPassedOverWithoutAWord) {
   EXPECT_EQ(neemGeluidPaden(), paden);
   EXPECT_EQ(lengten(), (Lengten{5, 7}));
   EXPECT_EQ(vet(), (Vet{{0}, {2}}));
-  EXPECT_TRUE(nietsGelogd(log()));
-}
 
-// The toolkit would ask for as much memory as the directory tells it has, and wait for the pipe.
-TEST_F(SpeelBronProef, WhatTookTheFilesPlaceIsPassedOverWithoutAWord) {
-  laad({klank("a.wav", 5), klank("b.wav", 6), klank("c.wav", 7)});
+  gehoord.clear();
   std::filesystem::remove(map.pad("a.wav"));
-  std::filesystem::remove(map.pad("b.wav"));
   std::filesystem::create_directory(map.pad("a.wav"));
   ASSERT_EQ(mkfifo(map.pad("b.wav").c_str(), 0600), 0);
   klik(ID_SPEEL_BRON);
   EXPECT_EQ(neemGeluidPaden(), Paden{pad("c.wav")});
   EXPECT_EQ(lengten(), Lengten{7});
   EXPECT_EQ(vet(), Vet{{2}});
-  EXPECT_TRUE(nietsGelogd(log()));
-}
 
-TEST_F(SpeelBronProef, WithAllFilesGoneNothingIsHeard) {
-  laad({klank("a.wav", 5)});
-  std::filesystem::remove(map.pad("a.wav"));
+  // With all of them gone nothing is heard.
+  gehoord.clear();
+  for (char const* naam : {"a.wav", "b.wav", "c.wav"}) {
+    std::filesystem::remove(map.pad(naam));
+  }
   klik(ID_SPEEL_BRON);
   EXPECT_TRUE(gehoord.empty());
   EXPECT_EQ(vetteRijen(), Rijen{});

@@ -75,6 +75,7 @@ namespace {
 class SpeelPcmProef : public SpeelProef {
  protected:
   void SetUp() override {
+    overgaven().clear();
     vervolg() = [this](PCMDesktopConverter const& zelf, Overgave const& overgave) {
       Bytes const telling = laagEerst(aantal, 4);
       std::string kort = overgave.tekst;
