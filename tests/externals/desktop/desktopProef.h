@@ -1,7 +1,8 @@
 // The fixture of the frame's tests: a bare application on the frame, under a name of its own and in
 // a home directory of its own.
 //
-// A test runs in a process of its own (ctest starts one each): the toolkit is started once in it.
+// A test runs in a process of its own (ctest starts one each), or with others of its program, one
+// after the other: it leaves the environment as it found it.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -15,6 +16,7 @@
 #include "externals/desktop/desktopApp.h"
 #include "tests/steun/antwoorden.h"
 #include "tests/steun/logboek.h"
+#include "tests/steun/omgevingsWaarde.h"
 #include "tests/steun/tijdelijkeMap.h"
 
 class wxFrame;
@@ -70,6 +72,7 @@ class DesktopProef : public ::testing::Test {
   bool configBestaat() const;
 
   TijdelijkeMap map;
+  OmgevingBewaard omgeving;
   Antwoorden antwoorden;
   std::vector<LogRegel> log;
 

@@ -1,7 +1,6 @@
 // Sounds that the program waits for: what the device has been given when Play returns.
 #include <algorithm>
 #include <csignal>
-#include <ostream>
 
 #include "tests/externals/desktop/geluidProef.h"
 
@@ -15,53 +14,41 @@ struct Vorm {
   std::size_t frames;
 };
 
-void PrintTo(Vorm const& vorm, std::ostream* doel) {
-  *doel << vorm.naam;
+// Samples of that form.
+Bytes samplesVan(Vorm const& vorm) {
+  return proefGeluid(vorm.frames *
+                     static_cast<std::size_t>(vorm.soort.kanalen * vorm.soort.bits / 8));
 }
 
-class GeluidVormen : public GeluidProef, public ::testing::WithParamInterface<Vorm> {};
-
-TEST_P(GeluidVormen, AreHeardFromTheFirstSampleToTheLastWithSilenceBehind) {
+TEST_F(GeluidSynchroon, EachFormIsHeardWholeOnADeviceOfItsFormWithSilenceBehind) {
   startSpeler();
-  naarBestand("uit");
-  WavSoort const soort = GetParam().soort;
-  Bytes const samples =
-      proefGeluid(GetParam().frames * static_cast<std::size_t>(soort.kanalen * soort.bits / 8));
-  EXPECT_TRUE(maakGeluid(soort, samples)->Play(wxSOUND_SYNC));
-  EXPECT_FALSE(isOpen("uit"));
-  EXPECT_FALSE(wxSound::IsPlaying());
-  verwachtGeheel(gehoord("uit", soort), samples, soort);
-}
-
-TEST_P(GeluidVormen, GoToADeviceOfTheirForm) {
-  startSpeler();
-  naarBestand("uit");
-  WavSoort const soort = GetParam().soort;
-  auto const frameBytes = static_cast<std::size_t>(soort.kanalen * soort.bits / 8);
-  EXPECT_TRUE(maakGeluid(soort, proefGeluid(frameBytes))->Play(wxSOUND_SYNC));
-  ToestelVorm const toestel = laatsteToestel();
-  EXPECT_EQ(toestel.rate, soort.rate);
-  EXPECT_EQ(toestel.kanalen, soort.kanalen);
-  EXPECT_EQ(toestel.bits, soort.bits);
-  // Narrow samples of a WAV file have no sign, wide ones have, with their low byte first.
-  EXPECT_EQ(toestel.metTeken, soort.bits == 16);
-  EXPECT_TRUE(toestel.laagEerst);
-  EXPECT_TRUE(toestel.vast);
-}
-
-// No number of frames here is a whole number of any device's blocks, but one.
-INSTANTIATE_TEST_SUITE_P(
-    , GeluidVormen,
-    ::testing::Values(
-        Vorm{"Mono8000Hz", {8000, 1, 16}, 5001}, Vorm{"Stereo8000Hz", {8000, 2, 16}, 5001},
+  // No number of frames here is a whole number of any device's blocks, but one.
+  for (Vorm const& vorm :
+       {Vorm{"Mono8000Hz", {8000, 1, 16}, 5001}, Vorm{"Stereo8000Hz", {8000, 2, 16}, 5001},
         Vorm{"Narrow8000Hz", {8000, 1, 8}, 5001}, Vorm{"NarrowStereo11025Hz", {11025, 2, 8}, 7003},
         Vorm{"Mono16000Hz", {16000, 1, 16}, 7003}, Vorm{"Stereo22050Hz", {22050, 2, 16}, 7003},
         Vorm{"Mono32000Hz", {32000, 1, 16}, 7003}, Vorm{"Stereo44100Hz", {44100, 2, 16}, 20011},
         Vorm{"Mono48000Hz", {48000, 1, 16}, 20011}, Vorm{"Mono96000Hz", {96000, 1, 16}, 20011},
         Vorm{"Mono192000Hz", {192000, 1, 16}, 20011}, Vorm{"ThreeChannels", {8000, 3, 16}, 5001},
         Vorm{"EightChannels", {8000, 8, 16}, 5001}, Vorm{"EightNarrowChannels", {8000, 8, 8}, 5001},
-        Vorm{"OneFrame", {8000, 1, 16}, 1}, Vorm{"WholeBlocks", {8000, 1, 16}, 4096}),
-    [](auto const& een) { return een.param.naam; });
+        Vorm{"OneFrame", {8000, 1, 16}, 1}, Vorm{"WholeBlocks", {8000, 1, 16}, 4096}}) {
+    SCOPED_TRACE(vorm.naam);
+    naarBestand(vorm.naam);
+    Bytes const samples = samplesVan(vorm);
+    EXPECT_TRUE(maakGeluid(vorm.soort, samples)->Play(wxSOUND_SYNC));
+    EXPECT_FALSE(isOpen(vorm.naam));
+    EXPECT_FALSE(wxSound::IsPlaying());
+    verwachtGeheel(gehoord(vorm.naam, vorm.soort), samples, vorm.soort);
+    ToestelVorm const toestel = laatsteToestel();
+    EXPECT_EQ(toestel.rate, vorm.soort.rate);
+    EXPECT_EQ(toestel.kanalen, vorm.soort.kanalen);
+    EXPECT_EQ(toestel.bits, vorm.soort.bits);
+    // Narrow samples of a WAV file have no sign, wide ones have, with their low byte first.
+    EXPECT_EQ(toestel.metTeken, vorm.soort.bits == 16);
+    EXPECT_TRUE(toestel.laagEerst);
+    EXPECT_TRUE(toestel.vast);
+  }
+}
 
 TEST_F(GeluidSynchroon, TwoSoundsAreHeardInTheirOrderEachToItsEnd) {
   startSpeler();
@@ -139,34 +126,26 @@ TEST_F(GeluidSynchroon, FileWithoutSamplesIsOverAtOnceAndNoDeviceIsOpened) {
   EXPECT_TRUE(gehoord("uit").empty());
 }
 
-class VreemdGeluid : public GeluidProef, public ::testing::WithParamInterface<Vorm> {};
-
-TEST_P(VreemdGeluid, IsRefusedAtOnceWithoutADevice) {
+TEST_F(GeluidSynchroon, StrangeFormIsRefusedAtOnceWithoutADevice) {
   startSpeler();
   naarBestand("uit");
-  WavSoort const soort = GetParam().soort;
-  auto const geluid = maakGeluid(
-      soort,
-      proefGeluid(GetParam().frames * static_cast<std::size_t>(soort.kanalen * soort.bits / 8)));
-  ::testing::internal::CaptureStderr();
-  for (unsigned int const hoe :
-       {unsigned{wxSOUND_SYNC}, unsigned{wxSOUND_ASYNC}, unsigned{wxSOUND_ASYNC | wxSOUND_LOOP}}) {
-    EXPECT_FALSE(geluid->Play(hoe));
-    EXPECT_FALSE(wxSound::IsPlaying());
+  for (Vorm const& vorm :
+       {Vorm{"Of24Bits", {8000, 1, 24}, 1000}, Vorm{"Of32Bits", {8000, 1, 32}, 1000},
+        Vorm{"Of9Channels", {8000, 9, 16}, 1000}, Vorm{"Of257Channels", {8000, 257, 8}, 100},
+        Vorm{"Of0Hz", {0, 1, 16}, 1000}, Vorm{"OfMoreHzThanAnInt", {-1, 1, 16}, 1000}}) {
+    SCOPED_TRACE(vorm.naam);
+    auto const geluid = maakGeluid(vorm.soort, samplesVan(vorm));
+    ::testing::internal::CaptureStderr();
+    for (unsigned int const hoe : {unsigned{wxSOUND_SYNC}, unsigned{wxSOUND_ASYNC},
+                                   unsigned{wxSOUND_ASYNC | wxSOUND_LOOP}}) {
+      EXPECT_FALSE(geluid->Play(hoe));
+      EXPECT_FALSE(wxSound::IsPlaying());
+    }
+    // Nothing about devices: they have no part in it.
+    EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
+    EXPECT_TRUE(gehoord("uit").empty());
   }
-  // Nothing about devices: they have no part in it.
-  EXPECT_EQ(::testing::internal::GetCapturedStderr(), "");
-  EXPECT_TRUE(gehoord("uit").empty());
 }
-
-INSTANTIATE_TEST_SUITE_P(, VreemdGeluid,
-                         ::testing::Values(Vorm{"Of24Bits", {8000, 1, 24}, 1000},
-                                           Vorm{"Of32Bits", {8000, 1, 32}, 1000},
-                                           Vorm{"Of9Channels", {8000, 9, 16}, 1000},
-                                           Vorm{"Of257Channels", {8000, 257, 8}, 100},
-                                           Vorm{"Of0Hz", {0, 1, 16}, 1000},
-                                           Vorm{"OfMoreHzThanAnInt", {-1, 1, 16}, 1000}),
-                         [](auto const& een) { return een.param.naam; });
 
 TEST_F(GeluidSynchroon, PartOfAFrameAtTheEndIsLeftOut) {
   startSpeler();

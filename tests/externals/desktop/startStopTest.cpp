@@ -11,6 +11,7 @@
 #include <thread>
 
 #include "tests/externals/desktop/desktopProef.h"
+#include "tests/steun/omgeving.h"
 
 namespace {
 
@@ -58,8 +59,7 @@ TEST_F(StartStop, FirstStartWritesTheLanguageAndTheStatistics) {
 
 TEST_F(StartStop, StatisticsAreTheLocalTimesOfStartAndStop) {
   // A zone far from that of the machine shows a time that is not local.
-  setenv("TZ", "PROEF-9:30", 1);
-  tzset();
+  TijdelijkeTijdzone const zone("PROEF-9:30");
   std::time_t const voorStart = std::time(nullptr);
   start();
   std::time_t const naStart = std::time(nullptr);
@@ -75,93 +75,65 @@ TEST_F(StartStop, StatisticsAreTheLocalTimesOfStartAndStop) {
       << sleutels.at("/Statistiek/StopTijd").utf8_str();
 }
 
-TEST_F(StartStop, StartIsInTheConfigurationBeforeAnyWindowExists) {
+TEST_F(StartStop, RunningApplicationHasItsNamesAndItsStartInAConfigurationOfItsOwn) {
   start();
   app().geefAppConfig()->SetPath("/Statistiek");
+  // Before any window exists.
   EXPECT_TRUE(app().geefAppConfig()->HasEntry("StartDatum"));
   EXPECT_TRUE(app().geefAppConfig()->HasEntry("StartTijd"));
   EXPECT_FALSE(app().geefAppConfig()->HasEntry("StopDatum"));
   EXPECT_FALSE(app().geefAppConfig()->HasEntry("OS"));
-}
-
-TEST_F(StartStop, NothingReachesTheDiskBeforeTheEnd) {
-  start();
-  EXPECT_FALSE(configBestaat());
-  bool opSchijf = true;
-  app().bijEinde = [this, &opSchijf] { opSchijf = configBestaat(); };
-  stop();
-  EXPECT_FALSE(opSchijf);
-  EXPECT_TRUE(configBestaat());
-}
-
-TEST_F(StartStop, ApplicationAboveTheFrameCanStillStoreInItsDestructor) {
-  start();
-  app().bijEinde = [config = app().geefAppConfig()] {
-    config->SetPath("/Proef");
-    config->Write("laatste", 7);
-  };
-  auto const sleutels = stop();
-  EXPECT_EQ(sleutels.at("/Proef/laatste"), "7");
-  EXPECT_EQ(sleutels.count("/Statistiek/StopTijd"), 1U);
-}
-
-TEST_F(StartStop, LockIsHeldFromStartToEndUnderNameAndUser) {
-  EXPECT_FALSE(std::filesystem::exists(slotPad()));
-  start();
-  struct stat staat {};
-  ASSERT_EQ(stat(slotPad().c_str(), &staat), 0);
-  EXPECT_EQ(staat.st_mode & 0777U, 0600U);
-  bool nogVast = false;
-  app().bijEinde = [&nogVast] { nogVast = std::filesystem::exists(slotPad()); };
-  stop();
-  EXPECT_TRUE(nogVast);
-  EXPECT_FALSE(std::filesystem::exists(slotPad()));
-}
-
-TEST_F(StartStop, ConfigurationIsNeverTheToolkitsOwn) {
-  start();
   EXPECT_EQ(wxConfigBase::Get(false), nullptr);
   // Creation on demand is off, so asking does not make one either.
   EXPECT_EQ(wxConfigBase::Get(true), nullptr);
-  EXPECT_NE(app().geefAppConfig(), nullptr);
-}
-
-TEST_F(StartStop, NamesOfApplicationAndVendorAreSet) {
-  start();
   EXPECT_EQ(app().GetAppName(), proefNaam());
   EXPECT_EQ(app().GetAppDisplayName(), proefNaam());
   EXPECT_EQ(app().GetVendorName(), "Velmora");
   EXPECT_EQ(app().GetVendorDisplayName(), "Velmora");
-}
-
-TEST_F(StartStop, NameOfTheOperatingSystemIsThatOfThePlatform) {
-  start();
   EXPECT_EQ(app().geefOSNaam(), wxPlatformInfo().GetOperatingSystemDescription());
   EXPECT_FALSE(app().geefOSNaam().empty());
 }
 
-TEST_F(StartStop, UnknownKeysAndOldStatisticsSurviveOrAreReplaced) {
+// The lock is held from start to end under name and user.
+TEST_F(StartStop, ApplicationAboveTheFrameCanStillStoreInItsDestructorBeforeDiskAndLock) {
+  EXPECT_FALSE(std::filesystem::exists(slotPad()));
+  start();
+  EXPECT_FALSE(configBestaat());
+  struct stat staat {};
+  ASSERT_EQ(stat(slotPad().c_str(), &staat), 0);
+  EXPECT_EQ(staat.st_mode & 0777U, 0600U);
+  bool opSchijf = true;
+  bool nogVast = false;
+  app().bijEinde = [&, config = app().geefAppConfig()] {
+    opSchijf = configBestaat();
+    nogVast = std::filesystem::exists(slotPad());
+    config->SetPath("/Proef");
+    config->Write("laatste", 7);
+  };
+  auto const sleutels = stop();
+  EXPECT_FALSE(opSchijf);
+  EXPECT_TRUE(configBestaat());
+  EXPECT_TRUE(nogVast);
+  EXPECT_FALSE(std::filesystem::exists(slotPad()));
+  EXPECT_EQ(sleutels.at("/Proef/laatste"), "7");
+  EXPECT_EQ(sleutels.count("/Statistiek/StopTijd"), 1U);
+}
+
+TEST_F(StartStop, UnknownKeysSurviveWithTheirDollarSignsAndOldStatisticsAreReplaced) {
+  setenv("PROEFVARIABELE", "vervangen", 1);
+  // Lines that are no entries are read over without an assertion.
   start(
-      "[Eigen/Groep]\nsleutel=waarde\n[Statistiek]\nStartDatum=1999-12-31\n"
-      "StopDatum=1999-12-31\nextra=12\n");
+      "=\n= 3\n[]\n[Eigen\nlos\n[Eigen/Groep]\n=\nsleutel=waarde\n"
+      "[Proef]\nmap=/klank/$PROEFVARIABELE/${HOME}\n"
+      "[Statistiek]\nStartDatum=1999-12-31\nStopDatum=1999-12-31\nextra=12\n");
+  app().geefAppConfig()->SetPath("/Proef");
+  EXPECT_EQ(app().geefAppConfig()->Read("map", ""), "/klank/$PROEFVARIABELE/${HOME}");
   auto const sleutels = stop();
   EXPECT_EQ(sleutels.at("/Eigen/Groep/sleutel"), "waarde");
+  EXPECT_EQ(sleutels.at("/Proef/map"), "/klank/$PROEFVARIABELE/${HOME}");
   EXPECT_EQ(sleutels.at("/Statistiek/extra"), "12");
   EXPECT_NE(sleutels.at("/Statistiek/StartDatum"), "1999-12-31");
   EXPECT_NE(sleutels.at("/Statistiek/StopDatum"), "1999-12-31");
-}
-
-TEST_F(StartStop, TextWithADollarSignComesBackAsItWasWritten) {
-  setenv("PROEFVARIABELE", "vervangen", 1);
-  start("[Proef]\nmap=/klank/$PROEFVARIABELE/${HOME}\n");
-  app().geefAppConfig()->SetPath("/Proef");
-  EXPECT_EQ(app().geefAppConfig()->Read("map", ""), "/klank/$PROEFVARIABELE/${HOME}");
-  EXPECT_EQ(stop().at("/Proef/map"), "/klank/$PROEFVARIABELE/${HOME}");
-}
-
-TEST_F(StartStop, LinesThatAreNoEntriesAreReadOverWithoutAnAssertion) {
-  start("=\n= 3\n[]\n[Eigen\nlos\n[Eigen]\n=\nsleutel=waarde\n");
-  EXPECT_EQ(stop().at("/Eigen/sleutel"), "waarde");
 }
 
 }  // namespace

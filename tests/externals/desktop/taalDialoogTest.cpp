@@ -10,15 +10,16 @@ using TaalDialoogOpening = TaalDialoogProef;
 std::vector<wxString> const alleNamen{"Deutsch",  "English",  "Espagnol",
                                       "Francais", "Italiano", "Nederlands"};
 
+void verwachtDeel(wxSizerItem const& deel, int verhouding, int vlaggen, int rand) {
+  EXPECT_EQ(deel.GetProportion(), verhouding);
+  EXPECT_EQ(deel.GetFlag(), vlaggen);
+  EXPECT_EQ(deel.GetBorder(), rand);
+}
+
 TEST_F(TaalDialoogOpening, RowsAreTheSixLanguagesSortedByTheirText) {
   startVenster();
   maak();
   EXPECT_EQ(rijen(), alleNamen);
-}
-
-TEST_F(TaalDialoogOpening, ListIsOfOneSelectionAndSorted) {
-  startVenster();
-  maak();
   ASSERT_NE(lijst(), nullptr);
   EXPECT_EQ(lijst()->GetId(), 0);
   constexpr long soorten = wxLB_SINGLE | wxLB_MULTIPLE | wxLB_EXTENDED | wxLB_SORT | wxLB_OWNERDRAW;
@@ -26,23 +27,17 @@ TEST_F(TaalDialoogOpening, ListIsOfOneSelectionAndSorted) {
   EXPECT_EQ(wxLB_SINGLE | wxLB_SORT, 48);
 }
 
+// Not the language in force.
 TEST_F(TaalDialoogOpening, FirstRowIsSelectedAndTheLanguageIsGerman) {
-  startVenster();
+  startInTaal(wxString::Format("%d", static_cast<int>(wxLANGUAGE_DUTCH)));
+  venster = maakVenster();
   maak();
   EXPECT_EQ(lijst()->GetSelection(), 0);
   EXPECT_EQ(lijst()->GetStringSelection(), "Deutsch");
   EXPECT_EQ(dialoog->geefTaal(), wxLANGUAGE_GERMAN);
 }
 
-TEST_F(TaalDialoogOpening, LanguageInForceIsNotLookedAt) {
-  startInTaal(wxString::Format("%d", static_cast<int>(wxLANGUAGE_DUTCH)));
-  venster = maakVenster();
-  maak();
-  EXPECT_EQ(lijst()->GetSelection(), 0);
-  EXPECT_EQ(dialoog->geefTaal(), wxLANGUAGE_GERMAN);
-}
-
-TEST_F(TaalDialoogOpening, ButtonsAreOkAndCancelWithTheToolkitsLabels) {
+TEST_F(TaalDialoogOpening, ListStandsAboveTheRowOfButtonsAndTheDialogFitsThem) {
   startVenster();
   maak();
   ASSERT_NE(knop(wxID_OK), nullptr);
@@ -50,40 +45,9 @@ TEST_F(TaalDialoogOpening, ButtonsAreOkAndCancelWithTheToolkitsLabels) {
   EXPECT_EQ(knop(wxID_OK)->GetLabelText(), "OK");
   EXPECT_EQ(knop(wxID_CANCEL)->GetLabelText(), "Cancel");
   EXPECT_EQ(dialoog->GetDefaultItem(), knop(wxID_OK));
-}
-
-TEST_F(TaalDialoogOpening, ChildrenAreTheListAndTheButtonsInThisOrderAlone) {
-  startVenster();
-  maak();
-  std::vector<wxWindow*> kinderen;
-  for (wxWindow* const kind : dialoog->GetChildren()) {
-    kinderen.push_back(kind);
-  }
-  EXPECT_EQ(kinderen, (std::vector<wxWindow*>{lijst(), knop(wxID_OK), knop(wxID_CANCEL)}));
-}
-
-TEST_F(TaalDialoogOpening, ArgumentsGoToTheDialog) {
-  startVenster();
-  constexpr int id = 4711;
-  constexpr long stijl = wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER;
-  TaalDialoog const eigen(venster, id, "Titel", wxPoint(123, 145), wxDefaultSize, stijl);
-  EXPECT_EQ(eigen.GetParent(), venster);
-  EXPECT_EQ(eigen.GetId(), id);
-  EXPECT_EQ(eigen.GetTitle(), "Titel");
-  EXPECT_EQ(eigen.GetPosition(), wxPoint(123, 145));
-  // The toolkit gives every dialog its own way with the tab key.
-  EXPECT_EQ(eigen.GetWindowStyle() & ~static_cast<long>(wxTAB_TRAVERSAL), stijl);
-}
-
-void verwachtDeel(wxSizerItem const& deel, int verhouding, int vlaggen, int rand) {
-  EXPECT_EQ(deel.GetProportion(), verhouding);
-  EXPECT_EQ(deel.GetFlag(), vlaggen);
-  EXPECT_EQ(deel.GetBorder(), rand);
-}
-
-TEST_F(TaalDialoogOpening, ListStandsAboveTheRowOfButtons) {
-  startVenster();
-  maak();
+  wxWindowList const& kinderen = dialoog->GetChildren();
+  EXPECT_EQ(std::vector<wxWindow*>(kinderen.begin(), kinderen.end()),
+            (std::vector<wxWindow*>{lijst(), knop(wxID_OK), knop(wxID_CANCEL)}));
   auto* const alles = dynamic_cast<wxBoxSizer*>(dialoog->GetSizer());
   ASSERT_NE(alles, nullptr);
   EXPECT_EQ(alles->GetOrientation(), wxVERTICAL);
@@ -99,15 +63,23 @@ TEST_F(TaalDialoogOpening, ListStandsAboveTheRowOfButtons) {
   EXPECT_EQ(knoppen->GetItem(std::size_t{1})->GetWindow(), knop(wxID_CANCEL));
   verwachtDeel(*knoppen->GetItem(std::size_t{0}), 1, wxALL, 20);
   verwachtDeel(*knoppen->GetItem(std::size_t{1}), 1, wxALL, 20);
-}
-
-TEST_F(TaalDialoogOpening, DialogFitsItsContent) {
-  startVenster();
-  maak();
   EXPECT_EQ(dialoog->GetClientSize(), dialoog->GetSizer()->GetMinSize());
   dialoog->Show();
   rust();
   EXPECT_EQ(dialoog->GetClientSize(), dialoog->GetSizer()->GetMinSize());
+}
+
+TEST_F(TaalDialoogOpening, ArgumentsGoToTheDialog) {
+  startVenster();
+  constexpr int id = 4711;
+  constexpr long stijl = wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER;
+  TaalDialoog const eigen(venster, id, "Titel", wxPoint(123, 145), wxDefaultSize, stijl);
+  EXPECT_EQ(eigen.GetParent(), venster);
+  EXPECT_EQ(eigen.GetId(), id);
+  EXPECT_EQ(eigen.GetTitle(), "Titel");
+  EXPECT_EQ(eigen.GetPosition(), wxPoint(123, 145));
+  // The toolkit gives every dialog its own way with the tab key.
+  EXPECT_EQ(eigen.GetWindowStyle() & ~static_cast<long>(wxTAB_TRAVERSAL), stijl);
 }
 
 }  // namespace
