@@ -1,4 +1,4 @@
-// Which controls are usable when: the rules alone, and the window that follows them.
+// Which controls are usable when: the window that follows the rules.
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
@@ -8,41 +8,11 @@
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
 
-#include <array>
-
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/bedieningsRegels.h"
 #include "tests/audio/speex/encoder/toepassing/gereedProef.h"
 
 namespace {
-
-struct Regel {
-  VensterToestand toestand;  // loaded, encoded, class missing
-  Bediening mag;             // source, embed, encode, result
-};
-
-constexpr std::array<Regel, 8> regels{{
-    {{false, false, false}, {false, false, false, false}},
-    {{false, false, true}, {false, false, false, false}},
-    {{false, true, false}, {false, false, false, true}},
-    {{false, true, true}, {false, false, false, true}},
-    {{true, false, false}, {true, true, true, false}},
-    {{true, false, true}, {true, false, false, false}},
-    {{true, true, false}, {true, true, false, true}},
-    {{true, true, true}, {true, false, false, true}},
-}};
-
-TEST(BedieningsRegels, FollowFromTheThreeFlagsInAllEightStates) {
-  for (Regel const& regel : regels) {
-    Bediening const mag = bepaalBediening(regel.toestand);
-    SCOPED_TRACE(::testing::Message() << regel.toestand.geladen << regel.toestand.gecodeerd
-                                      << regel.toestand.klasseOntbreekt);
-    EXPECT_EQ(mag.bron, regel.mag.bron);
-    EXPECT_EQ(mag.inbedden, regel.mag.inbedden);
-    EXPECT_EQ(mag.coderen, regel.mag.coderen);
-    EXPECT_EQ(mag.resultaat, regel.mag.resultaat);
-  }
-}
 
 class BedieningProef : public GereedProef {
  protected:
