@@ -116,7 +116,7 @@ void SpeelProef::verwachtGespeeld(int aantal, int rate, std::vector<int> const& 
 }
 
 SpeexFragment korteBel(std::string const& naam) {
-  return {naam, golf(160), "0.02"};
+  return {naam, golf(160)};
 }
 
 GeluidBytes geluidBytes(std::vector<int> const& samples) {

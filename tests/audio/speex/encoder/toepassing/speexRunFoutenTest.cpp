@@ -14,11 +14,15 @@
 
 namespace {
 
-std::string const eersteBegin = "/******* Start encoding file number 1 \t\t*******/\n";
-std::string const tweedeBegin = "/******* Start encoding file number 2 \t\t*******/\n";
+SpeexDoel const doel{eersteInstelling()};
 
+// The text of a run that ended at its first file, and at its second.
+std::string totEerste() {
+  return runKop(drieFragmenten(), doel) + startRegel(1);
+}
 std::string totTweede() {
-  return kopVanDrie + blokken({drieFragmenten().front()}, {eersteInstelling(), ""}) + tweedeBegin;
+  std::string const tekst = runTekst(drieFragmenten(), doel);
+  return tekst.substr(0, tekst.find(startRegel(2))) + startRegel(2);
 }
 
 class SpeexFoutProef : public SpeexRunProef {
@@ -28,8 +32,8 @@ class SpeexFoutProef : public SpeexRunProef {
     laadFragmenten(drieFragmenten());
   }
   // Chooses a band that the files do not have, and encodes.
-  void codeerVerkeerd() {
-    kies(keuze(ID_FORMAAT), 1);
+  void codeerVerkeerd(int band = 1) {
+    kies(keuze(ID_FORMAAT), band);
     klik(ID_CODEER);
   }
   // What a failed run shows: its two lines in the log, these behind any former ones, no message,
@@ -47,6 +51,7 @@ class SpeexFoutProef : public SpeexRunProef {
   }
   // The same run with nothing to be logged; the one before it was a good one.
   void verwachtStilMislukt() {
+    antwoorden.berichten.clear();
     codeer();
     codeerVerkeerd();
     EXPECT_TRUE(nietsGelogd(log()));
@@ -65,49 +70,19 @@ TEST_F(SpeexFoutProef, ABandThatDoesNotFitTheFilesStopsTheRunAtTheFirst) {
   EXPECT_FALSE(isGecodeerd());
   EXPECT_FALSE(menuItem(wxID_SAVE)->IsEnabled());
   EXPECT_TRUE(knop(ID_CODEER)->IsEnabled());
-  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), kopVanDrie + eersteBegin));
-}
-
-TEST_F(SpeexFoutProef, TheHighestBandDoesSoToo) {
-  kies(keuze(ID_FORMAAT), 2);
-  klik(ID_CODEER);
-  verwachtMislukt("bel.wav", 8000, 32000);
-}
-
-TEST_F(SpeexFoutProef, TheProgressGoesWithTheRun) {
-  codeerVerkeerd();
+  // The progress went with the run.
   EXPECT_TRUE(venster->IsEnabled());
   EXPECT_EQ(wxTopLevelWindows.GetCount(), 1U);
+  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), totEerste()));
 }
 
-TEST_F(SpeexFoutProef, AVanishedSecondFileLeavesTheFirstAndTheStartOfTheSecond) {
-  ASSERT_TRUE(wxRemoveFile(pad("tik.wav")));
-  klik(ID_CODEER);
-  verwachtMislukt("tik.wav", 0);
-  EXPECT_EQ(log().size(), 2U);
-  EXPECT_TRUE(antwoorden.berichten.empty());
-  EXPECT_FALSE(isGecodeerd());
-  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), totTweede()));
-}
-
-TEST_F(SpeexFoutProef, ASecondFileOfAnotherRateLeavesTheFirstAndTheStartOfTheSecond) {
-  wav("tik.wav", proefSamples(320), {44100});
-  klik(ID_CODEER);
-  verwachtMislukt("tik.wav", 44100);
-  EXPECT_EQ(log().size(), 2U);
-  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), totTweede()));
-}
-
-TEST_F(SpeexFoutProef, AVanishedFirstFileOfAnUnusableNameIsNamedAsItIs) {
+TEST_F(SpeexFoutProef, AVanishedFileOfAnUnusableNameIsNamedAsItIsButForTwoPerCentSigns) {
   laad({wav("%s%n.wav"), wav("100%.wav")});
   ASSERT_TRUE(wxRemoveFile(pad("%s%n.wav")));
   klik(ID_CODEER);
   // The names are sorted by their signs: "1" stands behind "%".
   verwachtMislukt("%s%n.wav", 0);
   EXPECT_EQ(log().size(), 2U);
-}
-
-TEST_F(SpeexFoutProef, TwoPerCentSignsOfANameShowAsOne) {
   laad({wav("a%%b.wav")});
   ASSERT_TRUE(wxRemoveFile(pad("a%%b.wav")));
   klik(ID_CODEER);
@@ -137,49 +112,38 @@ TEST_F(SpeexFoutProef, AFailedRunKeepsASavedResultSaved) {
   EXPECT_FALSE(leeft());
 }
 
-TEST_F(SpeexFoutProef, TheRunAfterAFailedOneHasAFreshEncoderAndAMeanOfItsOwn) {
-  // The failed run gets through its first file, so that its encoder remembers that.
+TEST_F(SpeexFoutProef, TheRunAfterFailedOnesHasAFreshEncoderAndAMeanOfItsOwn) {
+  // The first run gets through its first file, so that its encoder remembers that.
   wav("tik.wav", {1}, {16000});
   klik(ID_CODEER);
   verwachtMislukt("tik.wav", 16000);
+  codeerVerkeerd();
+  verwachtMislukt("bel.wav", 8000, 16000);
+  codeerVerkeerd(2);
+  verwachtMislukt("bel.wav", 8000, 32000);
+  EXPECT_EQ(log().size(), 6U);
+  kies(keuze(ID_FORMAAT), 0);
   wav("tik.wav", proefSamples(161));
-  EXPECT_TRUE(
-      zelfdeTekst(codeerTekst(), kopVanDrie + blokken(drieFragmenten(), {eersteInstelling(), ""})));
+  verwachtRun(drieFragmenten(), doel);
   EXPECT_TRUE(isGecodeerd());
   EXPECT_EQ(status(), "Audio encoded in Speex embedded format");
-  EXPECT_EQ(log().size(), 2U);
+  EXPECT_EQ(log().size(), 6U);
   verwachtMelding(36);
 }
 
-TEST_F(SpeexFoutProef, WithTheLogOffTheStatusAloneTellsOfIt) {
+TEST_F(SpeexFoutProef, WithTheLogOffOrErrorsBelowItsLevelTheStatusAloneTellsOfIt) {
   {
     wxLogNull const stil;
     verwachtStilMislukt();
   }
-  codeerVerkeerd();
-  verwachtMislukt("bel.wav", 8000, 16000);
-  EXPECT_EQ(log().size(), 2U);
-}
-
-TEST_F(SpeexFoutProef, WithErrorsBelowTheLevelOfTheLogTheStatusAloneTellsOfIt) {
   wxLogLevel const niveau = wxLog::GetLogLevel();
   wxLog::SetLogLevel(wxLOG_FatalError);
+  kies(keuze(ID_FORMAAT), 0);
   verwachtStilMislukt();
   wxLog::SetLogLevel(niveau);
   codeerVerkeerd();
   verwachtMislukt("bel.wav", 8000, 16000);
   EXPECT_EQ(log().size(), 2U);
-}
-
-TEST_F(SpeexFoutProef, SeveralFailedRunsInARowEachTellOfThemselves) {
-  codeerVerkeerd();
-  kies(keuze(ID_FORMAAT), 2);
-  klik(ID_CODEER);
-  verwachtMislukt("bel.wav", 8000, 32000);
-  EXPECT_EQ(log().size(), 4U);
-  kies(keuze(ID_FORMAAT), 0);
-  EXPECT_TRUE(
-      zelfdeTekst(codeerTekst(), kopVanDrie + blokken(drieFragmenten(), {eersteInstelling(), ""})));
 }
 
 }  // namespace

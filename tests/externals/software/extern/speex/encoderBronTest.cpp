@@ -22,11 +22,13 @@ class EncoderBron : public EncoderProef {
     Frames const frames = LosseEncoder(Instelling()).bestand(waarden, 400);
     ASSERT_EQ(frames.size(), 3U);
     EXPECT_TRUE(zelfdeTekst(inC(Instelling(), wav("toon.wav", waarden, 8000, kanalen)),
-                            bestandRegels("toon.wav", "8000", "400", "0.05") +
-                                InstelRegels().tekst() + omvangRegels("117", "29", "38") +
-                                "const signed char toon[] = \n{\n" + uitlegRegel +
-                                headerRegel("0x40", "0x1f", "0x90", "0x1") + frameRegels(frames) +
-                                slotRegels("toon.wav")));
+                            fragmentTekst("toon", 400, frames)));
+  }
+  // The text of toon.wav as it stands there, of these samples.
+  void verwachtSamples(std::vector<int> const& samples) {
+    EXPECT_TRUE(zelfdeTekst(
+        inC(Instelling(), map.pad("toon.wav")),
+        fragmentTekst("toon", samples.size(), LosseEncoder(Instelling()).bestand(samples))));
   }
 };
 
@@ -75,12 +77,7 @@ TEST_F(EncoderBron, ImaAdpcmIsEncodedInWholeBlocksAndEndsInSamplesOfTheFrameBefo
   // 16 blocks of 505 samples.
   ASSERT_EQ(info.frames, 8080);
   ASSERT_NE(info.frames % 160, 0);
-  // 51 frames of 38 bytes.
-  EXPECT_TRUE(
-      zelfdeTekst(inC(Instelling(), map.pad("toon.wav"), false),
-                  toonInC(bestandRegels("toon.wav", "8000", "8080", "1.01"), {},
-                          omvangRegels("1989", "24", "38"), "",
-                          LosseEncoder(Instelling()).bestand({gelezen.begin(), gelezen.end()}))));
+  verwachtSamples({gelezen.begin(), gelezen.end()});
 }
 
 TEST_F(EncoderBron, ChunkBehindTheSamplesIsNoSoundAndLeavesTheTailAsItIs) {
@@ -90,39 +87,27 @@ TEST_F(EncoderBron, ChunkBehindTheSamplesIsNoSoundAndLeavesTheTailAsItIs) {
   Bytes const grootte = laagEerst(wavTekst.size() + lijst.size() - 8, 4);
   std::copy(grootte.begin(), grootte.end(), wavTekst.begin() + 4);
   maakBestand(map.pad("toon.wav"), wavTekst + lijst);
-  EXPECT_TRUE(zelfdeTekst(
-      inC(Instelling(), map.pad("toon.wav"), false),
-      toonInC(bestandRegels("toon.wav", "8000", "161", "0.02"), {}, omvangRegels("78", "48", "38"),
-              "", LosseEncoder(Instelling()).bestand(samples))));
+  verwachtSamples(samples);
 }
 
 TEST_F(EncoderBron, HeaderThatPromisesMoreThanThereIsCountsWhatThereIs) {
-  std::vector<int> const samples = golf(200);
   std::string const heel = leesTekst(wav("heel.wav", golf(1000)));
   maakBestand(map.pad("toon.wav"), heel.substr(0, 44 + 400));
   // What the block holds beyond them is the end of the first.
-  EXPECT_TRUE(zelfdeTekst(
-      inC(Instelling(), map.pad("toon.wav"), false),
-      toonInC(bestandRegels("toon.wav", "8000", "200", "0.03"), {}, omvangRegels("78", "39", "38"),
-              "", LosseEncoder(Instelling()).bestand(samples))));
+  verwachtSamples(golf(200));
 }
 
 class EncoderNamen : public EncoderProef {
  protected:
   // The texts in C and C++ of a file of that name, for an array called `naam`.
   void verwacht(std::string const& bestand, std::string const& naam) {
-    std::vector<int> const samples = golf(160);
-    std::string const pad = wav(bestand, samples);
-    std::string const kop = bestandRegels(bestand, "8000", "160", "0.02") + InstelRegels().tekst() +
-                            omvangRegels("39", "24", "38");
-    std::string const einde = "[] = \n{\n" +
-                              frameRegels(LosseEncoder(Instelling()).bestand(samples)) +
-                              slotRegels(bestand);
-    EXPECT_TRUE(
-        zelfdeTekst(inC(Instelling(), pad, false), kop + "const signed char " + naam + einde));
+    std::string const pad = wav(bestand, golf(160));
+    Frames const frames = LosseEncoder(Instelling()).bestand(golf(160));
+    std::string const kop = kopRegels(bestand, 160, Instelling(), frames) + "const signed char ";
+    std::string const einde = naam + "[] = \n{\n" + frameRegels(frames) + slotRegels(bestand);
+    EXPECT_TRUE(zelfdeTekst(inC(Instelling(), pad, false), kop + einde));
     SpeexDesktopEncoder cpp(Instelling().config(), SpeexEncoderOpties("K"));
-    EXPECT_TRUE(zelfdeTekst(zonderMoment(codeer(cpp, pad, false).tekst),
-                            kop + "const signed char K::" + naam + einde));
+    EXPECT_TRUE(zelfdeTekst(zonderMoment(codeer(cpp, pad, false).tekst), kop + "K::" + einde));
   }
 };
 
@@ -140,10 +125,9 @@ TEST_F(EncoderNamen, StandInTheTextAsTheyAre) {
 
 TEST_F(EncoderNamen, HaveNoPath) {
   std::filesystem::create_directory(map.pad("a.b"));
-  EXPECT_TRUE(zelfdeTekst(
-      inC(Instelling(), wav("a.b/toon.wav", golf(160)), false),
-      toonInC(bestandRegels("toon.wav", "8000", "160", "0.02"), {}, omvangRegels("39", "24", "38"),
-              "", LosseEncoder(Instelling()).bestand(golf(160)))));
+  EXPECT_TRUE(
+      zelfdeTekst(inC(Instelling(), wav("a.b/toon.wav", golf(160))),
+                  fragmentTekst("toon", 160, LosseEncoder(Instelling()).bestand(golf(160)))));
 }
 
 TEST_F(EncoderBron, TextDoesNotDependOnTheLocale) {

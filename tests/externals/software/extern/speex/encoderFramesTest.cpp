@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <set>
 #include <string>
 #include <tuple>
 
@@ -75,13 +76,14 @@ INSTANTIATE_TEST_SUITE_P(Alle, EncoderMatrix,
 TEST_F(EncoderFrames, ComplexityReachesTheLibrary) {
   Instelling instelling;
   std::vector<int> const samples = spraak(1600, 8000);
-  instelling.complexiteit = 1;
-  Frames const eenvoudig = gevonden(instelling, samples);
-  EXPECT_EQ(eenvoudig, LosseEncoder(instelling).bestand(samples));
-  instelling.complexiteit = 10;
-  Frames const grondig = gevonden(instelling, samples);
-  EXPECT_EQ(grondig, LosseEncoder(instelling).bestand(samples));
-  EXPECT_NE(eenvoudig, grondig);
+  std::set<Frames> verschillend;
+  for (unsigned int const complexiteit : {1U, 10U}) {
+    instelling.complexiteit = complexiteit;
+    Frames const verwacht = LosseEncoder(instelling).bestand(samples);
+    EXPECT_EQ(gevonden(instelling, samples), verwacht) << complexiteit;
+    verschillend.insert(verwacht);
+  }
+  EXPECT_EQ(verschillend.size(), 2U);
 }
 
 TEST_F(EncoderFrames, MaxBitrateCountsForTheVariableBitrateAlone) {
@@ -140,8 +142,7 @@ TEST_F(EncoderFrames, ExactlyOneFrameOfSamplesGivesOneFrame) {
     Instelling instelling;
     instelling.band = band;
     std::vector<int> const samples = golf(instelling.frame());
-    Frames const verwacht{LosseEncoder(instelling).encode(samples)};
-    EXPECT_EQ(gevonden(instelling, samples), verwacht) << band;
+    EXPECT_EQ(gevonden(instelling, samples), Frames{LosseEncoder(instelling).encode(samples)});
   }
 }
 
@@ -185,34 +186,28 @@ TEST_F(EncoderFrames, FileShorterThanAFrameEndsInSilence) {
     std::vector<int> samples = golf(lengte);
     Frames const gevondenFrames = gevonden(Instelling(), samples);
     samples.resize(160, 0);
-    Frames const verwacht{LosseEncoder(Instelling()).encode(samples)};
-    EXPECT_EQ(gevondenFrames, verwacht) << lengte;
+    EXPECT_EQ(gevondenFrames, Frames{LosseEncoder(Instelling()).encode(samples)}) << lengte;
   }
 }
 
 TEST_F(EncoderFrames, SecondShortFileEndsInSilenceToo) {
-  Instelling const instelling;
-  std::vector<int> const lang = golf(320);
   std::vector<int> kort{20000, -20000, 12345};
-  SpeexDesktopEncoder encoder(instelling.config(), SpeexEncoderOpties());
-  codeer(encoder, wav("lang.wav", lang, instelling.rate()));
-  Frames const gevolgd = framesIn(codeer(encoder, wav("kort.wav", kort, instelling.rate())).tekst);
-  LosseEncoder los(instelling);
-  los.bestand(lang);
+  SpeexDesktopEncoder encoder(Instelling().config(), SpeexEncoderOpties());
+  codeer(encoder, wav("lang.wav", golf(320)));
+  Frames const gevolgd = framesIn(codeer(encoder, wav("kort.wav", kort)).tekst);
+  LosseEncoder los{Instelling()};
+  los.bestand(golf(320));
   kort.resize(160, 0);
-  Frames const verwacht{los.encode(kort)};
-  EXPECT_EQ(gevolgd, verwacht);
+  EXPECT_EQ(gevolgd, Frames{los.encode(kort)});
 }
 
 TEST_F(EncoderFrames, FrameNumbersStartAgainInEachFile) {
-  Instelling const instelling;
-  SpeexDesktopEncoder encoder(instelling.config(), SpeexEncoderOpties());
-  LosseEncoder los(instelling);
-  std::string const pad = wav("toon.wav", golf(320), instelling.rate());
+  SpeexDesktopEncoder encoder(Instelling().config(), SpeexEncoderOpties());
+  LosseEncoder los{Instelling()};
+  std::string const pad = wav("toon.wav", golf(320));
   for (int keer = 0; keer < 2; ++keer) {
-    EXPECT_TRUE(zelfdeTekst(zonderMoment(codeer(encoder, pad, false).tekst),
-                            toonInC(bestandRegels("toon.wav", "8000", "320", "0.04"), {},
-                                    omvangRegels("78", "24", "38"), "", los.bestand(golf(320)))));
+    EXPECT_TRUE(zelfdeTekst(zonderMoment(codeer(encoder, pad).tekst),
+                            fragmentTekst("toon", 320, los.bestand(golf(320)))));
   }
 }
 

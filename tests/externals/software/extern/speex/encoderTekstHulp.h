@@ -1,4 +1,5 @@
-// The lines of a Speex fragment's text as literals, to put an expected text together from.
+// The text of Speex fragments and of whole runs, put together by hand around frames that come
+// straight out of the Speex library.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -10,39 +11,47 @@
 #include "tests/externals/software/extern/speex/speexHulp.h"
 #include "tests/steun/tijdelijkeMap.h"
 
-// The lines about the file, with momentRegel among them.
-std::string bestandRegels(std::string const& bestand, std::string const& rate,
-                          std::string const& frames, std::string const& duur);
+// A WAV file of a run.
+struct SpeexFragment {
+  std::string naam;  // without ".wav"
+  std::vector<int> samples;
+};
+using SpeexFragmenten = std::vector<SpeexFragment>;
 
-// The lines about the settings; the defaults are those of an Instelling.
-struct InstelRegels {
-  std::string dac = "16";
-  std::string frame = "160";
-  std::string band = "Narrowband";
-  std::string soort = "Fixed Bitrate";
-  std::string max = "16000";
-  std::string agc = "false";
-  std::string denoise = "false";
-  std::string vad = "false";
-  std::string kwaliteit = "8";
-  std::string complexiteit = "3";
-
-  std::string tekst() const;
+// What becomes of the files.
+struct SpeexDoel {
+  Instelling instelling;
+  int taal = 0;
+  bool metHeader = true;
+  std::string klasse = "Geluid";
 };
 
-// The lines about the sizes, and the same counted over `frames` of a file of `wavFrames` samples.
-std::string omvangRegels(std::string const& totaal, std::string const& verhouding,
-                         std::string const& grootste);
-std::string omvangRegels(Frames const& frames, std::size_t wavFrames);
+// The settings of a first start, for files of this band.
+Instelling eersteInstelling(int band = 0);
+// Speech of about half a second with a pause in it: every setting that reaches the audio shows in
+// its frames.
+SpeexFragment spraakFragment(std::string const& naam = "bel");
+// Three files of different ratios, in the order of their names.
+SpeexFragmenten drieFragmenten();
+// The frames of each file, from one encoder for all of them.
+std::vector<Frames> framesVan(SpeexFragmenten const& fragmenten, Instelling const& instelling);
 
-// "\t(signed char)0x40,..." for four literals.
-std::string headerRegel(std::string const& b0, std::string const& b1, std::string const& b2,
-                        std::string const& b3);
+// The lines about the settings, and those about the sizes.
+std::string instelRegels(Instelling const& instelling);
+std::string omvangRegels(std::size_t totaal, std::size_t procent, std::size_t grootste);
+// All comments in front of the array of a file of `aantal` sample frames, with momentRegel.
+std::string kopRegels(std::string const& bestand, std::size_t aantal, Instelling const& instelling,
+                      Frames const& frames);
+// The whole text of such a file; `naam` has no ".wav".
+std::string fragmentTekst(std::string const& naam, std::size_t aantal, Frames const& frames,
+                          SpeexDoel const& doel = {});
 
-// The whole text of toon.wav in C: these lines about the file, the settings and the sizes, then the
-// array, with these lines about its header.
-std::string toonInC(std::string const& bestand, InstelRegels const& regels,
-                    std::string const& omvang, std::string const& header, Frames const& frames);
+// The first lines of a run over these files, up to the first fragment.
+std::string runKop(SpeexFragmenten const& fragmenten, SpeexDoel const& doel);
+// What stands before the text of the file of that number, from 1 on.
+std::string startRegel(std::size_t nummer);
+// The text of the run.
+std::string runTekst(SpeexFragmenten const& fragmenten, SpeexDoel const& doel);
 
 // A test has a directory of its own for its WAV files.
 class EncoderProef : public testing::Test {
@@ -52,6 +61,9 @@ class EncoderProef : public testing::Test {
   // The text in C of the file at `pad`, with momentRegel in it. Fails unless it succeeds.
   static std::string inC(Instelling const& instelling, std::string const& pad,
                          bool metHeader = true);
+  // Expects the text of toon.wav, a file of these samples, in C, and returns what there is.
+  std::string verwachtToon(Instelling const& instelling, std::vector<int> const& samples,
+                           bool metHeader = true);
 
   TijdelijkeMap map;
 };
