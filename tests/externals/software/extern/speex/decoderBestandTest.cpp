@@ -15,8 +15,6 @@ namespace {
 
 class SpeexDecodeerBestand : public testing::Test {
  protected:
-  SpeexDecodeerBestand() { luisteraar.hoorAlle(frames); }
-
   Gedecodeerd decodeerNaar(std::string const& doel) const {
     maakBestand(bron, tekst);
     return decodeerBestand(bron, doel);
@@ -34,7 +32,6 @@ class SpeexDecodeerBestand : public testing::Test {
   std::string uit = map.pad("uit.wav");
   Frames frames = maakFrames(SpeexNarrowband, 5);
   std::string tekst = arrayTekst(8000, 5, frames);
-  Luisteraar luisteraar{SpeexNarrowband};
 };
 
 TEST_F(SpeexDecodeerBestand, EachFragmentIsLoggedAsAMessage) {
@@ -58,8 +55,7 @@ TEST_F(SpeexDecodeerBestand, NothingIsLoggedWhereMessagesAreOff) {
   Gedecodeerd const gevonden = decodeer(tekst);
   wxLog::SetLogLevel(vorig);
   EXPECT_TRUE(nietsGelogd(gevonden.log));
-  EXPECT_EQ(gevonden.fragmenten, 1U);
-  EXPECT_TRUE(zelfdeSamples(gevonden.samples, luisteraar.samples));
+  verwachtGeluid(gevonden, 1, gehoord(frames));
 }
 
 TEST_F(SpeexDecodeerBestand, TheFormatWordIsHonoured) {
@@ -137,7 +133,7 @@ void verwachtEenWav(std::string const& tekst, TijdelijkeMap const& map,
 }
 
 TEST_F(SpeexDecodeerBestand, TextCutAtEveryByteEndsWithAWavOfWholeBlocks) {
-  std::string const heel = runTekst({}, {ruis(320)});
+  std::string const heel = runVan({ruis(320)});
   for (std::size_t lengte = 0; lengte <= heel.size(); ++lengte) {
     SCOPED_TRACE(lengte);
     verwachtEenWav(heel.substr(0, lengte), map);

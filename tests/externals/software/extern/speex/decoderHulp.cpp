@@ -1,15 +1,12 @@
 #include "tests/externals/software/extern/speex/decoderHulp.h"
 
 #include <wx/filename.h>
-#include <wx/mstream.h>
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
+#include <optional>
 
 #include "externals/software/extern/speex/speexDesktopDecoder.h"
-#include "externals/software/extern/speex/speexDesktopEncoder.h"
-#include "numeriek/percentage.h"
 #include "tests/steun/tijdelijkeMap.h"
 #include "tests/steun/wavLezer.h"
 #include "tests/steun/wavMaker.h"
@@ -21,16 +18,6 @@ constexpr int complexiteit = 2;
 
 wxFileName naam(std::string const& pad) {
   return {wxString::FromUTF8(pad.c_str())};
-}
-
-std::string declaraties(SpeexRun const& run, std::vector<std::string> const& namen) {
-  bool const inKlasse = !run.klasse.empty();
-  std::string tekst = inKlasse ? "// class " + run.klasse + "\n//{\n\t//private:\n" : "";
-  for (std::string const& een : namen) {
-    tekst += (inKlasse ? "// static const signed char " : "// extern const signed char ") + een +
-             "[];\n";
-  }
-  return tekst + (inKlasse ? "//};\n" : "") + "\n\n";
 }
 
 }  // namespace
@@ -81,6 +68,13 @@ void Luisteraar::herhaal(std::size_t keer) {
   }
 }
 
+Samples gehoord(Frames const& frames, std::size_t keer, SpeexBandFormaat band) {
+  Luisteraar luisteraar(band);
+  luisteraar.hoorAlle(frames);
+  luisteraar.herhaal(keer);
+  return luisteraar.samples;
+}
+
 std::string arrayMet(std::string const& inhoud) {
   return "const signed char toon[] = \n{\n" + inhoud + slotRegels("toon.wav");
 }
@@ -89,32 +83,27 @@ std::string arrayTekst(int rate, unsigned int telling, Frames const& frames) {
   return arrayMet(uitlegRegel + headerRegel(rate, telling) + frameRegels(frames));
 }
 
-std::string runTekst(SpeexRun const& run, std::vector<Samples> const& fragmenten) {
-  TijdelijkeMap const map;
-  SpeexEncodeConfig const instellingen(run.band, 4, complexiteit, SpeexFixedBitrate, 0,
-                                       run.gainBits, false, false, false);
-  SpeexDesktopEncoder encoder(instellingen, run.klasse.empty()
-                                                ? SpeexEncoderOpties()
-                                                : SpeexEncoderOpties(wxString(run.klasse)));
-  std::vector<std::string> namen;
-  std::string fragmentTekst;
-  for (Samples const& samples : fragmenten) {
-    std::string const nummer = std::to_string(namen.size() + 1);
-    namen.push_back("toon" + nummer);
-    std::string const pad = map.pad(namen.back() + ".wav");
-    maakWav(pad, {samples.begin(), samples.end()}, {rateVan(run.band), 1, 16, 1});
-    wxMemoryOutputStream uit;
-    Percentage verhouding;
-    EXPECT_EQ(encoder.encode(naam(pad), uit, run.metHeader, verhouding), 0);
-    std::string fragment(uit.GetSize(), '\0');
-    uit.CopyTo(fragment.data(), fragment.size());
-    fragmentTekst += "/******* Start encoding file number " + nummer + " \t\t*******/\n";
-    fragmentTekst += fragment;
-    fragmentTekst += "/******* Stop encoding file number " + nummer + " \t\t*******/\n\n";
+SpeexDoel runDoel(SpeexBandFormaat band) {
+  SpeexDoel doel;
+  doel.instelling.band = band;
+  doel.instelling.kwaliteit = 4;
+  doel.instelling.complexiteit = complexiteit;
+  return doel;
+}
+
+std::string runVan(std::vector<Samples> const& fragmenten, SpeexDoel const& doel) {
+  SpeexFragmenten bestanden;
+  for (Samples const& een : fragmenten) {
+    bestanden.push_back({"toon" + std::to_string(bestanden.size() + 1), {een.begin(), een.end()}});
   }
-  return "/* Speex encoding output of " + std::to_string(namen.size()) +
-         " audio files \t\t*/\n\n/* Put these declarations in a header file :*/\n" +
-         declaraties(run, namen) + fragmentTekst;
+  return runTekst(bestanden, doel);
+}
+
+void verwachtGeluid(Gedecodeerd const& gevonden, unsigned long long fragmenten,
+                    Samples const& verwacht) {
+  EXPECT_EQ(gevonden.uitslag, 0);
+  EXPECT_EQ(gevonden.fragmenten, fragmenten);
+  EXPECT_TRUE(zelfdeSamples(gevonden.samples, verwacht));
 }
 
 Gedecodeerd decodeerBestand(std::string const& van, std::string const& naar, unsigned int sfFormaat,

@@ -1,17 +1,15 @@
 // What the tests of the Speex decoder share: frames that libspeex makes and decodes by itself, the
-// text of arrays put together by hand, the text of whole runs, and one decoding with all that comes
-// out of it.
+// text of arrays put together by hand, and one decoding with all that comes out of it.
 #pragma once
 
 #include <gtest/gtest.h>
 #include <sndfile.h>
 
-#include <optional>
 #include <string>
 #include <vector>
 
 #include "externals/software/extern/speex/speexFormaten.h"
-#include "tests/externals/software/extern/speex/arrayRegels.h"
+#include "tests/externals/software/extern/speex/encoderTekstHulp.h"
 #include "tests/steun/bytes.h"
 #include "tests/steun/logboek.h"
 
@@ -47,20 +45,19 @@ class Luisteraar {
   Samples blok;
 };
 
+// What a listener hears of these frames, and the last block again `keer` times.
+Samples gehoord(Frames const& frames, std::size_t keer = 0,
+                SpeexBandFormaat band = SpeexNarrowband);
+
 // One array with its header, in C, from its first line to the comment behind it.
 std::string arrayTekst(int rate, unsigned int telling, Frames const& frames);
 // One array of the lines in `inhoud`.
 std::string arrayMet(std::string const& inhoud);
 
-// The text of a run, as the window writes it, with the tool's own encoder at quality 4 and
-// complexity 2. Each entry of `fragmenten` becomes a WAV file.
-struct SpeexRun {
-  SpeexBandFormaat band = SpeexNarrowband;
-  std::string klasse;  // in C where it is empty
-  bool metHeader = true;
-  unsigned int gainBits = 0;
-};
-std::string runTekst(SpeexRun const& run, std::vector<Samples> const& fragmenten);
+// How the texts of whole runs are encoded here: at quality 4 and complexity 2.
+SpeexDoel runDoel(SpeexBandFormaat band = SpeexNarrowband);
+// The text of a run in which each entry of `fragmenten` is a file, toon1.wav and so on.
+std::string runVan(std::vector<Samples> const& fragmenten, SpeexDoel const& doel = runDoel());
 
 // What one decoding gave. The count stood at 99 before it.
 struct Gedecodeerd {
@@ -69,6 +66,10 @@ struct Gedecodeerd {
   Samples samples;
   std::vector<LogRegel> log;
 };
+
+// Expects a decoding to succeed, with so many fragments and this sound.
+void verwachtGeluid(Gedecodeerd const& gevonden, unsigned long long fragmenten,
+                    Samples const& verwacht);
 
 // Decodes a text to 16-bit PCM; the test fails where the WAV file is not one of that kind at the
 // rate of the band, with one channel.

@@ -14,57 +14,45 @@
 
 namespace {
 
-// A block of the absorbed array's words: where a header stands in the way of a running count, its
-// first byte, 0x40, is taken for the size of a frame.
-constexpr std::size_t headerAlsGrootte = 0x40;
-
-void verwachtGelukt(Gedecodeerd const& gevonden, unsigned long long fragmenten,
-                    Samples const& verwacht) {
-  EXPECT_EQ(gevonden.uitslag, 0);
-  EXPECT_EQ(gevonden.fragmenten, fragmenten);
-  EXPECT_TRUE(zelfdeSamples(gevonden.samples, verwacht));
-}
-
 // The sound of `samples`, and the last block until there are `telling` blocks.
-Samples gehoord(SpeexBandFormaat band, Samples const& samples, std::size_t telling) {
-  Luisteraar luisteraar(band);
+Samples gehoordTot(std::size_t telling, Samples const& samples,
+                   SpeexBandFormaat band = SpeexNarrowband) {
   Frames const frames = codeer(band, samples);
-  luisteraar.hoorAlle(frames);
-  luisteraar.herhaal(telling - frames.size());
-  return luisteraar.samples;
+  return gehoord(frames, telling - frames.size(), band);
 }
 
-Bytes const geenBytes;
-
-// The words that a reader of numbers takes from the lines of a frame: the size line gives two that
-// are no decimal numbers, and a tab alone on its line gives one.
-void voegWoordenToe(Bytes& woorden, Bytes const& frame) {
-  woorden.insert(woorden.end(), 2, 0);
-  woorden.insert(woorden.end(), frame.begin(), frame.end());
-  woorden.insert(woorden.end(), frame.size() % 8 == 0 ? 1 : 0, 0);
+// The frame that a decoder finds in an absorbed array: the first byte of its header, 0x40, is taken
+// for a size, and as many words of the frames follow. The size line gives two words that are no
+// decimal numbers, and a tab alone on its line gives one.
+Bytes geabsorbeerd(Frames const& frames) {
+  constexpr std::size_t grootte = 0x40;
+  Bytes woorden;
+  for (Bytes const& frame : frames) {
+    woorden.insert(woorden.end(), 2, 0);
+    woorden.insert(woorden.end(), frame.begin(), frame.end());
+    woorden.insert(woorden.end(), frame.size() % 8 == 0 ? 1 : 0, 0);
+  }
+  EXPECT_GT(woorden.size(), grootte);
+  woorden.resize(grootte);
+  return woorden;
 }
 
-TEST(SpeexDecodeer, TextOf8000HzGivesTheSoundAndThenItsLastBlockUpToTheCount) {
-  Samples const samples = ruis(800);
-  verwachtGelukt(decodeer(runTekst({}, {samples})), 1, gehoord(SpeexNarrowband, samples, 800));
-}
-
-TEST(SpeexDecodeer, TextOf16000HzGivesTheSoundAndThenItsLastBlockUpToTheCount) {
-  Samples const samples = ruis(1600);
-  SpeexRun run;
-  run.band = SpeexWideband;
-  verwachtGelukt(decodeer(runTekst(run, {samples}), SpeexWideband), 1,
-                 gehoord(SpeexWideband, samples, 1600));
+TEST(SpeexDecodeer, TextOfARunGivesTheSoundAndThenItsLastBlockUpToTheCount) {
+  for (SpeexBandFormaat const band : {SpeexNarrowband, SpeexWideband}) {
+    Samples const samples = ruis(5 * blokVan(band));
+    verwachtGeluid(decodeer(runVan({samples}, runDoel(band)), band), 1,
+                   gehoordTot(samples.size(), samples, band));
+  }
 }
 
 TEST(SpeexDecodeer, TheShellOfACppClassAndTheMarksOfARunAreNoFragments) {
   Samples const samples = ruis(480);
-  SpeexRun run;
-  run.klasse = "Klank";
-  std::string const tekst = runTekst(run, {samples});
-  ASSERT_NE(tekst.find("// class Klank\n//{\n"), std::string::npos);
-  ASSERT_NE(tekst.find("const signed char Klank::toon1[] = \n{\n"), std::string::npos);
-  verwachtGelukt(decodeer(tekst), 1, gehoord(SpeexNarrowband, samples, 480));
+  SpeexDoel doel = runDoel();
+  doel.taal = 1;
+  std::string const tekst = runVan({samples}, doel);
+  ASSERT_NE(tekst.find("// class Geluid\n//{\n"), std::string::npos);
+  ASSERT_NE(tekst.find("const signed char Geluid::toon1[] = \n{\n"), std::string::npos);
+  verwachtGeluid(decodeer(tekst), 1, gehoordTot(480, samples));
 }
 
 TEST(SpeexDecodeer, TextWithCrLfLineEndsSoundsTheSame) {
@@ -74,19 +62,16 @@ TEST(SpeexDecodeer, TextWithCrLfLineEndsSoundsTheSame) {
   for (char const teken : tekst) {
     crlf += teken == '\n' ? "\r\n" : std::string(1, teken);
   }
-  Luisteraar luisteraar(SpeexNarrowband);
-  luisteraar.hoorAlle(frames);
-  verwachtGelukt(decodeer(crlf), 1, luisteraar.samples);
+  verwachtGeluid(decodeer(crlf), 1, gehoord(frames));
 }
 
 TEST(SpeexDecodeer, FramesOfEverySizeSoundAsTheLibraryMakesThem) {
   for (int kwaliteit = 0; kwaliteit <= 10; ++kwaliteit) {
     for (SpeexBandFormaat const band : {SpeexNarrowband, SpeexWideband}) {
       Frames const frames = maakFrames(band, 9, kwaliteit);
-      Luisteraar luisteraar(band);
-      luisteraar.hoorAlle(frames);
       SCOPED_TRACE(frames[0].size());
-      verwachtGelukt(decodeer(arrayTekst(rateVan(band), 9, frames), band), 1, luisteraar.samples);
+      verwachtGeluid(decodeer(arrayTekst(rateVan(band), 9, frames), band), 1,
+                     gehoord(frames, 0, band));
     }
   }
 }
@@ -97,9 +82,9 @@ TEST(SpeexDecodeer, TheScaleOfANarrowDacIsNotUndone) {
   for (short& sample : klein) {
     sample = static_cast<short>((sample + 32768) / 256 - 128);
   }
-  SpeexRun run;
-  run.gainBits = 8;
-  verwachtGelukt(decodeer(runTekst(run, {samples})), 1, gehoord(SpeexNarrowband, klein, 480));
+  SpeexDoel doel = runDoel();
+  doel.instelling.gainBits = 8;
+  verwachtGeluid(decodeer(runVan({samples}, doel)), 1, gehoordTot(480, klein));
 }
 
 TEST(SpeexDecodeer, ASecondFragmentIsAbsorbedWhileTheCountOfTheFirstRuns) {
@@ -116,16 +101,10 @@ TEST(SpeexDecodeer, ASecondFragmentIsAbsorbedWhileTheCountOfTheFirstRuns) {
   // Seven comment lines hold an "x", in "Linux", "Speex" or "Max", that the scanner comes upon;
   // each takes the line behind it along.
   luisteraar.herhaal(7);
-  Bytes woorden;
-  voegWoordenToe(woorden, frames[5]);
-  voegWoordenToe(woorden, frames[6]);
-  voegWoordenToe(woorden, frames[7]);
-  ASSERT_GT(woorden.size(), headerAlsGrootte);
-  woorden.resize(headerAlsGrootte);
-  luisteraar.hoor(woorden);
+  luisteraar.hoor(geabsorbeerd({frames.begin() + 5, frames.begin() + 8}));
   luisteraar.hoorAlle({frames.begin() + 8, frames.end()});
   luisteraar.herhaal(800 - 5 - 7 - 1 - 2);
-  verwachtGelukt(decodeer(runTekst({}, {eerste, tweede})), 1, luisteraar.samples);
+  verwachtGeluid(decodeer(runVan({eerste, tweede})), 1, luisteraar.samples);
 }
 
 // As a save leaves them that appends to the file of an earlier one.
@@ -139,10 +118,9 @@ TEST(SpeexDecodeer, TwoWholeRunTextsInOneFileAreDecodedAsOne) {
     Frames const frames = codeer(SpeexNarrowband, een);
     luisteraar.hoorAlle({frames.begin(), frames.begin() + 160});
   }
-  SpeexRun inKlasse;
-  inKlasse.klasse = "Klank";
-  verwachtGelukt(decodeer(runTekst({}, {eerste}) + runTekst(inKlasse, {tweede})), 2,
-                 luisteraar.samples);
+  SpeexDoel inKlasse = runDoel();
+  inKlasse.taal = 1;
+  verwachtGeluid(decodeer(runVan({eerste}) + runVan({tweede}, inKlasse)), 2, luisteraar.samples);
 }
 
 TEST(SpeexDecodeer, TheSecondOfTwoRunTextsIsAbsorbedWhileTheCountOfTheFirstRuns) {
@@ -154,25 +132,17 @@ TEST(SpeexDecodeer, TheSecondOfTwoRunTextsIsAbsorbedWhileTheCountOfTheFirstRuns)
   // The "x" of "Speex" in the first line of the run and that of "extern" come to the seven above.
   luisteraar.herhaal(2 + 7);
   Frames const frames = codeer(SpeexNarrowband, tweede);
-  Bytes woorden;
-  std::for_each(frames.begin(), frames.begin() + 3,
-                [&](Bytes const& frame) { voegWoordenToe(woorden, frame); });
-  ASSERT_GT(woorden.size(), headerAlsGrootte);
-  woorden.resize(headerAlsGrootte);
-  luisteraar.hoor(woorden);
+  luisteraar.hoor(geabsorbeerd({frames.begin(), frames.begin() + 3}));
   luisteraar.hoorAlle({frames.begin() + 3, frames.end()});
   luisteraar.herhaal(800 - 5 - 2 - 7 - 1 - 2);
-  verwachtGelukt(decodeer(runTekst({}, {eerste}) + runTekst({}, {tweede})), 1, luisteraar.samples);
+  verwachtGeluid(decodeer(runVan({eerste}) + runVan({tweede})), 1, luisteraar.samples);
 }
 
 TEST(SpeexDecodeer, AnAbsorbedArrayWithoutHeaderIsHeardWhole) {
   Frames const frames = maakFrames(SpeexNarrowband, 9);
-  Luisteraar luisteraar(SpeexNarrowband);
-  luisteraar.hoorAlle(frames);
-  luisteraar.herhaal(3);
-  verwachtGelukt(decodeer(arrayTekst(8000, 12, {frames.begin(), frames.begin() + 4}) +
+  verwachtGeluid(decodeer(arrayTekst(8000, 12, {frames.begin(), frames.begin() + 4}) +
                           arrayMet(frameRegels({frames.begin() + 4, frames.end()}))),
-                 1, luisteraar.samples);
+                 1, gehoord(frames, 3));
 }
 
 TEST(SpeexDecodeer, TheHeaderOfAnAbsorbedArrayIsTakenForASize) {
@@ -181,39 +151,26 @@ TEST(SpeexDecodeer, TheHeaderOfAnAbsorbedArrayIsTakenForASize) {
   Frames const echt = maakFrames(SpeexNarrowband, 5);
   std::transform(echt.begin(), echt.end(), frames.begin(),
                  [](Bytes const& frame) { return Bytes(frame.begin(), frame.begin() + 16); });
-  Bytes woorden;
-  std::for_each(frames.begin(), frames.end() - 1,
-                [&](Bytes const& frame) { voegWoordenToe(woorden, frame); });
-  ASSERT_GT(woorden.size(), headerAlsGrootte);
-  woorden.resize(headerAlsGrootte);
-  Luisteraar luisteraar(SpeexNarrowband);
-  luisteraar.hoorAlle(echt);
-  luisteraar.hoor(woorden);
-  luisteraar.hoor(frames[4]);
-  verwachtGelukt(decodeer(arrayTekst(8000, 7, echt) + arrayTekst(8000, 5, frames)), 1,
-                 luisteraar.samples);
+  Frames verwacht = echt;
+  verwacht.push_back(geabsorbeerd({frames.begin(), frames.end() - 1}));
+  verwacht.push_back(frames[4]);
+  verwachtGeluid(decodeer(arrayTekst(8000, 7, echt) + arrayTekst(8000, 5, frames)), 1,
+                 gehoord(verwacht));
 }
 
 TEST(SpeexDecodeer, TheStateOfTheLibraryRunsOnFromFragmentToFragment) {
   Frames const frames = maakFrames(SpeexNarrowband, 8);
   Frames const eerste(frames.begin(), frames.begin() + 3);
   Frames const tweede(frames.begin() + 3, frames.end());
-  Luisteraar luisteraar(SpeexNarrowband);
-  luisteraar.hoorAlle(frames);
-  Luisteraar vers(SpeexNarrowband);
-  vers.hoorAlle(tweede);
-  ASSERT_FALSE(
-      std::equal(vers.samples.begin(), vers.samples.end(), luisteraar.samples.begin() + 480));
-  verwachtGelukt(decodeer(arrayTekst(8000, 3, eerste) + arrayTekst(8000, 5, tweede)), 2,
-                 luisteraar.samples);
+  Samples const verwacht = gehoord(frames);
+  ASSERT_NE(gehoord(tweede), Samples(verwacht.begin() + 480, verwacht.end()));
+  verwachtGeluid(decodeer(arrayTekst(8000, 3, eerste) + arrayTekst(8000, 5, tweede)), 2, verwacht);
 }
 
 TEST(SpeexDecodeer, ACountBelowTheTrueOneStopsEarlyAndTheRestIsSkipped) {
   Frames const frames = maakFrames(SpeexNarrowband, 5);
-  Luisteraar luisteraar(SpeexNarrowband);
-  luisteraar.hoorAlle({frames[0], frames[1], frames[0], frames[1], frames[2]});
-  verwachtGelukt(decodeer(arrayTekst(8000, 2, frames) + arrayTekst(8000, 3, frames)), 2,
-                 luisteraar.samples);
+  verwachtGeluid(decodeer(arrayTekst(8000, 2, frames) + arrayTekst(8000, 3, frames)), 2,
+                 gehoord({frames[0], frames[1], frames[0], frames[1], frames[2]}));
 }
 
 TEST(SpeexDecodeer, OfAFileOfOver65536SamplesTheWrappedCountIsPlayed) {
@@ -221,16 +178,14 @@ TEST(SpeexDecodeer, OfAFileOfOver65536SamplesTheWrappedCountIsPlayed) {
   Samples const samples = ruis(65696);
   constexpr std::ptrdiff_t gespeeld = 25600;  // 160 frames
   Samples const begin(samples.begin(), samples.begin() + gespeeld);
-  verwachtGelukt(decodeer(runTekst({}, {samples})), 1, gehoord(SpeexNarrowband, begin, 160));
+  verwachtGeluid(decodeer(runVan({samples})), 1, gehoordTot(160, begin));
 }
 
 TEST(SpeexDecodeer, AHeaderCountOfZeroIsAFragmentWithoutFrames) {
   Frames const frames = maakFrames(SpeexNarrowband, 4);
-  verwachtGelukt(decodeer(arrayTekst(8000, 0, frames)), 1, {});
-  Luisteraar luisteraar(SpeexNarrowband);
-  luisteraar.hoorAlle(frames);
-  verwachtGelukt(decodeer(arrayTekst(8000, 0, frames) + arrayTekst(8000, 4, frames)), 2,
-                 luisteraar.samples);
+  verwachtGeluid(decodeer(arrayTekst(8000, 0, frames)), 1, {});
+  verwachtGeluid(decodeer(arrayTekst(8000, 0, frames) + arrayTekst(8000, 4, frames)), 2,
+                 gehoord(frames));
 }
 
 TEST(SpeexDecodeer, AFrameOfSizeZeroWritesTheOldBlockAndTheNextWordIsASize) {
@@ -241,15 +196,13 @@ TEST(SpeexDecodeer, AFrameOfSizeZeroWritesTheOldBlockAndTheNextWordIsASize) {
   luisteraar.hoor(frames[1]);
   luisteraar.herhaal(2);
   luisteraar.hoor(frames[2]);
-  verwachtGelukt(decodeer(arrayTekst(
-                     8000, 6, {frames[0], geenBytes, frames[1], geenBytes, geenBytes, frames[2]})),
-                 1, luisteraar.samples);
+  verwachtGeluid(decodeer(arrayTekst(8000, 6, {frames[0], {}, frames[1], {}, {}, frames[2]})), 1,
+                 luisteraar.samples);
 }
 
 TEST(SpeexDecodeer, AFragmentOf32000HzGivesTwoAndAReadableWavWithoutSamples) {
-  SpeexRun run;
-  run.band = SpeexUltraWideband;
-  Gedecodeerd const gevonden = decodeer(runTekst(run, {ruis(1280)}), SpeexUltraWideband);
+  Gedecodeerd const gevonden =
+      decodeer(runVan({ruis(1280)}, runDoel(SpeexUltraWideband)), SpeexUltraWideband);
   EXPECT_EQ(gevonden.uitslag, 2);
   EXPECT_EQ(gevonden.fragmenten, 0U);
   EXPECT_TRUE(gevonden.samples.empty());
@@ -258,17 +211,15 @@ TEST(SpeexDecodeer, AFragmentOf32000HzGivesTwoAndAReadableWavWithoutSamples) {
 
 TEST(SpeexDecodeer, TextOf32000HzEditedToTwoDigitsIsHeard) {
   Samples const samples = ruis(1280);
-  SpeexRun run;
-  run.band = SpeexUltraWideband;
-  std::string tekst = runTekst(run, {samples});
+  std::string tekst = runVan({samples}, runDoel(SpeexUltraWideband));
   // 1280 is 0x500.
   std::string const geschreven =
       "(signed char)0x0,(signed char)0x7d,(signed char)0x0,(signed char)0x5,";
   std::size_t const plaats = tekst.find(geschreven);
   ASSERT_NE(plaats, std::string::npos);
   tekst.replace(plaats, geschreven.size(), "0x00,0x7d,0x00,0x5,");
-  verwachtGelukt(decodeer(tekst, SpeexUltraWideband), 1,
-                 gehoord(SpeexUltraWideband, samples, 1280));
+  verwachtGeluid(decodeer(tekst, SpeexUltraWideband), 1,
+                 gehoordTot(1280, samples, SpeexUltraWideband));
 }
 
 // As the library's own tools hear it, which leave out the samples before the first of the source.
