@@ -263,12 +263,11 @@ class SpeexRunBron : public SpeexRun {
   }
 };
 
-TEST_F(SpeexRunBron, OfThreeFilesInCHoldsTheirFrames) {
-  verwachtArrays(eerste);
-}
-
-TEST_F(SpeexRunBron, OfThreeFilesInCPlusPlusWithoutHeaderHoldsTheirFrames) {
-  verwachtArrays({eersteInstelling(), 1, false});
+TEST_F(SpeexRunBron, OfThreeFilesHoldsTheirFramesInEitherLanguageWithHeaderAndWithout) {
+  for (int const taal : {0, 1}) {
+    verwachtArrays({eersteInstelling(), taal, true});
+    verwachtArrays({eersteInstelling(), taal, false});
+  }
 }
 
 TEST_F(SpeexRunBron, HasTheSizesOfTheLargestFramesAsSignedCharsInCPlusPlus) {

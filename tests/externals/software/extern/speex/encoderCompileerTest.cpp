@@ -37,39 +37,19 @@ class EncoderCompileer : public EncoderProef, public testing::WithParamInterface
     ASSERT_EQ(voerUit("cd '" + map.pad() + "' && " + opdracht), 0) << opdracht;
   }
 
-  void schrijfTekst(SpeexEncoderOpties const& opties, bool metHeader, std::string const& naam) {
-    SpeexDesktopEncoder encoder(instelling.config(), opties);
-    Codering const uitslag = codeer(encoder, map.pad("toon.wav"), metHeader);
-    ASSERT_EQ(uitslag.resultaat, 0);
-    maakBestand(map.pad(naam), uitslag.tekst);
-  }
-
   // The bytes of the array as the C compiler has them.
-  Bytes vertaaldInC(bool metHeader) {
-    schrijfTekst(SpeexEncoderOpties(), metHeader, "toon.c");
+  Bytes vertaald() {
+    maakBestand(map.pad("toon.c"), inC(instelling, map.pad("toon.wav")));
     maakBestand(map.pad("dump.c"),
                 "#include <stdio.h>\n"
                 "#include \"toon.c\"\n"
                 "int main(void) {\n"
                 "  return fwrite(toon, 1, sizeof toon, stdout) != sizeof toon;\n"
                 "}\n");
+    // Also by itself, as a user has it.
     voer("gcc -std=c99 -Wall -Wextra -Werror -c toon.c");
     voer("gcc -std=c99 -Wall -Wextra -Werror dump.c -o dump && ./dump > toon.bin");
     return leesBytes(map.pad("toon.bin"));
-  }
-
-  Bytes verwacht(bool metHeader) const {
-    Bytes bytes;
-    if (metHeader) {
-      bytes = laagEerst(static_cast<unsigned long long>(instelling.rate()), 2);
-      Bytes const aantal = laagEerst(samples.size(), 2);
-      bytes.insert(bytes.end(), aantal.begin(), aantal.end());
-    }
-    for (Bytes const& frame : LosseEncoder(instelling).bestand(samples)) {
-      bytes.push_back(static_cast<unsigned char>(frame.size()));
-      bytes.insert(bytes.end(), frame.begin(), frame.end());
-    }
-    return bytes;
   }
 
   Instelling instelling = GetParam().instelling;
@@ -93,32 +73,8 @@ Frames gelopen(SpeexAudioPakket& pakket, std::vector<signed char> const& array) 
   return frames;
 }
 
-TEST_P(EncoderCompileer, CWithHeaderIsTheHeaderAndTheFrames) {
-  EXPECT_EQ(vertaaldInC(true), verwacht(true));
-}
-
-TEST_P(EncoderCompileer, CWithoutHeaderIsTheFramesAlone) {
-  EXPECT_EQ(vertaaldInC(false), verwacht(false));
-}
-
-TEST_P(EncoderCompileer, CppDefinesTheMemberOfTheClass) {
-  schrijfTekst(SpeexEncoderOpties("Klank"), true, "toon.inc");
-  maakBestand(map.pad("klank.h"),
-              "class Klank {\n public:\n  static const signed char toon[];\n};\n");
-  maakBestand(map.pad("dump.cpp"),
-              "#include <cstdio>\n"
-              "#include \"klank.h\"\n"
-              "#include \"toon.inc\"\n"
-              "int main() {\n"
-              "  return std::fwrite(Klank::toon, 1, sizeof Klank::toon, stdout) !=\n"
-              "         sizeof Klank::toon;\n"
-              "}\n");
-  voer("g++ -std=c++17 -Wall -Wextra -Werror dump.cpp -o dump && ./dump > toon.bin");
-  EXPECT_EQ(leesBytes(map.pad("toon.bin")), verwacht(true));
-}
-
 TEST_P(EncoderCompileer, FirmwareWalksTheFramesOfSpeexencAndDecodesThemLikeSpeexdec) {
-  Bytes const bytes = vertaaldInC(true);
+  Bytes const bytes = vertaald();
   std::vector<signed char> const array(bytes.begin(), bytes.end());
   ASSERT_GT(array.size(), 5U);
   SpeexAudioPakket pakket(array.data());
