@@ -7,6 +7,8 @@
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>
 
+#include <map>
+
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/gereedProef.h"
 
@@ -52,25 +54,41 @@ TEST_F(VreemdeConfiguratieProef, TextInThePlaceOfANumberGivesTheDefault) {
   EXPECT_EQ(stopSpeex("speexQuality"), "8");
 }
 
-TEST_F(VreemdeConfiguratieProef, RadioBoxKeepsItsStartForANumberOutsideItsRows) {
+TEST_F(VreemdeConfiguratieProef, EachControlShowsWhatItCanAndTheRecordKeepsItsNumber) {
   start(
-      "[Gebruikersinstellingen/Speex]\nspeexOutputLanguage=99\n[Configuratie]\nConvertertype=-1\n");
-  EXPECT_EQ(radio(ID_LANG_IMPL)->GetSelection(), 1);
-  EXPECT_EQ(radio(ID_ENCODER_TYPE)->GetSelection(), 0);
-  // The record keeps its number; the encoder kind is what the box shows.
-  auto const sleutels = stopSleutels();
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexOutputLanguage"), "99");
-  EXPECT_EQ(sleutels.at("/Configuratie/Convertertype"), "0");
-}
-
-TEST_F(VreemdeConfiguratieProef, ChoiceShowsNoRowForANumberBeyondItsLast) {
-  startMetSpeex("speexFormat=99\nspeexBitRateChoice=3\ndacNumberOfBits=4\n");
+      "[Gebruikersinstellingen/Speex]\nspeexFormat=99\nspeexBitRateChoice=3\ndacNumberOfBits=4\n"
+      "speexQuality=99\nspeexComplexity=-7\nspeexBitRate=4294967295\nspeexVAC=256\n"
+      "speexDenoise=257\nspeexAGC=-1\nIncludeHeader=512\nspeexOutputLanguage=99\n"
+      "[Configuratie]\nConvertertype=-1\n");
+  // A choice has no row beyond its last, a radio box keeps its start, and a spin control its range.
   EXPECT_EQ(keuze(ID_FORMAAT)->GetSelection(), wxNOT_FOUND);
   EXPECT_EQ(keuze(ID_BITRATE_TYPE)->GetSelection(), wxNOT_FOUND);
   EXPECT_EQ(keuze(ID_DAC_TYPE)->GetSelection(), wxNOT_FOUND);
+  EXPECT_EQ(radio(ID_LANG_IMPL)->GetSelection(), 1);
+  EXPECT_EQ(radio(ID_ENCODER_TYPE)->GetSelection(), 0);
+  EXPECT_EQ(spin(ID_QUALITY)->GetValue(), 10);
+  EXPECT_EQ(spin(ID_COMPLEXITY)->GetValue(), 0);
+  EXPECT_EQ(veld(ID_MAX_RATE)->GetValue(), "-1");
+  // The low byte of a number is the flag.
+  EXPECT_FALSE(vakje(ID_VAD)->GetValue());
+  EXPECT_TRUE(vakje(ID_DENOISE)->GetValue());
+  EXPECT_TRUE(vakje(ID_AGC)->GetValue());
+  EXPECT_FALSE(vakje(ID_INCL_HEADER)->GetValue());
+
   auto const sleutels = stopSleutels();
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexFormat"), "99");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/dacNumberOfBits"), "4");
+  for (auto const& [sleutel, waarde] : std::map<wxString, wxString>{{"speexFormat", "99"},
+                                                                    {"dacNumberOfBits", "4"},
+                                                                    {"speexQuality", "99"},
+                                                                    {"speexBitRate", "4294967295"},
+                                                                    {"speexOutputLanguage", "99"},
+                                                                    {"speexVAC", "0"},
+                                                                    {"speexDenoise", "1"},
+                                                                    {"speexAGC", "1"},
+                                                                    {"IncludeHeader", "0"}}) {
+    EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/" + sleutel), waarde) << sleutel;
+  }
+  // The encoder kind is what the box shows.
+  EXPECT_EQ(sleutels.at("/Configuratie/Convertertype"), "0");
 }
 
 TEST_F(VreemdeConfiguratieProef, ChoiceKeepsItsStartForANegativeNumberWithoutAComplaint) {
@@ -81,32 +99,6 @@ TEST_F(VreemdeConfiguratieProef, ChoiceKeepsItsStartForANegativeNumberWithoutACo
   EXPECT_EQ(keuze(ID_DAC_TYPE)->GetSelection(), 3);
   EXPECT_EQ(stopSpeex("dacNumberOfBits"), "-2147483648");
   EXPECT_EQ(::testing::internal::GetCapturedStderr().find("CRITICAL"), std::string::npos);
-}
-
-TEST_F(VreemdeConfiguratieProef, SpinControlsClampWhatTheyShowAndTheRecordKeepsItsNumber) {
-  startMetSpeex("speexQuality=99\nspeexComplexity=-7\n");
-  EXPECT_EQ(spin(ID_QUALITY)->GetValue(), 10);
-  EXPECT_EQ(spin(ID_COMPLEXITY)->GetValue(), 0);
-  EXPECT_EQ(stopSpeex("speexQuality"), "99");
-}
-
-TEST_F(VreemdeConfiguratieProef, BitRateAbove31BitsShowsAsASignedNumberAndIsKept) {
-  startMetSpeex("speexBitRate=4294967295\n");
-  EXPECT_EQ(veld(ID_MAX_RATE)->GetValue(), "-1");
-  EXPECT_EQ(stopSpeex("speexBitRate"), "4294967295");
-}
-
-TEST_F(VreemdeConfiguratieProef, LowByteOfANumberIsTheFlag) {
-  startMetSpeex("speexVAC=256\nspeexDenoise=257\nspeexAGC=-1\nIncludeHeader=512\n");
-  EXPECT_FALSE(vakje(ID_VAD)->GetValue());
-  EXPECT_TRUE(vakje(ID_DENOISE)->GetValue());
-  EXPECT_TRUE(vakje(ID_AGC)->GetValue());
-  EXPECT_FALSE(vakje(ID_INCL_HEADER)->GetValue());
-  auto const sleutels = stopSleutels();
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexVAC"), "0");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexDenoise"), "1");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/speexAGC"), "1");
-  EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Speex/IncludeHeader"), "0");
 }
 
 TEST_F(VreemdeConfiguratieProef, LanguageOutsideTheTableNeedsNoClass) {
