@@ -16,15 +16,6 @@ namespace {
 
 SpeexDoel const doel{eersteInstelling()};
 
-// The text of a run that ended at its first file, and at its second.
-std::string totEerste() {
-  return runKop(drieFragmenten(), doel) + startRegel(1);
-}
-std::string totTweede() {
-  std::string const tekst = runTekst(drieFragmenten(), doel);
-  return tekst.substr(0, tekst.find(startRegel(2))) + startRegel(2);
-}
-
 class SpeexFoutProef : public SpeexRunProef {
  protected:
   void SetUp() override {
@@ -73,7 +64,7 @@ TEST_F(SpeexFoutProef, ABandThatDoesNotFitTheFilesStopsTheRunAtTheFirst) {
   // The progress went with the run.
   EXPECT_TRUE(venster->IsEnabled());
   EXPECT_EQ(wxTopLevelWindows.GetCount(), 1U);
-  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), totEerste()));
+  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), runTot(1, drieFragmenten(), doel)));
 }
 
 TEST_F(SpeexFoutProef, AVanishedFileOfAnUnusableNameIsNamedAsItIsButForTwoPerCentSigns) {
@@ -98,7 +89,7 @@ TEST_F(SpeexFoutProef, AFailedRunAfterAGoodOneKeepsTheMarkOfTheResultAndSavesThe
   EXPECT_EQ(antwoorden.berichten.size(), 1U);
   EXPECT_TRUE(isGecodeerd());
   EXPECT_FALSE(knop(ID_CODEER)->IsEnabled());
-  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), totTweede()));
+  EXPECT_TRUE(zelfdeTekst(bewaarTekst("uit.c"), runTot(2, drieFragmenten(), doel)));
 }
 
 TEST_F(SpeexFoutProef, AFailedRunKeepsASavedResultSaved) {

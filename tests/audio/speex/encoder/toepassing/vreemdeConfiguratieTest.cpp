@@ -77,6 +77,7 @@ TEST_F(VreemdeConfiguratieProef, EachControlShowsWhatItCanAndTheRecordKeepsItsNu
 
   auto const sleutels = stopSleutels();
   for (auto const& [sleutel, waarde] : std::map<wxString, wxString>{{"speexFormat", "99"},
+                                                                    {"speexBitRateChoice", "3"},
                                                                     {"dacNumberOfBits", "4"},
                                                                     {"speexQuality", "99"},
                                                                     {"speexBitRate", "4294967295"},

@@ -1,12 +1,11 @@
 #include "tests/externals/software/extern/speex/decoderHulp.h"
 
-#include <wx/filename.h>
-
 #include <algorithm>
 #include <cstddef>
 #include <optional>
 
 #include "externals/software/extern/speex/speexDesktopDecoder.h"
+#include "tests/audio/codec/codecHulp.h"
 #include "tests/steun/tijdelijkeMap.h"
 #include "tests/steun/wavLezer.h"
 #include "tests/steun/wavMaker.h"
@@ -15,10 +14,6 @@
 namespace {
 
 constexpr int complexiteit = 2;
-
-wxFileName naam(std::string const& pad) {
-  return {wxString::FromUTF8(pad.c_str())};
-}
 
 }  // namespace
 
@@ -112,7 +107,8 @@ Gedecodeerd decodeerBestand(std::string const& van, std::string const& naar, uns
   gevonden.fragmenten = 99;
   neemLog();
   SpeexDesktopDecoder decoder(band, nullptr);
-  gevonden.uitslag = decoder.decode(naam(van), naam(naar), gevonden.fragmenten, sfFormaat);
+  gevonden.uitslag =
+      decoder.decode(bestandsnaam(van), bestandsnaam(naar), gevonden.fragmenten, sfFormaat);
   gevonden.log = neemLog();
   return gevonden;
 }

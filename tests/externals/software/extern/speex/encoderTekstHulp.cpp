@@ -29,6 +29,25 @@ std::string omvangVan(Frames const& frames, std::size_t aantal) {
                       grootste);
 }
 
+// The first lines of a run, up to the first fragment.
+std::string runKop(SpeexFragmenten const& fragmenten, SpeexDoel const& doel) {
+  std::string tekst = "/* Speex encoding output of " + std::to_string(fragmenten.size()) +
+                      " audio files \t\t*/\n"
+                      "\n"
+                      "/* Put these declarations in a header file :*/\n";
+  tekst += doel.taal == 1 ? "// class " + doel.klasse + "\n//{\n\t//private:\n" : "";
+  for (SpeexFragment const& een : fragmenten) {
+    tekst += doel.taal == 0   ? "// extern const signed char " + een.naam + "[];\n"
+             : doel.taal == 1 ? "// static const signed char " + een.naam + "[];\n"
+                              : "";
+  }
+  return tekst + (doel.taal == 1 ? "//};\n" : "") + "\n\n";
+}
+
+std::string startRegel(std::size_t nummer) {
+  return "/******* Start encoding file number " + std::to_string(nummer) + " \t\t*******/\n";
+}
+
 }  // namespace
 
 Instelling eersteInstelling(int band) {
@@ -132,24 +151,6 @@ std::string fragmentTekst(std::string const& naam, std::size_t aantal, Frames co
          frameRegels(frames) + slotRegels(bestand);
 }
 
-std::string runKop(SpeexFragmenten const& fragmenten, SpeexDoel const& doel) {
-  std::string tekst = "/* Speex encoding output of " + std::to_string(fragmenten.size()) +
-                      " audio files \t\t*/\n"
-                      "\n"
-                      "/* Put these declarations in a header file :*/\n";
-  tekst += doel.taal == 1 ? "// class " + doel.klasse + "\n//{\n\t//private:\n" : "";
-  for (SpeexFragment const& een : fragmenten) {
-    tekst += doel.taal == 0   ? "// extern const signed char " + een.naam + "[];\n"
-             : doel.taal == 1 ? "// static const signed char " + een.naam + "[];\n"
-                              : "";
-  }
-  return tekst + (doel.taal == 1 ? "//};\n" : "") + "\n\n";
-}
-
-std::string startRegel(std::size_t nummer) {
-  return "/******* Start encoding file number " + std::to_string(nummer) + " \t\t*******/\n";
-}
-
 std::string runTekst(SpeexFragmenten const& fragmenten, SpeexDoel const& doel) {
   std::vector<Frames> const frames = framesVan(fragmenten, doel.instelling);
   std::string tekst = runKop(fragmenten, doel);
@@ -159,6 +160,11 @@ std::string runTekst(SpeexFragmenten const& fragmenten, SpeexDoel const& doel) {
              "/******* Stop encoding file number " + std::to_string(i + 1) + " \t\t*******/\n\n";
   }
   return tekst;
+}
+
+std::string runTot(std::size_t nummer, SpeexFragmenten const& fragmenten, SpeexDoel const& doel) {
+  std::string const tekst = runTekst(fragmenten, doel);
+  return tekst.substr(0, tekst.find(startRegel(nummer))) + startRegel(nummer);
 }
 
 std::string EncoderProef::wav(std::string const& naam, std::vector<int> const& waarden, int rate,

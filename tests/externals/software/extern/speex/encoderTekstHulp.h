@@ -46,12 +46,10 @@ std::string kopRegels(std::string const& bestand, std::size_t aantal, Instelling
 std::string fragmentTekst(std::string const& naam, std::size_t aantal, Frames const& frames,
                           SpeexDoel const& doel = {});
 
-// The first lines of a run over these files, up to the first fragment.
-std::string runKop(SpeexFragmenten const& fragmenten, SpeexDoel const& doel);
-// What stands before the text of the file of that number, from 1 on.
-std::string startRegel(std::size_t nummer);
-// The text of the run.
+// The text of a run over these files, and that of one that ended at the file of this number, from 1
+// on.
 std::string runTekst(SpeexFragmenten const& fragmenten, SpeexDoel const& doel);
+std::string runTot(std::size_t nummer, SpeexFragmenten const& fragmenten, SpeexDoel const& doel);
 
 // A test has a directory of its own for its WAV files.
 class EncoderProef : public testing::Test {

@@ -194,7 +194,7 @@ TEST(SpeexAansturing, DecoderIsDestroyedBeforeItsBits) {
 }
 
 TEST(SpeexAansturing, RefusedControlCallsChangeNoOtherCall) {
-  LiegendeBibliotheek const leugen;
+  MetStreek const leugen(Streek::liegt);
   EXPECT_EQ(bouw(instellingen(2, 1)), metVbr(banden[2]));
   neemOproepen();
   { SpeexDecoder const decoder(SpeexNarrowband); }
@@ -210,7 +210,7 @@ class OpenDecoder : public SpeexDecoder {
 };
 
 TEST(SpeexAansturing, FrameSizeThatTheLibraryTellsIsDropped) {
-  LiegendeBibliotheek const leugen;
+  MetStreek const leugen(Streek::liegt);
   EXPECT_EQ(OpenDecoder(SpeexNarrowband).frameSize, 160);
   EXPECT_EQ(OpenDecoder(SpeexWideband).frameSize, 320);
   EXPECT_EQ(OpenDecoder(SpeexUltraWideband).frameSize, 640);

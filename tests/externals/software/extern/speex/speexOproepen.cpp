@@ -59,9 +59,7 @@ namespace {
 
 struct Opname {
   std::vector<Oproep> oproepen;
-  bool liegt = false;
-  bool zwijgt = false;
-  bool lang = false;
+  Streek streek = Streek::eerlijk;
 };
 
 Opname& opname() {
@@ -98,7 +96,7 @@ template <typename Echt, typename Toestand>
 int regel(std::string const& naam, Echt echt, Toestand* toestand, int verzoek, void* waarde) {
   noteer(naam + " " + std::to_string(verzoek) + waardeVan(verzoek, waarde), toestand, waarde);
   int const resultaat = echt(toestand, verzoek, waarde);
-  return opname().liegt ? -1 : resultaat;
+  return opname().streek == Streek::liegt ? -1 : resultaat;
 }
 
 }  // namespace
@@ -114,7 +112,7 @@ void vangBitsDestroy(SpeexBits* bits) {
 }
 
 void vangBitsLees(SpeexBits* bits, char const* data, int bytes) {
-  if (opname().zwijgt) {
+  if (opname().streek == Streek::zwijgt) {
     return;
   }
   noteer("speex_bits_read_from " + std::to_string(bytes), bits, data);
@@ -123,7 +121,7 @@ void vangBitsLees(SpeexBits* bits, char const* data, int bytes) {
 
 int vangBitsSchrijf(SpeexBits* bits, char* doel, int grens) {
   noteer("speex_bits_write " + std::to_string(grens), bits, doel);
-  if (!opname().lang) {
+  if (opname().streek != Streek::lang) {
     return echtBitsSchrijf(bits, doel, grens);
   }
   for (int i = 0; i < grens; ++i) {
@@ -156,7 +154,7 @@ int vangEncoderCtl(void* toestand, int verzoek, void* waarde) {
 int vangEncode(void* toestand, float* samples, SpeexBits* bits) {
   noteer("speex_encode", toestand, samples);
   int const resultaat = echtEncode(toestand, samples, bits);
-  return opname().liegt ? -1 : resultaat;
+  return opname().streek == Streek::liegt ? -1 : resultaat;
 }
 
 int vangEncodeInt(void* toestand, spx_int16_t* in, SpeexBits* bits) {
@@ -177,7 +175,7 @@ void vangDecoderDestroy(void* toestand) {
 
 int vangDecoderCtl(void* toestand, int verzoek, void* waarde) {
   int const resultaat = regel("speex_decoder_ctl", echtDecoderCtl, toestand, verzoek, waarde);
-  if (opname().liegt && verzoek == SPEEX_GET_FRAME_SIZE) {
+  if (opname().streek == Streek::liegt && verzoek == SPEEX_GET_FRAME_SIZE) {
     constexpr spx_int32_t gelogen = 9999;
     std::memcpy(waarde, &gelogen, sizeof gelogen);
   }
@@ -190,7 +188,7 @@ int vangDecode(void* toestand, SpeexBits* bits, float* uit) {
 }
 
 int vangDecodeInt(void* toestand, SpeexBits* bits, spx_int16_t* uit) {
-  if (opname().zwijgt) {
+  if (opname().streek == Streek::zwijgt) {
     return -2;
   }
   noteer("speex_decode_int", toestand, uit);
@@ -241,26 +239,10 @@ std::vector<Oproep> metBegin(std::vector<Oproep> const& oproepen, std::string co
   return gevonden;
 }
 
-LiegendeBibliotheek::LiegendeBibliotheek() {
-  opname().liegt = true;
+MetStreek::MetStreek(Streek streek) {
+  opname().streek = streek;
 }
 
-LiegendeBibliotheek::~LiegendeBibliotheek() {
-  opname().liegt = false;
-}
-
-LangeFrames::LangeFrames() {
-  opname().lang = true;
-}
-
-LangeFrames::~LangeFrames() {
-  opname().lang = false;
-}
-
-StommeBibliotheek::StommeBibliotheek() {
-  opname().zwijgt = true;
-}
-
-StommeBibliotheek::~StommeBibliotheek() {
-  opname().zwijgt = false;
+MetStreek::~MetStreek() {
+  opname().streek = Streek::eerlijk;
 }

@@ -21,37 +21,23 @@ std::vector<std::string> teksten(std::vector<Oproep> const& oproepen);
 // Those of which the text begins like this.
 std::vector<Oproep> metBegin(std::vector<Oproep> const& oproepen, std::string const& begin);
 
-// While it lives, every control call and every encoding answers that it failed although it did not,
-// and every frame size is said to be 9999.
-class LiegendeBibliotheek {
- public:
-  LiegendeBibliotheek();
-  ~LiegendeBibliotheek();
-  LiegendeBibliotheek(LiegendeBibliotheek const&) = delete;
-  LiegendeBibliotheek& operator=(LiegendeBibliotheek const&) = delete;
-  LiegendeBibliotheek(LiegendeBibliotheek&&) = delete;
-  LiegendeBibliotheek& operator=(LiegendeBibliotheek&&) = delete;
+// How the library can misbehave.
+enum class Streek {
+  eerlijk,
+  liegt,   // every control call and every encoding answers that it failed although it did not, and
+           // every frame size is said to be 9999
+  zwijgt,  // no frame is decoded: each is said to be corrupt, and none is recorded
+  lang,    // every frame is as long as the encoder of the text allows, and holds the bytes 0, 1, 2
+           // and so on
 };
 
-// While it lives, every frame is as long as the encoder of the text allows, and holds the bytes 0,
-// 1, 2 and so on.
-class LangeFrames {
+// The library does so while this lives.
+class MetStreek {
  public:
-  LangeFrames();
-  ~LangeFrames();
-  LangeFrames(LangeFrames const&) = delete;
-  LangeFrames& operator=(LangeFrames const&) = delete;
-  LangeFrames(LangeFrames&&) = delete;
-  LangeFrames& operator=(LangeFrames&&) = delete;
-};
-
-// While it lives, no frame is decoded: each is said to be corrupt, and none is recorded.
-class StommeBibliotheek {
- public:
-  StommeBibliotheek();
-  ~StommeBibliotheek();
-  StommeBibliotheek(StommeBibliotheek const&) = delete;
-  StommeBibliotheek& operator=(StommeBibliotheek const&) = delete;
-  StommeBibliotheek(StommeBibliotheek&&) = delete;
-  StommeBibliotheek& operator=(StommeBibliotheek&&) = delete;
+  explicit MetStreek(Streek streek);
+  ~MetStreek();
+  MetStreek(MetStreek const&) = delete;
+  MetStreek& operator=(MetStreek const&) = delete;
+  MetStreek(MetStreek&&) = delete;
+  MetStreek& operator=(MetStreek&&) = delete;
 };

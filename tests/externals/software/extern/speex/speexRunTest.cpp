@@ -8,6 +8,7 @@
 
 #include "externals/software/extern/speex/speexDesktop.h"
 #include "numeriek/percentage.h"
+#include "tests/audio/codec/codecHulp.h"
 #include "tests/externals/software/extern/speex/arrayRegels.h"
 #include "tests/externals/software/extern/speex/speexOproepen.h"
 #include "tests/steun/tijdelijkeMap.h"
@@ -60,9 +61,7 @@ TEST_P(SpeexRun, NeitherPreprocessesNorResetsNorSetsUpAgain) {
   // 5120 samples in frames of 160, 320 or 640.
   EXPECT_EQ(metBegin(coderen, "speex_encode").size(), 32U >> static_cast<unsigned>(GetParam()));
 
-  std::string inhoud(tekst.GetSize(), '\0');
-  tekst.CopyTo(inhoud.data(), inhoud.size());
-  maakBestand(map.pad("tekst.c"), inhoud);
+  maakBestand(map.pad("tekst.c"), tekstVan(tekst));
   SpeexDesktopDecoder decoder(band, nullptr);
   neemOproepen();
   unsigned long long fragmenten = 0;
@@ -83,14 +82,13 @@ TEST(SpeexLangeFrames, AFrameOf200BytesGoesIntoTheTextAndBack) {
   wxMemoryOutputStream uit;
   neemOproepen();
   {
-    LangeFrames const lang;
+    MetStreek const lang(Streek::lang);
     Percentage verhouding;
     EXPECT_EQ(encoder.encode(wxFileName(map.pad("a.wav")), uit, true, verhouding), 0);
   }
   EXPECT_EQ(teksten(metBegin(neemOproepen(), "speex_bits_write")), Regels{"speex_bits_write 200"});
 
-  std::string tekst(uit.GetSize(), '\0');
-  uit.CopyTo(tekst.data(), tekst.size());
+  std::string const tekst = tekstVan(uit);
   Bytes frame(200);
   std::iota(frame.begin(), frame.end(), static_cast<unsigned char>(0));
   EXPECT_NE(tekst.find("/* Max bytes/encoded frame         : 200 bytes\t\t*/\n"),

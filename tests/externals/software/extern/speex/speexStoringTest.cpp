@@ -17,7 +17,7 @@ TEST(SpeexStoring, AnEncodingThatTheLibraryCallsFailedGoesIntoTheText) {
   TijdelijkeMap const map;
   schrijfWav(map.pad("toon.wav"), golf(480));
   Codering const eerlijk = codeer(Instelling(), map.pad("toon.wav"));
-  LiegendeBibliotheek const leugen;
+  MetStreek const leugen(Streek::liegt);
   Codering const gelogen = codeer(Instelling(), map.pad("toon.wav"));
   EXPECT_EQ(gelogen.resultaat, 0);
   EXPECT_EQ(gelogen.verhouding, eerlijk.verhouding);
@@ -70,7 +70,7 @@ TEST(SpeexStoring, DecodingEndsWhereTheSizesOfTheWavFileAreFull) {
   maakBestand(map.pad("in.c"), tekst);
   SpeexDesktopDecoder decoder(SpeexUltraWideband, nullptr);
   unsigned long long fragmenten = 0;
-  StommeBibliotheek const stom;
+  MetStreek const stom(Streek::zwijgt);
   SndStoring storing;
   storing.schijfLoos = true;
   MetSndStoring const met(storing);

@@ -48,10 +48,9 @@ TEST_F(SpeexVertaling, MessageAboutAFragmentComesFromTheCatalog) {
   maakBestand(map.pad("in.c"), "{0x40,0x1f,0x00,0x00,\n};\n");
   SpeexDesktopDecoder decoder(SpeexNarrowband, nullptr);
   unsigned long long fragmenten = 0;
-  EXPECT_EQ(
-      decoder.decode(wxFileName(wxTekst(map.pad("in.c"))), wxFileName(wxTekst(map.pad("uit.wav"))),
-                     fragmenten, SF_FORMAT_WAV | SF_FORMAT_PCM_16),
-      0);
+  EXPECT_EQ(decoder.decode(bestandsnaam(map.pad("in.c")), bestandsnaam(map.pad("uit.wav")),
+                           fragmenten, SF_FORMAT_WAV | SF_FORMAT_PCM_16),
+            0);
   std::vector<LogRegel> const log = neemLog();
   ASSERT_EQ(log.size(), 1U);
   EXPECT_EQ(log[0].tekst, wxTekst("Stuk 1: h\xC3\xA9 8000 Hz, 0 frames"));
