@@ -252,7 +252,8 @@ class SpeexRunBron : public SpeexRun {
                             "#include \"geluid.c\"\nint main() {\n";
     for (std::string const naam : {"bel", "tik", "zoem"}) {
       std::string const array = (doel.taal == 1 ? klasse + "::" : "") + naam;
-      programma += "  fwrite(" + array + ", 1, sizeof " + array + ", stdout);\n";
+      programma.append("  fwrite(").append(array).append(", 1, sizeof ").append(array);
+      programma += ", stdout);\n";
     }
     bestand("geluid.c", tekst);
     bestand("programma.c", programma + "  return 0;\n}\n");
