@@ -1,9 +1,12 @@
 // The text of a Speex run, whole: the languages, the bands, the widths of a DAC, the header, the
 // settings; files that end a run; and the mean of what came out.
+#include <array>
+#include <filesystem>
+#include <tuple>
+
 #include "tests/audio/codec/codecHulp.h"
 #include "tests/audio/uitvoer/runProef.h"
 #include "tests/externals/software/extern/speex/encoderTekstHulp.h"
-#include "tests/steun/opdracht.h"
 #include "tests/steun/wxMain.h"
 
 namespace {

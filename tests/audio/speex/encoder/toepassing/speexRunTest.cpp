@@ -6,6 +6,8 @@
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>
 
+#include <array>
+
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/codec/codecHulp.h"
 #include "tests/audio/speex/encoder/toepassing/speexRunProef.h"

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <ostream>
+#include <utility>
 
 #include "tests/audio/codec/codecHulp.h"
 #include "tests/externals/software/extern/speex/encoderTekstHulp.h"
