@@ -28,17 +28,26 @@ class UitBestand : public wxTranslationsLoader {
   std::string pad;
 };
 
+// Whatever the language, the toolkit takes it for Dutch.
+void neem(std::string const& mo) {
+  // The toolkit owns both.
+  auto* const talen = new wxTranslations;
+  wxTranslations::Set(talen);
+  talen->SetLoader(new UitBestand(mo));
+  talen->SetLanguage("nl");
+  EXPECT_TRUE(talen->AddCatalog("proef", wxLANGUAGE_ENGLISH_US)) << mo;
+}
+
 }  // namespace
 
 CatalogusInGebruik::CatalogusInGebruik(Vertalingen const& vertalingen) {
   TijdelijkeMap const map;
   maakCatalogus(map.pad("nl.mo"), vertalingen);
-  // The toolkit owns both.
-  auto* const talen = new wxTranslations;
-  wxTranslations::Set(talen);
-  talen->SetLoader(new UitBestand(map.pad("nl.mo")));
-  talen->SetLanguage("nl");
-  EXPECT_TRUE(talen->AddCatalog("proef", wxLANGUAGE_ENGLISH_US));
+  neem(map.pad("nl.mo"));
+}
+
+CatalogusInGebruik::CatalogusInGebruik(std::string const& mo) {
+  neem(mo);
 }
 
 CatalogusInGebruik::~CatalogusInGebruik() {

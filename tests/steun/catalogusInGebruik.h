@@ -11,6 +11,8 @@ class CatalogusInGebruik {
  public:
   // The test fails where the toolkit does not take them.
   explicit CatalogusInGebruik(Vertalingen const& vertalingen);
+  // The compiled catalog at this path.
+  explicit CatalogusInGebruik(std::string const& mo);
   ~CatalogusInGebruik();
   CatalogusInGebruik(CatalogusInGebruik const&) = delete;
   CatalogusInGebruik& operator=(CatalogusInGebruik const&) = delete;

@@ -40,13 +40,23 @@ std::string wavBytes(WavSoort const& soort, std::string const& data) {
   return wav + data;
 }
 
+std::string wavBytes(WavSoort const& soort, std::vector<int> const& waarden) {
+  constexpr int midden = 128;
+  std::string data;
+  for (int const waarde : waarden) {
+    int const opgeslagen = soort.bits == 8 ? waarde + midden : waarde;  // 8 bits stand unsigned
+    voegGetalToe(data, static_cast<std::uint32_t>(opgeslagen), soort.bits / 8);
+  }
+  return wavBytes(soort, data);
+}
+
+void schrijfWav(std::string const& pad, std::vector<int> const& waarden, WavSoort const& soort) {
+  maakBestand(pad, wavBytes(soort, waarden));
+}
+
 void maakWav(std::string const& pad, std::vector<std::int16_t> const& samples,
              WavSoort const& soort) {
-  std::string data;
-  for (std::int16_t const sample : samples) {
-    voegGetalToe(data, static_cast<std::uint16_t>(sample), 2);
-  }
-  maakBestand(pad, wavBytes(soort, data));
+  schrijfWav(pad, {samples.begin(), samples.end()}, soort);
 }
 
 void maakBestand(std::string const& pad, std::string const& inhoud) {

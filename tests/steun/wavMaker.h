@@ -17,7 +17,12 @@ struct WavSoort {
 // fmt chunk.
 std::string wavBytes(WavSoort const& soort, std::string const& data);
 
-// Writes a file of 16-bit PCM: `samples` interleaved where there is more than one channel.
+// The same for interleaved values, each within the width that `soort` asks for.
+std::string wavBytes(WavSoort const& soort, std::vector<int> const& waarden);
+
+// Writes a file of interleaved values.
+void schrijfWav(std::string const& pad, std::vector<int> const& waarden,
+                WavSoort const& soort = {});
 void maakWav(std::string const& pad, std::vector<std::int16_t> const& samples,
              WavSoort const& soort = {});
 

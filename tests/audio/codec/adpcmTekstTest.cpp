@@ -17,7 +17,7 @@ Bytes verseCodes(std::vector<int> const& samples, int deler = 1) {
 
 std::string const kopVanVijf =
     "\n/* Encoded on Linux (64 bit)\t\t*/\n"
-    "/* Date : DATE : TIME\t\t*/\n"
+    "/* Date : MOMENT\t\t*/\n"
     "/* WAV file : toon.wav\t\t*/\n"
     "/* WAV information :   \t\t*/\n"
     "/* Sampling frequency         : 8000 Hz\t\t*/\n"

@@ -7,7 +7,7 @@
 
 #include "tests/steun/opdracht.h"
 
-std::string const momentRegel = "/* Date : DATE : TIME\t\t*/\n";
+std::string const momentRegel = "/* Date : MOMENT\t\t*/\n";
 
 namespace {
 
@@ -21,14 +21,6 @@ std::string hexadecimaal(unsigned int waarde) {
 std::string tweeDecimalen(int honderdsten) {
   int const rest = honderdsten % 100;
   return std::to_string(honderdsten / 100) + (rest < 10 ? ".0" : ".") + std::to_string(rest);
-}
-
-// In whole hundredths of a second, with the half going up: no test here has a tie.
-std::string verwachteDuur(VerwachteTekst const& gegevens) {
-  if (gegevens.rate == 0) {
-    return "nan";
-  }
-  return tweeDecimalen((gegevens.frames * 200 / gegevens.rate + 1) / 2);
 }
 
 // Empty in a language that has no such line.
@@ -55,17 +47,6 @@ wxString wxTekst(std::string const& utf8) {
 
 wxFileName bestandsnaam(std::string const& pad) {
   return {wxTekst(pad)};
-}
-
-void schrijfWav(std::string const& pad, std::vector<int> const& waarden, WavSoort const& soort) {
-  std::string data;
-  for (int const waarde : waarden) {
-    int const opgeslagen = soort.bits == 8 ? waarde + 128 : waarde;  // 8 bits stand unsigned
-    Bytes const bytes = laagEerst(static_cast<unsigned long long>(opgeslagen),
-                                  static_cast<unsigned int>(soort.bits) / 8);
-    data.append(bytes.begin(), bytes.end());
-  }
-  maakBestand(pad, wavBytes(soort, data));
 }
 
 std::vector<int> golf(std::size_t aantal) {
@@ -153,6 +134,10 @@ std::vector<int> gedeeld(std::vector<int> waarden, int deler) {
   return waarden;
 }
 
+std::string verwachteDuur(int frames, int rate) {
+  return rate == 0 ? "nan" : tweeDecimalen((frames * 200 / rate + 1) / 2);
+}
+
 std::string verwachteRijen(Bytes const& bytes) {
   std::string rijen;
   for (std::size_t i = 0; i < bytes.size(); ++i) {
@@ -170,7 +155,8 @@ std::string maakVerwachteTekst(VerwachteTekst const& gegevens,
   tekst += "/* WAV information :   \t\t*/\n";
   tekst += "/* Sampling frequency         : " + std::to_string(gegevens.rate) + " Hz\t\t*/\n";
   tekst += "/* Original size              : " + std::to_string(gegevens.frames) + " frames\t\t*/\n";
-  tekst += "/* Original duration          : " + verwachteDuur(gegevens) + " s\t\t*/\n";
+  tekst += "/* Original duration          : " + verwachteDuur(gegevens.frames, gegevens.rate) +
+           " s\t\t*/\n";
   for (VerwachteTelling const& telling : tellingen) {
     tekst += tellingRegel(gegevens, telling);
   }

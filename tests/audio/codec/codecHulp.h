@@ -1,5 +1,5 @@
-// What the tests of the converters share: WAV files of any width, the text that comes out of a
-// stream, and the text that is expected, put together here by other means than the writer's.
+// What the tests of the converters share: the text that comes out of a stream, and the text that is
+// expected, put together here by other means than the writer's.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -14,10 +14,6 @@
 
 wxString wxTekst(std::string const& utf8);
 wxFileName bestandsnaam(std::string const& pad);
-
-// Interleaved values, each within the width that `soort` asks for.
-void schrijfWav(std::string const& pad, std::vector<int> const& waarden,
-                WavSoort const& soort = {});
 
 // `aantal` values over the whole 16-bit range.
 std::vector<int> golf(std::size_t aantal);
@@ -65,6 +61,9 @@ struct VerwachteTelling {
 std::string maakVerwachteTekst(VerwachteTekst const& gegevens,
                                std::vector<VerwachteTelling> const& tellingen, Bytes const& beeld);
 std::string maakVerwachteTekst(VerwachteTekst const& gegevens);
+
+// The seconds of a fragment, in whole hundredths with the half going up: no test has a tie.
+std::string verwachteDuur(int frames, int rate);
 
 // The rows of an array.
 std::string verwachteRijen(Bytes const& bytes);

@@ -106,7 +106,7 @@ TEST(FragmentTekst, schrijftAchterWatErAlStaat) {
 TEST(FragmentTekstKop, alleRegels) {
   EXPECT_EQ(kop("/een/pad/toon.wav", gegevens(12345, 8000)),
             "\n/* Encoded on Linux (64 bit)\t\t*/\n"
-            "/* Date : DATE : TIME\t\t*/\n"
+            "/* Date : MOMENT\t\t*/\n"
             "/* WAV file : toon.wav\t\t*/\n"
             "/* WAV information :   \t\t*/\n"
             "/* Sampling frequency         : 8000 Hz\t\t*/\n"
@@ -117,7 +117,7 @@ TEST(FragmentTekstKop, alleRegels) {
 TEST(FragmentTekstKop, onbekendBestandHeeftNullenEnNan) {
   EXPECT_EQ(kop("a.b %d%s%n 100%.WAV", SF_INFO{}),
             "\n/* Encoded on Linux (64 bit)\t\t*/\n"
-            "/* Date : DATE : TIME\t\t*/\n"
+            "/* Date : MOMENT\t\t*/\n"
             "/* WAV file : a.b %d%s%n 100%.WAV\t\t*/\n"
             "/* WAV information :   \t\t*/\n"
             "/* Sampling frequency         : 0 Hz\t\t*/\n"

@@ -41,7 +41,6 @@ TEST_F(InbedBeeld, isWatInDeArrayStaat) {
   schrijfWav(toon, golf(100));
   VerwachtBlok blok;
   blok.frames = 100;
-  blok.duur = "0.01";
   blok.bits = 8;
   std::string const tekst = inbed(toon, 8);
   EXPECT_EQ(beeld().size(), 244U);
@@ -68,7 +67,6 @@ TEST_F(InbedBeeld, zonderTijdelijkeMapIsDeArrayLeegEnMeldtDeToolkitHet) {
   OmgevingsWaarde const vol("TMPDIR", "/proc");
   VerwachtBlok blok;
   blok.frames = 100;
-  blok.duur = "0.01";
   EXPECT_TRUE(zelfdeTekst(inbed(toon), verwachteInbedding(blok, {})));
   std::vector<LogRegel> const log = neemLog();
   ASSERT_EQ(log.size(), 1U);

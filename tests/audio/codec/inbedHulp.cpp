@@ -78,7 +78,8 @@ std::string verwachteInbedding(VerwachtBlok const& blok, Bytes const& beeld) {
   tekst += "/* WAV Format                 : " + blok.formaat + "\t*/\n";
   tekst += "/* Sampling frequency         : " + std::to_string(blok.rate) + " Hz\t\t*/\n";
   tekst += "/* Size                       : " + std::to_string(blok.frames) + " bytes\t\t*/\n";
-  tekst += "/* Duration                   : " + blok.duur + " s\t\t*/\n";
+  tekst +=
+      "/* Duration                   : " + verwachteDuur(blok.frames, blok.rate) + " s\t\t*/\n";
   tekst += "/* Full Scale gain adapted to : " + std::to_string(blok.bits) + " bits\t\t*/\n\n";
   tekst += arrayKop(blok) + inbedRijen(beeld) + "};\n\n";
   return tekst + "/* end of WAV file         : " + blok.bestand + "         */\n";

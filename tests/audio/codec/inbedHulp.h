@@ -8,13 +8,11 @@
 #include <string>
 #include <vector>
 
+#include "audio/codec/wavFormaat.h"
 #include "tests/audio/codec/codecHulp.h"
 #include "tests/steun/bytes.h"
 #include "tests/steun/omgevingsWaarde.h"
 #include "tests/steun/tijdelijkeMap.h"
-
-constexpr int wavPcm16 = SF_FORMAT_WAV | SF_FORMAT_PCM_16;
-constexpr int wavAdpcm = SF_FORMAT_WAV | SF_FORMAT_IMA_ADPCM;
 
 struct SndInhoud {
   SF_INFO info;
@@ -37,7 +35,6 @@ struct VerwachtBlok {
   std::string formaat = "WAV S16 PCM";
   int rate = 8000;
   int frames = 0;
-  std::string duur = "0.00";
   int bits = 16;
 };
 

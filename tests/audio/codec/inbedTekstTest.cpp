@@ -18,7 +18,7 @@ namespace {
 // A WAV file of two samples, 1 and -1, by the definition of the format: 48 bytes.
 std::string const kop =
     "\n/* Embedded on Linux (64 bit)\t\t*/\n"
-    "/* Date : DATE : TIME\t\t*/\n"
+    "/* Date : MOMENT\t\t*/\n"
     "/* WAV file : toon.wav\t\t*/\n"
     "/* WAV information :   \t\t*/\n"
     "/* WAV Format                 : WAV S16 PCM\t*/\n"
@@ -87,7 +87,6 @@ TEST_F(InbedTekst, elkeLengteRondDeRijenEnDeBlokkenVanHetLezen) {
     VerwachtBlok blok;
     blok.rate = 32000;
     blok.frames = lengte;
-    blok.duur = lengte < 10 ? "0.00" : (lengte == 40001 ? "1.25" : "1.02");
     EXPECT_TRUE(zelfdeTekst(inbed(toon), verwachteInbedding(blok, sndBeeld(samples, {32000}))))
         << lengte;
   }
@@ -116,7 +115,6 @@ TEST_F(InbedTekst, alleBytesInEenArray) {
   schrijfWav(toon, samples);
   VerwachtBlok blok;
   blok.frames = 128;
-  blok.duur = "0.02";
   EXPECT_TRUE(zelfdeTekst(inbed(toon), verwachteInbedding(blok, sndBeeld(samples))));
 }
 
@@ -143,7 +141,7 @@ std::string const zonderBron =
 TEST_F(InbedTekst, verdwenenBronHeeftHetHeleBlokMetNullenNanEnEenLegeArray) {
   EXPECT_TRUE(zelfdeTekst(inbed(map.pad("weg.wav"), 12),
                           "\n/* Embedded on Linux (64 bit)\t\t*/\n"
-                          "/* Date : DATE : TIME\t\t*/\n"
+                          "/* Date : MOMENT\t\t*/\n"
                           "/* WAV file : weg.wav\t\t*/\n" +
                               zonderBron));
   EXPECT_TRUE(beeld().empty());
@@ -160,8 +158,10 @@ TEST_F(InbedTekst, frequentieFramesEnDuurStaanInHunRegels) {
   schrijfWav(toon, golf(12345));
   VerwachtBlok blok;
   blok.frames = 12345;
-  blok.duur = "1.54";
-  EXPECT_TRUE(zelfdeTekst(inbed(toon), verwachteInbedding(blok, sndBeeld(golf(12345)))));
+  std::string const tekst = inbed(toon);
+  EXPECT_TRUE(zelfdeTekst(tekst, verwachteInbedding(blok, sndBeeld(golf(12345)))));
+  EXPECT_NE(tekst.find(" 12345 bytes\t\t*/\n/* Duration                   : 1.54 s\t"),
+            std::string::npos);
 }
 
 // "2024-01-31 : 09:05:00", as it stands in the text of one file.
@@ -187,7 +187,6 @@ TEST_F(InbedTekst, duurHoudtZijnPuntInElkeLocale) {
   schrijfWav(toon, golf(12345));
   VerwachtBlok blok;
   blok.frames = 12345;
-  blok.duur = "1.54";
   std::string const verwacht = verwachteInbedding(blok, sndBeeld(golf(12345)));
   for (char const* const naam : {"nl_NL.UTF-8", "de_DE.UTF-8", "fr_FR.UTF-8"}) {
     TijdelijkeLocale const locale(LC_ALL, naam);

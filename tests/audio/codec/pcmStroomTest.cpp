@@ -23,7 +23,7 @@ std::string stroomTekst(std::string const& pad, bool metHeader, PCMEncoderOpties
 // The text of a file that counts as one of 0 samples at 0 Hz, in C with header.
 std::string leegC(std::string const& bestand, std::string const& naam) {
   return "\n/* Encoded on Linux (64 bit)\t\t*/\n"
-         "/* Date : DATE : TIME\t\t*/\n"
+         "/* Date : MOMENT\t\t*/\n"
          "/* WAV file : " +
          bestand +
          "\t\t*/\n"

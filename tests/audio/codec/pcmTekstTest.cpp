@@ -20,7 +20,7 @@ std::string tekst(std::string const& pad, bool metHeader, PCMEncoderOpties const
 
 std::string const kopVanDrie =
     "\n/* Encoded on Linux (64 bit)\t\t*/\n"
-    "/* Date : DATE : TIME\t\t*/\n"
+    "/* Date : MOMENT\t\t*/\n"
     "/* WAV file : toon.wav\t\t*/\n"
     "/* WAV information :   \t\t*/\n"
     "/* Sampling frequency         : 8000 Hz\t\t*/\n"

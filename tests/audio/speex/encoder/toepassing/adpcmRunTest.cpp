@@ -1,71 +1,46 @@
 // What an ADPCM run does with the settings, the files and the window.
 #include <wx/choice.h>
+#include <wx/radiobox.h>
+#include <wx/textctrl.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
-#include "tests/audio/codec/adpcmModel.h"
 #include "tests/audio/codec/codecHulp.h"
-#include "tests/audio/speex/encoder/toepassing/vreemdeBestanden.h"
 #include "tests/audio/speex/encoder/toepassing/werkProef.h"
+#include "tests/audio/uitvoer/verwachteRun.h"
 
 namespace {
 
-class AdpcmRunProef : public WerkProef {
- protected:
-  // Encodes for the DAC in this row, whose scaling divides by `deler`, and compares the array.
-  void verwachtBijDac(int rij, int deler) {
-    beginAdpcm();
-    kies(keuze(ID_DAC_TYPE), rij);
-    std::vector<std::int16_t> const samples = proefSamples(1001);
-    laad({wav("bel.wav", samples, {16000})});
-    AdpcmStand stand;
-    Bytes const codes = modelBytes(stand, {samples.begin(), samples.end()}, deler);
-    EXPECT_EQ(rijen(codeer()), wxTekst(verwachteRijen(modelBeeld(codes, 16000, true))));
-  }
-};
+using AdpcmRunProef = WerkProef;
 
-// With a DAC of 8 bits every sample divides to nothing, whatever the file holds.
-TEST_F(AdpcmRunProef, AnEightBitDacGivesSilence) {
-  beginAdpcm();
-  kies(keuze(ID_DAC_TYPE), 0);
-  laad({wav("bel.wav", {32767, -32768, 127, -128, 255, -1})});
-  EXPECT_EQ(rijen(codeer()), "\t0x3,0x0,0x0,0x0,0x40,0x1f,0x0,0x0,\n\t0x0,0x0,0x0,0x0,\n");
+// None of these settings is that of the start.
+TEST_F(AdpcmRunProef, TheSettingsOfTheControlsReachTheTextWhichIsShownAndSavedAsItIs) {
+  beginAdpcm(0);
+  laad({wav("één.wav", proefSamples(3000)), wav("b.wav", proefSamples(11))});
+  kies(radio(ID_LANG_IMPL), 1);
+  typ(veld(ID_KLASSE), "Klok");
+  kies(keuze(ID_DAC_TYPE), 1);
+  zonderHeader();
+  EXPECT_TRUE(zelfdeTekst(
+      codeer().utf8_string(),
+      verwachteRun(Wijze::adpcm, {1, "Klok", 10, false}, {{"b", golf(11)}, {"één", golf(3000)}})));
+  bewaar(pad("uit.cpp"));
+  EXPECT_EQ(inhoud(pad("uit.cpp")), tekst());
 }
 
-TEST_F(AdpcmRunProef, ATenBitDacDividesTheLowByteBy64) {
-  verwachtBijDac(1, 64);
-}
-
-TEST_F(AdpcmRunProef, ATwelveBitDacDividesTheLowByteBy16) {
-  verwachtBijDac(2, 16);
-}
-
-TEST_F(AdpcmRunProef, ASixteenBitDacTakesTheLowByteAsItIs) {
-  verwachtBijDac(3, 1);
-}
-
-TEST_F(AdpcmRunProef, AnAdpcmFileIsDecodedFirst) {
-  beginAdpcm();
-  laad({bestand("bel.wav", imaAdpcmWav(32000, 0x123))});
-  // 505 frames of the low byte 0x23.
+TEST_F(AdpcmRunProef, TheCoderGoesOnFromRunToRunOverOtherEncodersFilesAndSettings) {
+  std::vector<RunFragment> const twee{{"bel", {1, -1, 100, -100, 5}}, {"zoem", {0, 0, 0, 0}}};
   AdpcmStand stand;
-  Bytes const codes = modelBytes(stand, std::vector<int>(505, 0x23), 1);
-  EXPECT_EQ(rijen(codeer()), wxTekst(verwachteRijen(modelBeeld(codes, 32000, true))));
-}
-
-TEST_F(AdpcmRunProef, AFileThatVanishedAfterTheLoadGivesAFragmentOfNothingAndIsTold) {
-  beginAdpcm();
-  wxString const bel = wav("bel.wav", {1, 2, 3});
-  laad({bel});
-  ASSERT_TRUE(wxRemoveFile(bel));
-  wxString const text = codeer();
+  beginAdpcm(1);
+  laad({wav("bel.wav", {1, -1, 100, -100, 5}), wav("zoem.wav", {0, 0, 0, 0})});
+  EXPECT_TRUE(zelfdeTekst(codeer().utf8_string(), verwachteRun(Wijze::adpcm, {1}, twee, stand)));
+  kies(radio(ID_ENCODER_TYPE), EncoderPCM);
+  EXPECT_TRUE(zelfdeTekst(codeer().utf8_string(), verwachteRun(Wijze::pcm, {1}, twee)));
+  kies(radio(ID_ENCODER_TYPE), EncoderADPCM);
+  kies(radio(ID_LANG_IMPL), 0);
+  EXPECT_TRUE(zelfdeTekst(codeer().utf8_string(), verwachteRun(Wijze::adpcm, {0}, twee, stand)));
+  laad({pad("bel.wav")});
   EXPECT_TRUE(
-      text.Contains("/* Sampling frequency         : 0 Hz\t\t*/\n"
-                    "/* Original size              : 0 frames\t\t*/\n"
-                    "/* Original duration          : nan s\t\t*/\n"
-                    "/* const unsigned int bel_adpcmNumberOfEncSamples=0; */\n"
-                    "/* const unsigned int bel_pcmNumberOfSamples=0; */\n"));
-  EXPECT_EQ(rijen(text), "\t0x0,0x0,0x0,0x0,0x0,0x0,0x0,0x0,\n\t0x0,\n");
-  EXPECT_EQ(fouten(), std::vector<wxString>{"Could not read the whole of " + bel});
+      zelfdeTekst(codeer().utf8_string(), verwachteRun(Wijze::adpcm, {0}, {twee[0]}, stand)));
 }
 
 TEST_F(AdpcmRunProef, TheMessageTellsTheDirectoryOfTheOpenDialog) {
@@ -77,22 +52,6 @@ TEST_F(AdpcmRunProef, StatusAndEnablingFollowOnlyAfterTheMessage) {
   beginAdpcm();
   laad({wav("bel.wav")});
   verwachtGevolgNaMelding("Audio encoded in ADPCM embedded format");
-}
-
-TEST_F(AdpcmRunProef, TheMenuItemEncodesToo) {
-  beginAdpcm();
-  laad({wav("bel.wav")});
-  antwoorden.opBericht(wxID_OK);
-  kiesMenu(ID_CODEER);
-  EXPECT_EQ(status(), "Audio encoded in ADPCM embedded format");
-}
-
-TEST_F(AdpcmRunProef, TheTextFieldShowsExactlyWhatIsSaved) {
-  beginAdpcm(1);
-  laad({wav("één.wav", proefSamples(3000)), wav("b.wav", proefSamples(11))});
-  codeer();
-  bewaar(pad("uit.cpp"));
-  EXPECT_EQ(inhoud(pad("uit.cpp")), tekst());
 }
 
 }  // namespace

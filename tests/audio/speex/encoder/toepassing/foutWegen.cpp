@@ -23,8 +23,6 @@ constexpr char const* instellingenBestand = "thuis/.Kestrolin";
 // The samples of a Speex frame: the smallest block that sound takes.
 constexpr std::size_t bytesVanFrame = 320;
 
-constexpr int imaAdpcm = 0x10012;
-
 }  // namespace
 
 std::vector<Weg> const wegen = {
@@ -52,7 +50,7 @@ void PrintTo(Weg const& weg, std::ostream* uit) {
 
 void FoutWegen::maakBestanden() {
   wav("bel.wav", proefSamples(1200));
-  schrijfSnd(map.pad("zoem.wav"), golf(700), {}, imaAdpcm);
+  schrijfSnd(map.pad("zoem.wav"), golf(700), {}, wavAdpcm);
   // Embedded it is more than what one write takes.
   wav("lang.wav", proefSamples(8000));
   wav("kort.wav", proefSamples(200));

@@ -1,8 +1,10 @@
 // Where the embedded files go: into new files, into files that are there, and what the window tells
 // of it and leaves as it was.
 #include <wx/button.h>
+#include <wx/choice.h>
 #include <wx/filename.h>
 #include <wx/radiobox.h>
+#include <wx/textctrl.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/inbedVensterProef.h"
@@ -10,6 +12,36 @@
 namespace {
 
 using InbedBewarenProef = InbedVensterProef;
+
+// None of these settings is that of the start.
+TEST_F(InbedBewarenProef, TheSettingsOfTheControlsReachTheTextOfANewFileAndTheField) {
+  begin(0);
+  laad({wav("één %s%n.wav", proefSamples(300)), wav("b.wav", {})});
+  kies(radio(ID_LANG_IMPL), 1);
+  typ(veld(ID_KLASSE), "Klok");
+  kies(keuze(ID_DAC_TYPE), 0);
+  inbed(pad("100%s%n.cpp"));
+  EXPECT_TRUE(zelfdeTekst(
+      gelezen(pad("100%s%n.cpp")),
+      verwachteRun(Wijze::inbed, {1, "Klok", 8}, {{"b", {}}, {"één %s%n", golf(300)}})));
+  EXPECT_EQ(tekst(), inhoud(pad("100%s%n.cpp")));
+  EXPECT_EQ(status(), "WAV embedded data saved in 100%s%n.cpp");
+  EXPECT_TRUE(antwoorden.berichten.empty());
+  EXPECT_EQ(voortgang(), nullptr);
+  EXPECT_TRUE(nietsGelogd(log()));
+}
+
+TEST_F(InbedBewarenProef, NoFilesGiveTheHeadWithTheNumber0AndNoBlock) {
+  beginMetBel();
+  laad({bestand("geen.wav", "This is no sound at all.\n")});
+  log().clear();
+  ASSERT_TRUE(isGeladen());
+  inbed(pad("uit.c"));
+  EXPECT_TRUE(zelfdeTekst(gelezen(pad("uit.c")), verwachteRun(Wijze::inbed, {}, {})));
+  EXPECT_EQ(tekst(), inhoud(pad("uit.c")));
+  EXPECT_EQ(status(), "WAV embedded data saved in uit.c");
+  EXPECT_TRUE(nietsGelogd(log()));
+}
 
 TEST_F(InbedBewarenProef,
        TheNameAndTheAnswerAreForTheExactPathAndOnlyTheStatusTextGluesTheExtensionOn) {
@@ -49,11 +81,9 @@ TEST_F(InbedBewarenProef, TheAnswerYesAddsANewHeadAndAllBlocksBehindWhatStandsTh
   EXPECT_EQ(tekst(), inhoud(doel));
   laad({wav("bel.wav", {7}), wav("zoem.wav", {})});
   inbedOver(doel, wxID_YES);
-  EXPECT_TRUE(
-      zelfdeTekst(gelezen(doel), "één regel" + verwachteBel() +
-                                     verwachteTekst("// extern const unsigned char bel[];\n"
-                                                    "// extern const unsigned char zoem[];\n",
-                                                    {{"bel", {7}}, {"zoem", {}}})));
+  EXPECT_TRUE(zelfdeTekst(
+      gelezen(doel),
+      "één regel" + verwachteBel() + verwachteRun(Wijze::inbed, {}, {{"bel", {7}}, {"zoem", {}}})));
   EXPECT_EQ(tekst(), inhoud(doel));
   EXPECT_EQ(status(), "WAV embedded data saved in oud.c");
 }

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "tests/audio/speex/encoder/toepassing/speexRunProef.h"
-#include "tests/audio/speex/encoder/toepassing/taalCatalogus.h"
+#include "tests/steun/taalCatalogus.h"
 
 // A language that the program has catalogs of.
 struct Taal {

@@ -6,10 +6,10 @@
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
 #include <wx/progdlg.h>
-#include <wx/regex.h>
 #include <wx/toplevel.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/audio/codec/codecHulp.h"
 
 void WerkProef::begin(int taal, wxString const& vensterRegels, wxString const& speexRegels,
                       wxString const& meer) {
@@ -130,11 +130,7 @@ wxGenericProgressDialog* voortgang() {
 }
 
 wxString WerkProef::zonderMoment(wxString const& tekst) {
-  static wxRegEx const moment(
-      "/\\* Date : [0-9]{4}-[0-9]{2}-[0-9]{2} : [0-9]{2}:[0-9]{2}:[0-9]{2}\t\t\\*/");
-  wxString zonder = tekst;
-  moment.ReplaceAll(&zonder, "/* Date : MOMENT\t\t*/");
-  return zonder;
+  return wxTekst(zonderMomenten(tekst.utf8_string()));
 }
 
 wxString WerkProef::rijen(wxString const& tekst) {

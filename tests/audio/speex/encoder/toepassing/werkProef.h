@@ -65,8 +65,7 @@ class WerkProef : public VensterProef {
   // this encoder.
   void verwachtMeldingVan(wxString const& encoder);
 
-  // The text with the date and time of each fragment replaced by "MOMENT". A moment of another
-  // shape than 2020-12-31 : 23:59:59 stays.
+  // zonderMomenten (codecHulp.h) of a text of the toolkit.
   static wxString zonderMoment(wxString const& tekst);
   // The data rows of the first array in a text.
   static wxString rijen(wxString const& tekst);

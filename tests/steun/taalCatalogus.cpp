@@ -1,4 +1,4 @@
-#include "tests/audio/speex/encoder/toepassing/taalCatalogus.h"
+#include "tests/steun/taalCatalogus.h"
 
 #include <gtest/gtest.h>
 
