@@ -1,5 +1,7 @@
 // The text of one fragment as a whole, of PCM and of ADPCM: the languages, the lengths, the DAC
 // widths, the names.
+#include <wx/translation.h>
+
 #include <clocale>
 #include <filesystem>
 
@@ -150,28 +152,42 @@ TYPED_TEST(ConverterTekst, alleenDeUitlegVanDeHeaderIsVertaald) {
       "    Bytes 6..End:Data  */\n\n";
   std::string const vertaling = "\n/* Erkl\xC3\xA4rung, 100%s */\n";
   Vertalingen vertalingen{{uitleg, vertaling}};
-  for (std::string const regel :
-       {"\n/* Encoded on ", "/* Date : ", "/* WAV file : ", "/* WAV information :   \t\t*/\n",
-        "/* Sampling frequency         : %d Hz\t\t*/\n",
-        "/* Original size              : %d frames\t\t*/\n",
-        "/* Original duration          : %.2lf s\t\t*/\n",
-        "/* Original duration          : ", "/* const unsigned int ", "_adpcmNumberOfEncSamples",
-        "_adpcmNumberOfEncSamples=%d; */\n", "_pcmNumberOfEncSamples", "_pcmNumberOfSamples",
-        "_pcmNumberOfSamples=%d; */\n", "const unsigned char ", "unsigned char", "[] = \n{\n",
-        "\n};\n\n", "/* end of encoded WAV file         : "}) {
+  for (std::string const regel : {"\n/* Encoded on ",
+                                  "/* Date : ",
+                                  "/* WAV file : ",
+                                  "/* WAV information :   \t\t*/\n",
+                                  "/* Sampling frequency         : %d Hz\t\t*/\n",
+                                  "/* Original size              : %d frames\t\t*/\n",
+                                  "/* Original duration          : %.2lf s\t\t*/\n",
+                                  "/* Original duration          : ",
+                                  "/* const unsigned int ",
+                                  "_adpcmNumberOfEncSamples",
+                                  "_adpcmNumberOfEncSamples=%d; */\n",
+                                  "_pcmNumberOfEncSamples",
+                                  "_pcmNumberOfSamples",
+                                  "_pcmNumberOfSamples=%d; */\n",
+                                  "const unsigned char ",
+                                  "unsigned char",
+                                  "nan",
+                                  "0.00",
+                                  " s\t\t*/\n",
+                                  "[] = \n{\n",
+                                  "\n};\n\n",
+                                  "/* end of encoded WAV file         : "}) {
     vertalingen[regel] = "VERTAALD";
   }
   schrijfWav(this->toon, {1, -1});
   CatalogusInGebruik const catalogus(vertalingen);
-  for (bool const metHeader : {true, false}) {
-    VerwachteTekst gegevens;
-    gegevens.metHeader = metHeader;
-    gegevens.frames = 2;
-    std::string verwacht = TypeParam().tekst(gegevens, {1, -1});
-    if (metHeader) {
-      verwacht.replace(verwacht.find(uitleg), uitleg.size(), vertaling);
+  ASSERT_EQ(wxGetTranslation("unsigned char"), "VERTAALD");
+  for (int const taal : {0, 1}) {
+    for (bool const metHeader : {true, false}) {
+      VerwachteTekst const gegevens{taal, metHeader, "K", "toon", "toon.wav", 8000, 2, {}};
+      std::string verwacht = TypeParam().tekst(gegevens, {1, -1});
+      if (metHeader) {
+        verwacht.replace(verwacht.find(uitleg), uitleg.size(), vertaling);
+      }
+      EXPECT_TRUE(zelfdeTekst(this->tekst(this->opties(taal), this->toon, metHeader), verwacht));
     }
-    EXPECT_TRUE(zelfdeTekst(this->tekst(this->opties(0), this->toon, metHeader), verwacht));
   }
 }
 

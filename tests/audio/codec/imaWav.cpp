@@ -1,11 +1,9 @@
 #include "tests/audio/codec/imaWav.h"
 
 #include <gtest/gtest.h>
-#include <sndfile.h>
 
 #include <algorithm>
 #include <cstddef>
-#include <memory>
 
 #include "tests/steun/opdracht.h"
 #include "tests/steun/wavMaker.h"
@@ -13,11 +11,6 @@
 namespace {
 
 constexpr std::size_t kopGrootte = 4;  // of a block
-
-struct Sluiter {
-  void operator()(SNDFILE* handvat) const { sf_close(handvat); }
-};
-using Handvat = std::unique_ptr<SNDFILE, Sluiter>;
 
 void zetBij(Bytes& doel, unsigned long long waarde, unsigned int aantal) {
   Bytes const bytes = laagEerst(waarde, aantal);
@@ -108,32 +101,6 @@ void schrijfImaBlokken(std::string const& pad, std::vector<ImaBlok> const& blokk
     bytes.insert(bytes.end(), blok.codes.begin(), blok.codes.end());
   }
   maakBestand(pad, std::string(bytes.begin(), bytes.end()));
-}
-
-void schrijfMetSndfile(std::string const& pad, std::vector<int> const& samples) {
-  SF_INFO info{};
-  info.samplerate = 44100;  // the higher, the longer its blocks
-  info.channels = 1;
-  info.format = SF_FORMAT_WAV | SF_FORMAT_IMA_ADPCM;
-  Handvat const bestand(sf_open(pad.c_str(), SFM_WRITE, &info));
-  ASSERT_TRUE(bestand);
-  std::vector<short> blok(samples.size());
-  std::transform(samples.begin(), samples.end(), blok.begin(),
-                 [](int sample) { return static_cast<short>(sample); });
-  auto const aantal = static_cast<sf_count_t>(blok.size());
-  ASSERT_EQ(sf_write_short(bestand.get(), blok.data(), aantal), aantal);
-}
-
-std::vector<int> leesMetSndfile(std::string const& pad) {
-  SF_INFO info{};
-  Handvat const bestand(sf_open(pad.c_str(), SFM_READ, &info));
-  if (!bestand) {
-    ADD_FAILURE() << sf_strerror(nullptr);
-    return {};
-  }
-  std::vector<short> blok(static_cast<std::size_t>(info.frames));
-  EXPECT_EQ(sf_read_short(bestand.get(), blok.data(), info.frames), info.frames);
-  return {blok.begin(), blok.end()};
 }
 
 std::vector<int> leesMetSox(std::string const& pad, std::string const& ruw) {

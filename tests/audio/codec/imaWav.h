@@ -28,9 +28,5 @@ std::vector<ImaBlok> leesImaBlokken(std::string const& pad);
 // the same one.
 void schrijfImaBlokken(std::string const& pad, std::vector<ImaBlok> const& blokken);
 
-// The other program: libsndfile, from and to 16-bit samples. The last block of what it writes is
-// filled up.
-void schrijfMetSndfile(std::string const& pad, std::vector<int> const& samples);
-std::vector<int> leesMetSndfile(std::string const& pad);
-// And sox, which has a coder of its own. The file `ruw` takes its samples.
+// The samples by sox, which has a coder of its own. The file `ruw` takes them.
 std::vector<int> leesMetSox(std::string const& pad, std::string const& ruw);

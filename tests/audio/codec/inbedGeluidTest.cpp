@@ -197,16 +197,6 @@ class InbedCompileer : public InbedProef {
   }
 };
 
-TEST_F(InbedCompileer, cArrayIsEenWavBeeldMetDeGeschaaldeSamples) {
-  schrijfWav(toon, golf(801), {16000});
-  verwacht(inC(10), geschaald(golf(801), 10), {16000}, wavPcm16);
-}
-
-TEST_F(InbedCompileer, cppArrayIsEenWavBeeldMetDeGeschaaldeSamples) {
-  schrijfWav(toon, golf(802), {32000});
-  verwacht(inCpp(8), geschaald(golf(802), 8), {32000}, wavPcm16);
-}
-
 TEST_F(InbedCompileer, stereoArrayIsEenStereoBeeld) {
   std::vector<int> const waarden = golf(22);
   schrijfWav(toon, waarden, {8000, 2});

@@ -80,17 +80,6 @@ TEST_P(RunWijzen, OfAFileThatVanishedThereIsAFragmentOfNothingAndAWordAboutIt) {
   }
 }
 
-TEST_P(RunWijzen, AFileThatChangedBetweenRunsGivesWhatItIsNow) {
-  neem({{"bel", {1, 2, 3}}});
-  tekst();
-  neem({{"bel", {0, 0}}}, 44100);
-  RunVorm vorm;
-  vorm.rate = 44100;
-  AdpcmStand stand;
-  modelBytes(stand, {1, 2, 3}, 1);
-  EXPECT_TRUE(zelfdeTekst(tekst(), verwachteRun(GetParam(), vorm, {{"bel", {0, 0}}}, stand)));
-}
-
 TEST_P(RunWijzen, TheDurationIsRoundedAndKeepsItsPointInAGermanLocale) {
   std::vector<RunFragment> const fragmenten{{"bel", golf(12344)}};  // 1.543 s
   neem(fragmenten);

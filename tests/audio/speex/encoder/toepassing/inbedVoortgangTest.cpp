@@ -10,27 +10,6 @@ namespace {
 
 using InbedVoortgangProef = InbedVensterProef;
 
-TEST_F(InbedVoortgangProef, TheProgressStandsBehindTheQuestionAndKeepsTheWindowFromTakingInput) {
-  begin();
-  laad({wav("a.wav"), wav("b.wav"), wav("c.wav")});
-  inbedOver(bestand("oud.c", "oud\n"), wxID_NO, [this] {
-    wxGenericProgressDialog* const dialoog = voortgang();
-    ASSERT_NE(dialoog, nullptr);
-    EXPECT_EQ(dialoog->GetTitle(), "Embedding progress");
-    EXPECT_EQ(dialoog->GetMessage(), "Completion of embedding progress");
-    EXPECT_EQ(dialoog->GetRange(), 3);
-    EXPECT_EQ(dialoog->GetValue(), 0);
-    EXPECT_EQ(dialoog->GetParent(), venster);
-    EXPECT_TRUE(dialoog->IsShown());
-    EXPECT_EQ(dialoog->FindWindow(wxID_CANCEL), nullptr);
-    EXPECT_FALSE(venster->IsEnabled());
-    // Nothing of the old file is gone before the answer.
-    EXPECT_EQ(inhoud(pad("oud.c")), "oud\n");
-  });
-  EXPECT_EQ(voortgang(), nullptr);
-  EXPECT_TRUE(venster->IsEnabled());
-}
-
 // The labels that stand in a window.
 std::vector<wxString> labels(wxWindow const& venster) {
   std::vector<wxString> gevonden;
@@ -42,19 +21,34 @@ std::vector<wxString> labels(wxWindow const& venster) {
   return gevonden;
 }
 
-TEST_F(InbedVoortgangProef, TheProgressTellsTheElapsedTimeAndIsModalToAllWindows) {
-  beginMetBel();
+TEST_F(InbedVoortgangProef, TheProgressStandsBehindTheQuestionAndKeepsAllWindowsFromTakingInput) {
+  begin();
+  laad({wav("a.wav"), wav("b.wav"), wav("c.wav")});
   auto* const ander = new wxFrame(nullptr, wxID_ANY, "ander");
   ander->Show();
   rust();
-  inbedOver(bestand("oud.c", "oud\n"), wxID_NO, [ander] {
-    std::vector<wxString> const gevonden = labels(*voortgang());
+  inbedOver(bestand("oud.c", "oud\n"), wxID_NO, [this, ander] {
+    wxGenericProgressDialog* const dialoog = voortgang();
+    ASSERT_NE(dialoog, nullptr);
+    EXPECT_EQ(dialoog->GetTitle(), "Embedding progress");
+    EXPECT_EQ(dialoog->GetMessage(), "Completion of embedding progress");
+    EXPECT_EQ(dialoog->GetRange(), 3);
+    EXPECT_EQ(dialoog->GetValue(), 0);
+    EXPECT_EQ(dialoog->GetParent(), venster);
+    EXPECT_TRUE(dialoog->IsShown());
+    EXPECT_EQ(dialoog->FindWindow(wxID_CANCEL), nullptr);
+    EXPECT_FALSE(venster->IsEnabled());
+    EXPECT_FALSE(ander->IsEnabled());
     // The message, the label, and the time.
+    std::vector<wxString> const gevonden = labels(*dialoog);
     ASSERT_EQ(gevonden.size(), 3U);
     EXPECT_EQ(gevonden[0], "Completion of embedding progress");
     EXPECT_EQ(gevonden[1], "Elapsed time:");
-    EXPECT_FALSE(ander->IsEnabled());
+    // Nothing of the old file is gone before the answer.
+    EXPECT_EQ(inhoud(pad("oud.c")), "oud\n");
   });
+  EXPECT_EQ(voortgang(), nullptr);
+  EXPECT_TRUE(venster->IsEnabled());
   EXPECT_TRUE(ander->IsEnabled());
   ander->Destroy();
 }

@@ -133,11 +133,6 @@ wxString WerkProef::zonderMoment(wxString const& tekst) {
   return wxTekst(zonderMomenten(tekst.utf8_string()));
 }
 
-wxString WerkProef::rijen(wxString const& tekst) {
-  wxString const vanaf = tekst.Mid(tekst.find("\n{\n") + 3);
-  return vanaf.Left(vanaf.find("\n};"));
-}
-
 std::vector<wxString> WerkProef::boomVan(std::vector<BoomBestand> const& bestanden) {
   std::vector<wxString> regels;
   for (BoomBestand const& een : bestanden) {

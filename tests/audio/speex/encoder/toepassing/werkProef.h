@@ -67,8 +67,6 @@ class WerkProef : public VensterProef {
 
   // zonderMomenten (codecHulp.h) of a text of the toolkit.
   static wxString zonderMoment(wxString const& tekst);
-  // The data rows of the first array in a text.
-  static wxString rijen(wxString const& tekst);
 
   // What the tree shows for these accepted files.
   static std::vector<wxString> boomVan(std::vector<BoomBestand> const& bestanden);
