@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iostream>
+#include <iterator>
 #include <string>
 #include <vector>
 
@@ -114,9 +115,10 @@ std::vector<Case> casesOf(Fragment const& fragment, std::string const& folder) {
     return static_cast<short>(std::lround(sample * quietVolume));
   });
   std::vector<Case> cases;
-  for (long long const dacBits : dacBreedten) {
-    cases.push_back(pcmCase(fragment, static_cast<unsigned int>(dacBits)));
-  }
+  std::transform(dacBreedten.begin(), dacBreedten.end(), std::back_inserter(cases),
+                 [&fragment](long long dacBits) {
+                   return pcmCase(fragment, static_cast<unsigned int>(dacBits));
+                 });
   cases.push_back(embeddedCase(fragment.file, "PCM"));
   cases.push_back(
       embeddedCase(writeCopy(fragment, fragment.samples, folder + "/ima", wavAdpcm), "IMA ADPCM"));
