@@ -40,8 +40,8 @@ class ADPCMDesktopConverter : public ADPCMConverter {
   VelmoraADPCMPakket* codeerBestand(wxFileName const& wav);
 
   // Appends the text of one file to `uit`, a stream in memory or any other, with the serial header
-  // in the array or without. Either
-  // way the array has room for the header; without it, nine zero bytes stand at its end.
+  // in the array or without. Either way the array has room for the header; without it, nine zero
+  // bytes stand at its end.
   void codeerBestand(wxFileName const& wav, bool metHeader, wxMemoryOutputStream& uit);
   void codeerBestand(wxFileName const& wav, bool metHeader, wxOutputStream& uit);
 

@@ -35,8 +35,8 @@ class PCMDesktopConverter {
   VelmoraPCMPakket* codeerBestand(wxFileName const& wav) const;
 
   // Appends the text of one file to `uit`, a stream in memory or any other, with the serial header
-  // in the array or without. Either
-  // way the array has room for the header; without it, six zero bytes stand at its end.
+  // in the array or without. Either way the array has room for the header; without it, six zero
+  // bytes stand at its end.
   void codeerBestand(wxFileName const& wav, bool metHeader, wxMemoryOutputStream& uit) const;
   void codeerBestand(wxFileName const& wav, bool metHeader, wxOutputStream& uit) const;
 

@@ -5,7 +5,7 @@
 
 namespace {
 
-// What is each converter's own: its kind of run, its first options, and those of the settings.
+// What is each converter's own: its kind of run, and its options made from settings.
 template <typename Converter>
 struct Eigen;
 

@@ -49,6 +49,8 @@ TEST_F(CoderenProef, NoFilesInCPlusPlusLeaveTheShellOfTheClass) {
   laad({wav("bel.wav")});
   laad({});
   EXPECT_TRUE(zelfdeTekst(codeer().utf8_string(), verwachteRun(Wijze::pcm, {1}, {})));
+  ASSERT_EQ(antwoorden.berichten.size(), 1U);
+  EXPECT_EQ(antwoorden.berichten[0].titel, "PCM encoding succeeded");
 }
 
 TEST_F(CoderenProef, AShorterSecondRunKeepsNothingOfTheFirst) {
