@@ -1,6 +1,5 @@
 #include "audio/codec/fragmentTekst.h"
 
-#include <wx/datetime.h>
 #include <wx/filename.h>
 #include <wx/intl.h>
 #include <wx/platinfo.h>
@@ -9,6 +8,7 @@
 #include <cstddef>
 
 #include "audio/codec/byteTekst.h"
+#include "audio/codec/tekstMoment.h"
 #include "audio/codec/uitvoerTaal.h"
 #include "numeriek/getalTekst.h"
 
@@ -38,10 +38,9 @@ void FragmentTekst::schrijf(wxString const& tekst) {
 
 void FragmentTekst::schrijfHerkomst(wxString const& werkwoord, wxFileName const& wav) {
   wxPlatformInfo const platform;
-  wxDateTime const nu = wxDateTime::Now();
   schrijf("\n/* " + werkwoord + " on " + platform.GetOperatingSystemIdName() + " (" +
           platform.GetBitnessName() + ")" + "\t\t*/\n");
-  schrijf("/* Date : " + nu.Format("%Y-%m-%d") + " : " + nu.Format("%H:%M:%S") + "\t\t*/\n");
+  schrijf("/* Date : " + tekstMoment() + "\t\t*/\n");
   schrijf("/* WAV file : " + wav.GetFullName() + "\t\t*/\n");
   schrijf("/* WAV information :   \t\t*/\n");
 }

@@ -67,7 +67,7 @@ bool schrijfBytes(FragmentTekst& tekst, wxFileName const& beeld, sf_count_t fram
 
 bool schrijfInbedding(wxFileName const& wav, InbedOpties const& opties, wxOutputStream& uit) {
   FragmentTekst tekst(uit);
-  wxFileName const beeld(maakTijdelijkBestand(wav.GetName()));
+  wxFileName const beeld(opties.beeld.empty() ? maakTijdelijkBestand(wav.GetName()) : opties.beeld);
   SndBestand bron = SndBestand::lees(wav);
   sf_count_t const frames = framesInBeeld(bron.info());
   schrijfKop(tekst, wav, bron.info(), opties.dacBits);

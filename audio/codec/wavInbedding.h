@@ -12,10 +12,12 @@ struct InbedOpties {
   int taal;         // an UitvoerTaal; every value other than C and C++ leaves the array's head out
   wxString klasse;  // the class that owns the arrays in C++
   int dacBits;      // 1 to 16
+  // Where the image of the WAV file is made. Empty: in a new temporary file, which stays.
+  wxString beeld = {};
 };
 
 // Appends the text of one file to `uit`. The array is the image of a WAV file that libsndfile makes
-// in the temporary directory, and that stays there: of the source's frequency, channels and format
+// at opties.beeld, and that stays there: of the source's frequency, channels and format
 // (IMA ADPCM is decoded and encoded again), its samples shifted down to `dacBits` bits and still 16
 // bits wide, signed. Of a file with several channels it takes as many interleaved values as the
 // file has frames, without the part of a frame that may be left at the end.

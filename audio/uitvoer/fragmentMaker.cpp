@@ -52,11 +52,15 @@ Gemaakt ConverterMaker<Converter>::maak(wxFileName const& wav, bool metHeader,
 template class ConverterMaker<PCMDesktopConverter>;
 template class ConverterMaker<ADPCMDesktopConverter>;
 
-WAVMaker::WAVMaker() : FragmentMaker(wavSoort), opties{} {}
+WAVMaker::WAVMaker(wxString const& beeldPad) : FragmentMaker(wavSoort), opties{} {
+  opties.beeld = beeldPad;
+}
 
 void WAVMaker::begin(KestrolinConfig const& instellingen, wxString const& klasse,
                      std::size_t /*aantal*/) {
+  wxString const beeld = opties.beeld;
   opties = maakInbedOpties(instellingen, klasse);
+  opties.beeld = beeld;
 }
 
 Gemaakt WAVMaker::maak(wxFileName const& wav, bool /*metHeader*/, wxOutputStream& uit) {

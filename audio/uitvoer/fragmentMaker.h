@@ -71,7 +71,9 @@ using ADPCMMaker = ConverterMaker<ADPCMDesktopConverter>;
 // Embeds each WAV file as a whole. Ignores `metHeader`: a WAV file has its own header.
 class WAVMaker : public FragmentMaker {
  public:
-  WAVMaker();
+  // The image of each file is made at `beeldPad`, one over the other, or in new temporary files
+  // that stay where that is empty.
+  explicit WAVMaker(wxString const& beeldPad = wxString());
 
   void begin(KestrolinConfig const& instellingen, wxString const& klasse,
              std::size_t aantal) override;

@@ -86,5 +86,5 @@ ADPCMEncoderOpties maakAdpcmOpties(KestrolinConfig const& instellingen, wxString
 }
 
 InbedOpties maakInbedOpties(KestrolinConfig const& instellingen, wxString const& klasse) {
-  return {instellingen.speexOutputLanguage, klasse, dacBitsVan(instellingen)};
+  return {instellingen.speexOutputLanguage, klasse, dacBitsVan(instellingen), {}};
 }

@@ -5,7 +5,7 @@
 #include <wx/msgdlg.h>
 #include <wx/window.h>
 
-#include "externals/desktop/configGetal.h"
+#include "numeriek/configGetal.h"
 
 namespace {
 

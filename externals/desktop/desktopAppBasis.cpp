@@ -12,7 +12,7 @@
 #include <cstring>
 
 #include "externals/desktop/configBestand.h"
-#include "externals/desktop/configGetal.h"
+#include "numeriek/configGetal.h"
 
 namespace {
 

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "audio/speex/encoder/toepassing/vensterIds.h"
+#include "audio/uitvoer/encoderSoort.h"
 #include "tests/steun/antwoorden.h"
 #include "tests/steun/logboek.h"
 #include "tests/steun/omgevingsWaarde.h"

@@ -22,7 +22,9 @@
 #include "audio/speex/encoder/toepassing/kestrolin.h"
 #include "audio/speex/encoder/toepassing/keuze.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
-#include "externals/desktop/configGetal.h"
+#include "audio/uitvoer/encoderSoort.h"
+#include "audio/uitvoer/instellingenBestand.h"
+#include "numeriek/configGetal.h"
 
 wxBEGIN_EVENT_TABLE(HoofdVenster, wxFrame)
   EVT_MENU(wxID_OPEN, HoofdVenster::wavOpenHandler)
@@ -63,13 +65,10 @@ wxEND_EVENT_TABLE()
 namespace {
 
 constexpr std::size_t geschiedenisLengte = 9;
-constexpr char const* configuratiePad = "/Configuratie";
 constexpr char const* wavDirectorySleutel = "wavDirectory";
 constexpr char const* speexDirectorySleutel = "speexDirectory";
 constexpr char const* wavFileSleutel = "wavFile";
 constexpr char const* speexFileSleutel = "speexFile";
-constexpr char const* klasseNaamSleutel = "klasseNaam";
-constexpr char const* encoderSoortSleutel = "Convertertype";
 
 // What the controls show before the settings reach them, and keep where those are out of range.
 constexpr KestrolinConfig eersteStart;
@@ -117,7 +116,7 @@ HoofdVenster::HoofdVenster(wxWindow* parent, int id, wxString const& title, wxPo
 }
 
 HoofdVenster::~HoofdVenster() {
-  config->SetPath(configuratiePad);
+  config->SetPath(vensterPad);
   config->Write(wavDirectorySleutel, wavDirectory);
   config->Write(speexDirectorySleutel, speexDirectory);
   config->Write(wavFileSleutel, wavFile);
@@ -232,7 +231,7 @@ void HoofdVenster::set_properties() {
 
 void HoofdVenster::leesConfiguratie() {
   wxString const thuis = geefThuis();
-  config->SetPath(configuratiePad);
+  config->SetPath(vensterPad);
   wavDirectory = config->Read(wavDirectorySleutel, thuis);
   speexDirectory = config->Read(speexDirectorySleutel, thuis);
   wavFile = config->Read(wavFileSleutel, wxEmptyString);

@@ -15,6 +15,7 @@
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "audio/speex/encoder/toepassing/wavGrens.h"
+#include "audio/uitvoer/encoderSoort.h"
 #include "audio/uitvoer/uitvoerOpties.h"
 #include "externals/software/extern/speex/speexDesktop.h"
 

@@ -12,6 +12,7 @@
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "audio/speex/encoder/toepassing/vensterToezicht.h"
+#include "audio/uitvoer/encoderSoort.h"
 
 void HoofdVenster::encodeHandler(wxCommandEvent& event) {
   switch (encoderTypeKeuze->GetSelection()) {

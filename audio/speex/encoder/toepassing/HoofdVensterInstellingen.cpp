@@ -18,6 +18,7 @@
 #include "audio/speex/encoder/toepassing/bedieningsRegels.h"
 #include "audio/speex/encoder/toepassing/keuze.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
+#include "audio/uitvoer/encoderSoort.h"
 
 // The update handlers run in every idle cycle, so they must stay cheap. They enable the windows
 // themselves and leave the event alone.

@@ -3,9 +3,6 @@
 // together.
 #pragma once
 
-// The rows of the encoder choice.
-enum EncoderSoort : int { EncoderSpeex = 0, EncoderADPCM = 1, EncoderPCM = 2 };
-
 enum VensterId : int {
   ID_SPEEL_BRON = 1,
   ID_SPEEL_RESULTAAT = 2,
