@@ -1,0 +1,110 @@
+#include "opdrachtregel/bijlagen.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <system_error>
+
+#include "audio/codec/uitvoerTaal.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr char const* herkomst = "/* Made by kestrolin-cli; changes are lost. */\n";
+
+bool isCPP(Omgeving const& omgeving) {
+  return omgeving.taal == UitvoerTaalCPP;
+}
+
+constexpr bool isLetterOfCijfer(char teken) {
+  return (teken >= 'a' && teken <= 'z') || (teken >= 'A' && teken <= 'Z') ||
+         (teken >= '0' && teken <= '9');
+}
+
+// The name of the file in capitals, with a letter in front.
+std::string wachter(std::string const& bestand) {
+  std::string naam = fs::path(bestand).filename().string();
+  std::transform(naam.begin(), naam.end(), naam.begin(), [](char teken) {
+    if (!isLetterOfCijfer(teken)) {
+      return '_';
+    }
+    return teken >= 'a' ? static_cast<char>(teken - 'a' + 'A') : teken;
+  });
+  return "KESTROLIN_" + naam;
+}
+
+std::string declaratiesVanC(std::vector<Declaratie> const& arrays) {
+  std::string tekst = "#include <stddef.h>\n\n#ifdef __cplusplus\nextern \"C\" {\n#endif\n";
+  for (Declaratie const& een : arrays) {
+    tekst += "\n/* " + een.uitleg + " */\nextern const " + een.type + " " + een.naam +
+             "[];\nextern const size_t " + grootteNaam(een.naam) + ";\n";
+  }
+  return tekst + "\n#ifdef __cplusplus\n}\n#endif\n";
+}
+
+std::string declaratiesVanCPP(std::string const& klasse, std::vector<Declaratie> const& arrays) {
+  std::string tekst = "#include <cstddef>\n\nclass " + klasse + " {\n public:\n";
+  char const* scheiding = "";
+  for (Declaratie const& een : arrays) {
+    tekst += scheiding;
+    tekst += "  // " + een.uitleg + "\n  static const " + een.type + " " + een.naam +
+             "[];\n  static const std::size_t " + grootteNaam(een.naam) + ";\n";
+    scheiding = "\n";
+  }
+  return tekst + "};\n";
+}
+
+// As make and ninja both read a name: blanks and # behind a backslash, and a dollar sign twice.
+std::string maakNaam(std::string const& pad) {
+  std::string naam;
+  for (char const teken : pad) {
+    if (teken == ' ' || teken == '#') {
+      naam += '\\';
+    }
+    naam += teken == '$' ? std::string("$$") : std::string(1, teken);
+  }
+  return naam;
+}
+
+}  // namespace
+
+std::string grootteNaam(std::string const& array) {
+  return array + "_size";
+}
+
+std::string declaratieTekst(std::string const& bestand, Omgeving const& omgeving,
+                            std::vector<Declaratie> const& arrays) {
+  std::string const naam = wachter(bestand);
+  return herkomst + ("#ifndef " + naam) + "\n#define " + naam + "\n\n" +
+         (isCPP(omgeving) ? declaratiesVanCPP(omgeving.klasse, arrays) : declaratiesVanC(arrays)) +
+         "\n#endif\n";
+}
+
+std::string bronTekst(std::string const& declaraties, std::string const& tekst,
+                      Omgeving const& omgeving, std::vector<Declaratie> const& arrays) {
+  std::string bron =
+      herkomst + ("#include \"" + declaraties) + "\"\n\n#include \"" + tekst + "\"\n\n";
+  std::string const lid = isCPP(omgeving) ? omgeving.klasse + "::" : std::string();
+  for (Declaratie const& een : arrays) {
+    // Within the initialiser of a member, names are looked up in its class.
+    bron += std::string("const ") + (isCPP(omgeving) ? "std::size_t " : "size_t ") + lid +
+            grootteNaam(een.naam) + " = sizeof " + een.naam + ";\n";
+  }
+  return bron;
+}
+
+std::string insluitPad(std::string const& doel, std::string const& bron) {
+  std::error_code fout;
+  fs::path const map = fs::absolute(bron, fout).lexically_normal().parent_path();
+  return fs::absolute(doel, fout).lexically_normal().lexically_relative(map).generic_string();
+}
+
+std::string afhankelijkheidTekst(std::string const& doel, std::vector<std::string> const& bronnen) {
+  std::string regel = maakNaam(doel) + ":";
+  std::string leeg;
+  for (std::string const& bron : bronnen) {
+    regel += " \\\n  " + maakNaam(bron);
+    leeg += "\n" + maakNaam(bron) + ":\n";
+  }
+  return regel + "\n" + leeg;
+}

@@ -1,0 +1,83 @@
+#include "opdrachtregel/encodeerKeuring.h"
+
+#include <algorithm>
+#include <map>
+
+#include "audio/codec/uitvoerTaal.h"
+#include "audio/uitvoer/arrayNaam.h"
+#include "audio/uitvoer/wavKeuring.h"
+#include "opdrachtregel/bijlagen.h"
+#include "opdrachtregel/melding.h"
+
+namespace {
+
+// The comments of the text hold the name of the file.
+bool pastInCommentaar(std::string const& naam) {
+  return naam.find("*/") == std::string::npos &&
+         std::none_of(naam.begin(), naam.end(),
+                      [](char teken) { return static_cast<unsigned char>(teken) < ' '; });
+}
+
+std::string taalNaam(EncodeerVraag const& vraag) {
+  return vraag.instellingen.speexOutputLanguage == UitvoerTaalC ? "C" : "C++";
+}
+
+// Why a recording cannot give its name to an array, empty where it can.
+std::string bezwaar(EncodeerVraag const& vraag, Opname const& opname, std::string const& naam) {
+  if (!pastInCommentaar(opname.bestand.GetFullName().utf8_string())) {
+    return "its name cannot stand in a comment; rename the file";
+  }
+  if (!isBruikbareNaam(naam, vraag.instellingen.speexOutputLanguage)) {
+    return "its array would be called \"" + naam + "\", which is no name in " + taalNaam(vraag) +
+           "; rename the file";
+  }
+  if (vraag.instellingen.speexOutputLanguage == UitvoerTaalCPP && naam == vraag.klasse) {
+    return "its array would be called \"" + naam +
+           "\", as its class is; rename the file or the class";
+  }
+  return {};
+}
+
+}  // namespace
+
+bool keurFrequenties(std::vector<Opname> const& opnamen) {
+  int const voor = aantalGemeld();
+  Opname const& eerste = opnamen.front();
+  int const band = bandVoorFrequentie(eerste.info.samplerate);
+  for (Opname const& een : opnamen) {
+    if (keurBand(een.info.samplerate, band) != BandOordeel::past) {
+      meld(een.gegeven + ": has " + std::to_string(een.info.samplerate) + " Hz where " +
+           eerste.gegeven + " has " + std::to_string(eerste.info.samplerate) +
+           " Hz; encode each rate by itself, or convert one of them");
+    }
+  }
+  return aantalGemeld() == voor;
+}
+
+bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, bool metGroottes) {
+  int const voor = aantalGemeld();
+  std::map<std::string, std::string> vergeven;
+  for (Opname const& een : opnamen) {
+    std::string const naam = een.bestand.GetName().utf8_string();
+    std::string const reden = bezwaar(vraag, een, naam);
+    if (!reden.empty()) {
+      meld(een.gegeven + ": " + reden);
+      continue;
+    }
+    auto const [eerder, isNieuw] = vergeven.try_emplace(naam, een.gegeven);
+    if (!isNieuw) {
+      meld(een.gegeven + ": its array would be called \"" + naam + "\", as that of " +
+           eerder->second + "; rename one of them");
+    }
+  }
+  if (metGroottes) {
+    for (auto const& [naam, bestand] : vergeven) {
+      auto const ander = vergeven.find(grootteNaam(naam));
+      if (ander != vergeven.end()) {
+        meld(ander->second + ": its array would be called \"" + ander->first +
+             "\", as the size of that of " + bestand + "; rename one of them");
+      }
+    }
+  }
+  return aantalGemeld() == voor;
+}

@@ -1,0 +1,16 @@
+// What has to hold of recordings before one text is made of them. Each fault is told in a line of
+// its own that names the file and the remedy.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "opdrachtregel/encodeerOpties.h"
+#include "opdrachtregel/opname.h"
+
+// All recordings have one rate: that of the first.
+bool keurFrequenties(std::vector<Opname> const& opnamen);
+
+// The names of the arrays, which are those of the files, are names of the output language, and
+// differ. With `metGroottes` the names of their sizes differ from them as well.
+bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, bool metGroottes);

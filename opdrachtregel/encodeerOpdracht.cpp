@@ -1,0 +1,217 @@
+#include "opdrachtregel/encodeerOpdracht.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+#include <iterator>
+#include <optional>
+#include <system_error>
+
+#include "audio/codec/tekstMoment.h"
+#include "audio/codec/uitvoerTaal.h"
+#include "audio/codec/wavBeeld.h"
+#include "audio/uitvoer/arrayNaam.h"
+#include "audio/uitvoer/wavKeuring.h"
+#include "opdrachtregel/bijlagen.h"
+#include "opdrachtregel/doelGroep.h"
+#include "opdrachtregel/encodeerKeuring.h"
+#include "opdrachtregel/encodeerTekst.h"
+#include "opdrachtregel/gebruik.h"
+#include "opdrachtregel/melding.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+char const* wijzeNaam(Uitvoerwijze wijze) {
+  switch (wijze) {
+    case Uitvoerwijze::speex:
+      return "Speex";
+    case Uitvoerwijze::adpcm:
+      return "ADPCM";
+    case Uitvoerwijze::pcm:
+      return "PCM";
+    default:
+      return "WAV";
+  }
+}
+
+// The moment that a build gives to all that it makes, where it gives one. False where that is no
+// moment, which was told.
+bool neemMomentOver() {
+  char const* const epoch = std::getenv("SOURCE_DATE_EPOCH");
+  if (epoch == nullptr || *epoch == '\0') {
+    return true;
+  }
+  // The last second of the year 9999.
+  constexpr long long laatste = 253402300799;
+  long long moment = 0;
+  char const* const einde = epoch + std::strlen(epoch);
+  auto const [plaats, fout] = std::from_chars(epoch, einde, moment);
+  if (fout != std::errc() || plaats != einde || moment < 0 || moment > laatste) {
+    meld(std::string("SOURCE_DATE_EPOCH is \"") + epoch +
+         "\"; give a number of seconds since 1970, or unset it");
+    return false;
+  }
+  legTekstMomentVast(static_cast<std::time_t>(moment));
+  return true;
+}
+
+unsigned long long aantalSamples(Uitvoerwijze wijze, SF_INFO const& info) {
+  auto const frames = static_cast<unsigned long long>(info.frames);
+  switch (wijze) {
+    case Uitvoerwijze::adpcm:
+      // Two to the byte; an odd last one is not coded.
+      return frames / 2 * 2;
+    case Uitvoerwijze::wav:
+      return static_cast<unsigned long long>(framesInBeeld(info));
+    default:
+      return frames;
+  }
+}
+
+Declaratie declareer(EncodeerVraag const& vraag, Opname const& opname) {
+  return {opname.bestand.GetName().utf8_string(),
+          vraag.wijze == Uitvoerwijze::speex ? "signed char" : "unsigned char",
+          std::string(wijzeNaam(vraag.wijze)) + ", " + std::to_string(opname.info.samplerate) +
+              " Hz, " + std::to_string(aantalSamples(vraag.wijze, opname.info)) + " samples"};
+}
+
+bool schrijf(DoelGroep& doelen, std::string const& pad, std::string const& tekst) {
+  Doel* const doel = doelen.voegToe(pad);
+  if (doel == nullptr) {
+    return false;
+  }
+  doel->Write(tekst.data(), tekst.size());
+  return true;
+}
+
+}  // namespace
+
+EncodeerOpdracht::EncodeerOpdracht(CLI::App& programma)
+    : Opdracht(programma.add_subcommand("encode", "Make source text of recordings")) {
+  voegOptiesToe(*app, opties);
+}
+
+Uitslag EncodeerOpdracht::voerUit() {
+  std::optional<EncodeerVraag> vraag = maakVraag(*app, opties);
+  if (!vraag) {
+    return mislukt;
+  }
+  Uitslag const gebruik = keurGebruik(*vraag);
+  if (gebruik != gelukt) {
+    return gebruik;
+  }
+  std::optional<std::vector<Opname>> opnamen = leesOpnamen(opties.wavs);
+  if (!opnamen || !keurFrequenties(*opnamen) ||
+      !keurNamen(*vraag, *opnamen, !opties.declaraties.empty()) || !keurDoelen(*opnamen) ||
+      !neemMomentOver()) {
+    return mislukt;
+  }
+  std::sort(opnamen->begin(), opnamen->end(), [](Opname const& een, Opname const& ander) {
+    return een.bestand.GetFullPath() < ander.bestand.GetFullPath();
+  });
+  vraag->instellingen.speexFormat = bandVoorFrequentie(opnamen->front().info.samplerate);
+  DoelGroep doelen;
+  if (!schrijfAlles(*vraag, *opnamen, doelen) || !doelen.legVast()) {
+    return mislukt;
+  }
+  if (opties.uitgebreid) {
+    std::cerr << "kestrolin-cli: " << opties.uitvoer << ": " << opnamen->size() << " "
+              << wijzeNaam(vraag->wijze) << (opnamen->size() == 1 ? " array" : " arrays") << " at "
+              << opnamen->front().info.samplerate << " Hz\n";
+  }
+  return gelukt;
+}
+
+Uitslag EncodeerOpdracht::keurGebruik(EncodeerVraag const& vraag) const {
+  UitvoerTaalRij const& rij = uitvoerTaalRij(vraag.instellingen.speexOutputLanguage);
+  if (!heeftArrays(rij)) {
+    return meldGebruik(*app, "the settings ask for a language without arrays; choose one",
+                       "--language");
+  }
+  if (rij.vraagtKlasse && vraag.klasse.empty()) {
+    return meldGebruik(*app, "--language c++ needs the name of a class", "--class");
+  }
+  if (rij.vraagtKlasse && !isBruikbareNaam(vraag.klasse, UitvoerTaalCPP)) {
+    return meldGebruik(*app, "\"" + vraag.klasse + "\" is no name of a class in C++", "--class");
+  }
+  if (!opties.bron.empty() && opties.declaraties.empty()) {
+    return meldGebruik(*app, "--source needs a header to include", "--declarations");
+  }
+  bool const heeftBijlagen =
+      !opties.declaraties.empty() || !opties.bron.empty() || !opties.afhankelijkheden.empty();
+  if (opties.uitvoer == Doel::standaardUitvoer && heeftBijlagen) {
+    return meldGebruik(*app, "other files cannot go with a text on standard output", "--output");
+  }
+  if (opties.aanvullen && !opties.declaraties.empty()) {
+    return meldGebruik(
+        *app, "a header declares the arrays of one run, and not what was there before", "--append");
+  }
+  return gelukt;
+}
+
+std::vector<std::string> EncodeerOpdracht::uitvoerPaden() const {
+  std::vector<std::string> const alle{opties.uitvoer, opties.declaraties, opties.bron,
+                                      opties.afhankelijkheden};
+  std::vector<std::string> paden;
+  std::copy_if(alle.begin(), alle.end(), std::back_inserter(paden),
+               [](std::string const& pad) { return !pad.empty(); });
+  return paden;
+}
+
+// What is read is not written, by whatever path it is reached.
+bool EncodeerOpdracht::keurDoelen(std::vector<Opname> const& opnamen) const {
+  int const voor = aantalGemeld();
+  auto const isEen = [](std::string const& een, std::string const& ander) {
+    std::error_code geenVanBeide;
+    return fs::equivalent(een, ander, geenVanBeide);
+  };
+  for (std::string const& pad : uitvoerPaden()) {
+    bool const isOpname = std::any_of(opnamen.begin(), opnamen.end(), [&](Opname const& opname) {
+      return isEen(pad, opname.gegeven);
+    });
+    if (isOpname || isEen(pad, opties.instellingen)) {
+      meld("cannot write " + pad + ": it is one of the files to read; give another name");
+    }
+  }
+  return aantalGemeld() == voor;
+}
+
+bool EncodeerOpdracht::schrijfAlles(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
+                                    DoelGroep& doelen) const {
+  Doel* const doel = doelen.voegToe(opties.uitvoer, opties.aanvullen);
+  // The other places are looked at before the long work.
+  return doel != nullptr && schrijfBijlagen(vraag, opnamen, doelen) &&
+         schrijfTekst(vraag, opnamen, *doel);
+}
+
+bool EncodeerOpdracht::schrijfBijlagen(EncodeerVraag const& vraag,
+                                       std::vector<Opname> const& opnamen,
+                                       DoelGroep& doelen) const {
+  Omgeving const omgeving{vraag.instellingen.speexOutputLanguage, vraag.klasse};
+  std::vector<Declaratie> arrays;
+  std::transform(opnamen.begin(), opnamen.end(), std::back_inserter(arrays),
+                 [&vraag](Opname const& opname) { return declareer(vraag, opname); });
+  if (!opties.declaraties.empty() &&
+      !schrijf(doelen, opties.declaraties, declaratieTekst(opties.declaraties, omgeving, arrays))) {
+    return false;
+  }
+  if (!opties.bron.empty() &&
+      !schrijf(doelen, opties.bron,
+               bronTekst(insluitPad(opties.declaraties, opties.bron),
+                         insluitPad(opties.uitvoer, opties.bron), omgeving, arrays))) {
+    return false;
+  }
+  if (opties.afhankelijkheden.empty()) {
+    return true;
+  }
+  std::vector<std::string> bronnen = opties.wavs;
+  if (!opties.instellingen.empty()) {
+    bronnen.push_back(opties.instellingen);
+  }
+  return schrijf(doelen, opties.afhankelijkheden, afhankelijkheidTekst(opties.uitvoer, bronnen));
+}

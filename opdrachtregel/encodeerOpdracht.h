@@ -1,0 +1,31 @@
+// kestrolin-cli encode: from recordings to the text that the window makes of them, and to the files
+// by which a program takes it in.
+#pragma once
+
+#include <vector>
+
+#include "opdrachtregel/encodeerOpties.h"
+#include "opdrachtregel/opdracht.h"
+#include "opdrachtregel/opname.h"
+
+class DoelGroep;
+class wxOutputStream;
+
+class EncodeerOpdracht : public Opdracht {
+ public:
+  explicit EncodeerOpdracht(CLI::App& programma);
+
+  Uitslag voerUit() override;
+
+ private:
+  Uitslag keurGebruik(EncodeerVraag const& vraag) const;
+  bool keurDoelen(std::vector<Opname> const& opnamen) const;
+  bool schrijfAlles(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
+                    DoelGroep& doelen) const;
+  bool schrijfBijlagen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
+                       DoelGroep& doelen) const;
+  // The outputs that are asked for, the text first.
+  std::vector<std::string> uitvoerPaden() const;
+
+  EncodeerOpties opties;
+};

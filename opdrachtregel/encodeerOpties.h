@@ -1,0 +1,50 @@
+// The options of kestrolin-cli encode, and what they ask for.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "audio/uitvoer/kestrolinConfig.h"
+
+struct EncodeerOpties {
+  std::vector<std::string> wavs;
+  std::string encoder;
+  std::string taal;
+  std::string klasse;
+  int dacBits = 16;
+  bool metHeader = true;
+  unsigned int kwaliteit = 8;
+  unsigned int complexiteit = 3;
+  std::string bitrate;
+  unsigned int maxBitrate = 5000;
+  bool vad = true;
+  bool denoise = true;
+  bool agc = true;
+  std::string instellingen;
+  std::string uitvoer;
+  bool aanvullen = false;
+  std::string declaraties;
+  std::string bron;
+  std::string afhankelijkheden;
+  bool uitgebreid = false;
+};
+
+// Adds the options to `app`, which fills `opties`.
+void voegOptiesToe(CLI::App& app, EncodeerOpties& opties);
+
+// The four ways of output by their names on the command line.
+enum class Uitvoerwijze { speex, adpcm, pcm, wav };
+
+struct EncodeerVraag {
+  Uitvoerwijze wijze;
+  KestrolinConfig instellingen;
+  std::string klasse;  // of the arrays, in C++
+};
+
+// What is asked for: the defaults of a first start with PCM and C, or those of the settings file,
+// and over them the options that were given. Nothing where the settings file cannot be read, which
+// was told.
+std::optional<EncodeerVraag> maakVraag(CLI::App const& app, EncodeerOpties const& opties);

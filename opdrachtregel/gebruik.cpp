@@ -1,0 +1,51 @@
+#include "opdrachtregel/gebruik.h"
+
+#include <algorithm>
+#include <iostream>
+
+#include "opdrachtregel/melding.h"
+
+namespace {
+
+// The command that the line asks for, or the program.
+CLI::App const& gevraagd(CLI::App const& programma) {
+  auto const opdrachten = programma.get_subcommands();
+  return opdrachten.empty() ? programma : *opdrachten.front();
+}
+
+// The name of the option that a message of the parser is about, empty where it is about none.
+std::string optieIn(CLI::App const& app, std::string const& bericht) {
+  auto const opties = app.get_options();
+  auto const gevonden =
+      std::find_if(opties.begin(), opties.end(), [&bericht](CLI::Option const* optie) {
+        return bericht.rfind(optie->get_name() + ":", 0) == 0 ||
+               bericht.rfind(optie->get_name() + " ", 0) == 0;
+      });
+  return gevonden == opties.end() ? std::string() : (*gevonden)->get_name();
+}
+
+std::string volleNaam(CLI::App const& app) {
+  CLI::App const* const ouder = app.get_parent();
+  return ouder == nullptr ? app.get_name() : volleNaam(*ouder) + " " + app.get_name();
+}
+
+}  // namespace
+
+Uitslag meldGebruik(CLI::App const& app, std::string const& bericht, std::string const& optie) {
+  meld(bericht);
+  CLI::Option const* const gevonden = optie.empty() ? nullptr : app.get_option_no_throw(optie);
+  CLI::Formatter const opmaak;
+  std::cerr << (gevonden != nullptr ? opmaak.make_option(gevonden, gevonden->get_positional())
+                                    : opmaak.make_usage(&app, volleNaam(app)))
+            << "Try '" << volleNaam(app) << " --help' for all of it.\n";
+  return verkeerdGebruik;
+}
+
+int meldParseFout(CLI::App const& programma, CLI::ParseError const& fout) {
+  if (fout.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) {
+    // Help and version are answers.
+    return programma.exit(fout);
+  }
+  CLI::App const& app = gevraagd(programma);
+  return meldGebruik(app, fout.what(), optieIn(app, fout.what()));
+}

@@ -1,0 +1,36 @@
+#include "opdrachtregel/melding.h"
+
+#include <algorithm>
+#include <iostream>
+
+namespace {
+
+int gemeld = 0;
+
+}  // namespace
+
+void meld(std::string const& regel) {
+  std::string kaal = regel;
+  // One message is one line, whatever a file is called.
+  std::replace(kaal.begin(), kaal.end(), '\n', ' ');
+  std::cerr << "kestrolin-cli: " << kaal << std::endl;
+  ++gemeld;
+}
+
+int aantalGemeld() {
+  return gemeld;
+}
+
+MeldingLog::MeldingLog() : vorige(wxLog::SetActiveTarget(this)) {
+  wxLog::DisableTimestamp();
+}
+
+MeldingLog::~MeldingLog() {
+  wxLog::SetActiveTarget(vorige);
+}
+
+void MeldingLog::DoLogTextAtLevel(wxLogLevel niveau, wxString const& tekst) {
+  if (niveau <= wxLOG_Error) {
+    meld(tekst.utf8_string());
+  }
+}

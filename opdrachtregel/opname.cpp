@@ -1,0 +1,80 @@
+#include "opdrachtregel/opname.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+
+#include "audio/codec/sndBestand.h"
+#include "audio/uitvoer/wavKeuring.h"
+#include "opdrachtregel/melding.h"
+
+namespace {
+
+constexpr char const* remedie = "; convert it first, as in: sox IN.wav -r 16000 -b 16 -c 1 OUT.wav";
+
+wxFileName volledig(std::string const& pad) {
+  wxFileName bestand(wxString::FromUTF8(pad));
+  bestand.Normalize(wxPATH_NORM_DOTS | wxPATH_NORM_ABSOLUTE);
+  return bestand;
+}
+
+// What libsndfile calls one part of a format.
+std::string naamVan(int formaat) {
+  SF_FORMAT_INFO info{};
+  info.format = formaat;
+  bool const isBekend =
+      sf_command(nullptr, SFC_GET_FORMAT_INFO, &info, static_cast<int>(sizeof info)) == 0;
+  return isBekend && info.name != nullptr ? info.name : "of an unknown format";
+}
+
+std::string beschrijf(SF_INFO const& info) {
+  return naamVan(info.format & SF_FORMAT_TYPEMASK) + ", " +
+         naamVan(info.format & SF_FORMAT_SUBMASK) + ", " + std::to_string(info.samplerate) + " Hz";
+}
+
+// Why the file cannot be used, empty where it can.
+std::string bezwaar(Opname const& opname) {
+  if (opname.gegeven.empty() || !opname.bestand.IsOk() || !opname.bestand.HasName()) {
+    return "this names no file; give the path of a WAV file, in UTF-8";
+  }
+  if (opname.bestand.DirExists(opname.bestand.GetFullPath())) {
+    return "this is a folder; give the WAV files in it";
+  }
+  if (access(opname.bestand.GetFullPath().utf8_str(), R_OK) != 0) {
+    return std::string("cannot be read: ") + std::strerror(errno);
+  }
+  if (opname.info.samplerate == 0) {
+    return std::string("is no WAV file") + remedie;
+  }
+  if (!isBruikbaar(opname.info)) {
+    return "is " + beschrijf(opname.info) +
+           ", not a WAV file with 16-bit PCM or IMA ADPCM samples at 8000, 16000 or 32000 Hz" +
+           remedie;
+  }
+  return {};
+}
+
+}  // namespace
+
+std::optional<std::vector<Opname>> leesOpnamen(std::vector<std::string> const& paden) {
+  std::vector<Opname> opnamen;
+  int const voor = aantalGemeld();
+  for (std::string const& pad : paden) {
+    Opname opname{pad, volledig(pad), {}};
+    SndBestand const wav = SndBestand::lees(opname.bestand);
+    opname.info = wav.info();
+    std::string const reden = bezwaar(opname);
+    if (reden.empty()) {
+      wav.meldGebrek();
+    } else {
+      meld(pad + ": " + reden);
+    }
+    opnamen.push_back(opname);
+  }
+  if (aantalGemeld() != voor) {
+    return std::nullopt;
+  }
+  return opnamen;
+}

@@ -1,0 +1,68 @@
+#include "opdrachtregel/programma.h"
+
+#include <wx/init.h>
+
+#include <clocale>
+#include <iostream>
+#include <memory>
+#include <vector>
+
+#include "opdrachtregel/encodeerOpdracht.h"
+#include "opdrachtregel/gebruik.h"
+#include "opdrachtregel/melding.h"
+#include "opdrachtregel/wegwerpBestand.h"
+
+namespace {
+
+// The commands, in the order of the help.
+std::vector<std::unique_ptr<Opdracht>> maakOpdrachten(CLI::App& programma) {
+  std::vector<std::unique_ptr<Opdracht>> opdrachten;
+  opdrachten.push_back(std::make_unique<EncodeerOpdracht>(programma));
+  return opdrachten;
+}
+
+// Texts are English and names are UTF-8, whatever the environment says: a build must not depend on
+// whose shell it runs in.
+void kiesTaal() {
+  std::setlocale(LC_ALL, "C");
+  std::setlocale(LC_CTYPE, "C.UTF-8");
+}
+
+Uitslag voerOpdrachtUit(Opdracht& opdracht) {
+  wxInitializer const toolkit;
+  kiesTaal();
+  MeldingLog const log;
+  ruimOpBijSignaal();
+  return opdracht.voerUit();
+}
+
+// What was said may stand in a buffer still, and a disk may be full.
+int sluitUitvoer(int uitslag) {
+  std::cout.flush();
+  if (!std::cout.good() && uitslag == gelukt) {
+    meld("cannot write standard output");
+    return mislukt;
+  }
+  return uitslag;
+}
+
+}  // namespace
+
+int voerProgrammaUit(int aantal, char const* const* woorden) {
+  CLI::App programma("Turns short WAV fragments into source arrays for firmware.", "kestrolin-cli");
+  programma.set_version_flag("--version", std::string("kestrolin-cli ") + KESTROLIN_VERSIE,
+                             "Print the version and exit");
+  programma.require_subcommand(1);
+  std::vector<std::unique_ptr<Opdracht>> const opdrachten = maakOpdrachten(programma);
+  try {
+    programma.parse(aantal, woorden);
+  } catch (CLI::ParseError const& fout) {
+    return sluitUitvoer(meldParseFout(programma, fout));
+  }
+  for (std::unique_ptr<Opdracht> const& opdracht : opdrachten) {
+    if (opdracht->isGevraagd()) {
+      return sluitUitvoer(voerOpdrachtUit(*opdracht));
+    }
+  }
+  return verkeerdGebruik;
+}

@@ -1,0 +1,35 @@
+#include "opdrachtregel/voortgang.h"
+
+#include <unistd.h>
+
+#include <iostream>
+
+#include "opdrachtregel/melding.h"
+
+namespace {
+
+// Back to the begin of the line, which is cleared.
+constexpr char const* veeg = "\r\033[K";
+
+}  // namespace
+
+Voortgang::Voortgang(std::size_t aantal) : totaal(aantal), isTerminal(isatty(STDERR_FILENO) == 1) {}
+
+Voortgang::~Voortgang() {
+  if (staatEr) {
+    std::cerr << veeg << std::flush;
+  }
+}
+
+void Voortgang::meldNietHeel(wxString const& wav) {
+  meld(wav.utf8_string() + ": not all of it could be read, or copied to the temporary folder");
+}
+
+void Voortgang::meldGedaan(std::size_t nummer) {
+  constexpr std::chrono::milliseconds geduld(500);
+  if (isTerminal && nummer < totaal && std::chrono::steady_clock::now() - begin >= geduld) {
+    std::cerr << veeg << "kestrolin-cli: " << nummer << " of " << totaal << " recordings"
+              << std::flush;
+    staatEr = true;
+  }
+}

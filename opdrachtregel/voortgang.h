@@ -1,0 +1,28 @@
+// The progress of a run, on a terminal.
+#pragma once
+
+#include <chrono>
+#include <string>
+
+#include "audio/uitvoer/uitvoerRun.h"
+
+class Voortgang : public RunToezicht {
+ public:
+  explicit Voortgang(std::size_t aantal);
+  // Takes the line away.
+  ~Voortgang() override;
+  Voortgang(Voortgang const&) = delete;
+  Voortgang& operator=(Voortgang const&) = delete;
+  Voortgang(Voortgang&&) = delete;
+  Voortgang& operator=(Voortgang&&) = delete;
+
+  void meldNietHeel(wxString const& wav) override;
+  // Shows how far the run is once it lasts for half a second, where standard error is a terminal.
+  void meldGedaan(std::size_t nummer) override;
+
+ private:
+  std::size_t totaal;
+  bool isTerminal;
+  bool staatEr = false;
+  std::chrono::steady_clock::time_point begin = std::chrono::steady_clock::now();
+};

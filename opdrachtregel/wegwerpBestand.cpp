@@ -1,0 +1,106 @@
+#include "opdrachtregel/wegwerpBestand.h"
+
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+
+namespace {
+
+// Interrupt, end, a terminal that closes, a reader of standard output that has gone.
+constexpr std::array<int, 4> eindSignalen{SIGINT, SIGTERM, SIGHUP, SIGPIPE};
+
+// The list that a signal walks. It changes only while these signals wait.
+WegwerpBestand::Knoop* eerste = nullptr;
+
+void ruimOp(int signaal) {
+  for (WegwerpBestand::Knoop const* een = eerste; een != nullptr; een = een->volgende) {
+    unlink(een->pad.c_str());
+  }
+  // The action is the system's own again, and comes when this function ends.
+  static_cast<void>(raise(signaal));
+}
+
+sigset_t eindMasker() {
+  sigset_t masker;
+  sigemptyset(&masker);
+  for (int const signaal : eindSignalen) {
+    sigaddset(&masker, signaal);
+  }
+  return masker;
+}
+
+}  // namespace
+
+SignaalPauze::SignaalPauze() {
+  sigset_t const masker = eindMasker();
+  sigprocmask(SIG_BLOCK, &masker, &vorige);
+}
+
+SignaalPauze::~SignaalPauze() {
+  sigprocmask(SIG_SETMASK, &vorige, nullptr);
+}
+
+void ruimOpBijSignaal() {
+  // A file that grows beyond its limit is an error of the write.
+  static_cast<void>(std::signal(SIGXFSZ, SIG_IGN));
+  for (int const signaal : eindSignalen) {
+    struct sigaction actie {};
+    sigaction(signaal, nullptr, &actie);
+    if (actie.sa_handler != SIG_IGN) {
+      actie.sa_handler = ruimOp;
+      actie.sa_mask = eindMasker();
+      actie.sa_flags = static_cast<int>(SA_RESETHAND);
+      sigaction(signaal, &actie, nullptr);
+    }
+  }
+}
+
+WegwerpBestand::WegwerpBestand(std::string const& map) {
+  knoop.pad = map + "/.kestrolin-XXXXXX";
+  SignaalPauze const pauze;
+  handvat = mkstemp(knoop.pad.data());
+  if (isOpen()) {
+    knoop.volgende = eerste;
+    eerste = &knoop;
+  }
+}
+
+WegwerpBestand::~WegwerpBestand() {
+  static_cast<void>(sluit());
+  SignaalPauze const pauze;
+  if (vergeet()) {
+    unlink(knoop.pad.c_str());
+  }
+}
+
+bool WegwerpBestand::sluit() {
+  int const open = handvat;
+  handvat = -1;
+  // Linux has closed it, also where a signal came between.
+  return open < 0 || close(open) == 0 || errno == EINTR;
+}
+
+bool WegwerpBestand::hernoem(std::string const& doel) {
+  SignaalPauze const pauze;
+  if (std::rename(knoop.pad.c_str(), doel.c_str()) != 0) {
+    return false;
+  }
+  vergeet();
+  return true;
+}
+
+// Takes the file out of the list of those that go. False where it is not in there.
+bool WegwerpBestand::vergeet() {
+  Knoop** plaats = &eerste;
+  while (*plaats != nullptr && *plaats != &knoop) {
+    plaats = &(*plaats)->volgende;
+  }
+  bool const gevonden = *plaats != nullptr;
+  if (gevonden) {
+    *plaats = knoop.volgende;
+  }
+  return gevonden;
+}
