@@ -113,8 +113,13 @@ bool Doel::sluit() {
   if (fout != 0) {
     return meldFout(fout);
   }
-  // What goes to a device is read once more.
-  return isToestel() || nieuw->sluit() || meldFout(errno);
+  if (isToestel()) {
+    // It is read once more, and then thrown away.
+    return true;
+  }
+  // A build must not find an empty file that looks new when the power comes back.
+  bool const isVast = fsync(nieuw->geefHandvat()) == 0 || errno == EINVAL || errno == ENOTSUP;
+  return (isVast && nieuw->sluit()) || meldFout(errno);
 }
 
 bool Doel::lever() {

@@ -32,45 +32,47 @@ int plaatsVan(std::vector<std::string> const& namen, std::string const& naam) {
 
 void voegTekstOptiesToe(CLI::App& app, EncodeerOpties& opties) {
   app.add_option("--encoder", opties.encoder,
-                 "How the samples are stored; wav embeds whole WAV files, as the window's Save As")
+                 "How samples are stored; wav embeds whole WAV files, as the window's Save As "
+                 "(default: pcm)")
+      ->type_name("speex|adpcm|pcm|wav")
       ->check(CLI::IsMember(wijzen))
-      ->default_str("pcm")
       ->group(groepTekst);
-  app.add_option("--language", opties.taal, "Language of the text")
+  app.add_option("--language", opties.taal, "Language of the text (default: c)")
+      ->type_name("c|c++")
       ->check(CLI::IsMember(talen))
-      ->default_str("c")
       ->group(groepTekst);
-  app.add_option("--class", opties.klasse, "Class that has the arrays as members, for c++")
+  app.add_option("--class", opties.klasse, "Class of which the arrays are members; c++ needs it")
       ->type_name("NAME")
       ->group(groepTekst);
-  app.add_option("--dac", opties.dacBits, "Width of the DAC in bits, to which samples are scaled")
+  app.add_option("--dac", opties.dacBits,
+                 "Width of the DAC in bits, to which samples are scaled (default: 16)")
+      ->type_name("8|10|12|16")
       ->check(CLI::IsMember(std::vector<int>(dacBreedten.begin(), dacBreedten.end())))
-      ->default_str("16")
       ->group(groepTekst);
   app.add_flag("--header,!--no-header", opties.metHeader,
-               "With or without the header at the start of each array (default: with)")
+               "Begin each array with its header, or not (default: begin with it)")
       ->group(groepTekst);
 }
 
 void voegSpeexOptiesToe(CLI::App& app, EncodeerOpties& opties) {
   CLI::Range const niveaus(0, speexHoogsteNiveau);
-  app.add_option("--quality", opties.kwaliteit, "Quality of the sound, from small to good")
+  app.add_option("--quality", opties.kwaliteit,
+                 "Quality of the sound, from small to good (default: 8)")
+      ->type_name("0..10")
       ->check(niveaus)
-      ->default_str("8")
       ->group(groepSpeex);
-  app.add_option("--complexity", opties.complexiteit, "Effort of the encoder")
+  app.add_option("--complexity", opties.complexiteit, "Effort of the encoder (default: 3)")
+      ->type_name("0..10")
       ->check(niveaus)
-      ->default_str("3")
       ->group(groepSpeex);
-  app.add_option("--bitrate", opties.bitrate, "Kind of bit rate")
+  app.add_option("--bitrate", opties.bitrate, "Kind of bit rate (default: fixed)")
+      ->type_name("fixed|variable|average")
       ->check(CLI::IsMember(bitrates))
-      ->default_str("fixed")
       ->group(groepSpeex);
   app.add_option("--max-bitrate", opties.maxBitrate,
-                 "Largest or average bit rate, of those that are not fixed")
+                 "Largest or average bit rate, where it is not fixed (default: 5000)")
       ->check(CLI::Range(0, std::numeric_limits<int>::max()))
       ->type_name("N")
-      ->default_str("5000")
       ->group(groepSpeex);
   app.add_flag("--vad,!--no-vad", opties.vad, "Detect voice activity, or not (default: do)")
       ->group(groepSpeex);
@@ -116,7 +118,9 @@ bool leesInstellingenVan(std::string const& pad, EncodeerVraag& vraag) {
     return false;
   }
   wxMemoryInputStream bestand(inhoud.data(), inhoud.size());
-  // A user's file may have lines of any kind. The toolkit asserts on some, and reads on.
+  // A user's file may have lines of any kind. The toolkit talks of some, asserts on others, and
+  // reads on, as it does for the window.
+  wxLogNull const stil;
   wxAssertHandler_t const vorige = wxSetAssertHandler(nullptr);
   wxFileConfig config(bestand, wxConvAuto());
   wxSetAssertHandler(vorige);

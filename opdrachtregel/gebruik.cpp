@@ -4,6 +4,7 @@
 #include <iostream>
 
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/opmaak.h"
 
 namespace {
 
@@ -24,20 +25,13 @@ std::string optieIn(CLI::App const& app, std::string const& bericht) {
   return gevonden == opties.end() ? std::string() : (*gevonden)->get_name();
 }
 
-std::string volleNaam(CLI::App const& app) {
-  CLI::App const* const ouder = app.get_parent();
-  return ouder == nullptr ? app.get_name() : volleNaam(*ouder) + " " + app.get_name();
-}
-
 }  // namespace
 
 Uitslag meldGebruik(CLI::App const& app, std::string const& bericht, std::string const& optie) {
   meld(bericht);
   CLI::Option const* const gevonden = optie.empty() ? nullptr : app.get_option_no_throw(optie);
-  CLI::Formatter const opmaak;
-  std::cerr << (gevonden != nullptr ? opmaak.make_option(gevonden, gevonden->get_positional())
-                                    : opmaak.make_usage(&app, volleNaam(app)))
-            << "Try '" << volleNaam(app) << " --help' for all of it.\n";
+  std::cerr << (gevonden != nullptr ? optieUitleg(*gevonden) : gebruiksRegel(app)) << "Try '"
+            << volleNaam(app) << " --help' for all of it.\n";
   return verkeerdGebruik;
 }
 

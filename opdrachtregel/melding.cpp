@@ -21,15 +21,14 @@ int aantalGemeld() {
   return gemeld;
 }
 
-MeldingLog::MeldingLog() : vorige(wxLog::SetActiveTarget(this)) {
-  wxLog::DisableTimestamp();
-}
+MeldingLog::MeldingLog() : vorige(wxLog::SetActiveTarget(this)) {}
 
 MeldingLog::~MeldingLog() {
   wxLog::SetActiveTarget(vorige);
 }
 
-void MeldingLog::DoLogTextAtLevel(wxLogLevel niveau, wxString const& tekst) {
+void MeldingLog::DoLogRecord(wxLogLevel niveau, wxString const& tekst,
+                             wxLogRecordInfo const& /*gegevens*/) {
   if (niveau <= wxLOG_Error) {
     meld(tekst.utf8_string());
   }

@@ -23,7 +23,8 @@ class MeldingLog : public wxLog {
   MeldingLog& operator=(MeldingLog&&) = delete;
 
  protected:
-  void DoLogTextAtLevel(wxLogLevel niveau, wxString const& tekst) override;
+  void DoLogRecord(wxLogLevel niveau, wxString const& tekst,
+                   wxLogRecordInfo const& gegevens) override;
 
  private:
   wxLog* vorige;

@@ -5,11 +5,13 @@
 #include <clocale>
 #include <iostream>
 #include <memory>
+#include <new>
 #include <vector>
 
 #include "opdrachtregel/encodeerOpdracht.h"
 #include "opdrachtregel/gebruik.h"
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/opmaak.h"
 #include "opdrachtregel/wegwerpBestand.h"
 
 namespace {
@@ -46,10 +48,10 @@ int sluitUitvoer(int uitslag) {
   return uitslag;
 }
 
-}  // namespace
-
-int voerProgrammaUit(int aantal, char const* const* woorden) {
+int voerRegelUit(int aantal, char const* const* woorden) {
   CLI::App programma("Turns short WAV fragments into source arrays for firmware.", "kestrolin-cli");
+  programma.formatter(std::make_shared<Opmaak>());
+  programma.set_help_flag("-h,--help", "Print this and exit");
   programma.set_version_flag("--version", std::string("kestrolin-cli ") + KESTROLIN_VERSIE,
                              "Print the version and exit");
   programma.require_subcommand(1);
@@ -65,4 +67,16 @@ int voerProgrammaUit(int aantal, char const* const* woorden) {
     }
   }
   return verkeerdGebruik;
+}
+
+}  // namespace
+
+int voerProgrammaUit(int aantal, char const* const* woorden) {
+  try {
+    return voerRegelUit(aantal, woorden);
+  } catch (std::bad_alloc const&) {
+    // On the way here all that was begun has been taken away.
+    meld("there is not enough memory");
+    return mislukt;
+  }
 }
