@@ -62,7 +62,7 @@ bool Doel::bereidVoor() {
   std::error_code geen;
   if (naam == standaardUitvoer) {
     soort = Soort::standaardUitvoer;
-    return maakNieuw(fs::temp_directory_path(geen).string());
+    return maakNieuw(tijdelijkeMap());
   }
   fs::file_status const status = fs::status(pad, geen);
   if (fs::is_directory(status)) {
@@ -71,7 +71,7 @@ bool Doel::bereidVoor() {
   }
   if (fs::exists(status) && !fs::is_regular_file(status)) {
     soort = Soort::toestel;
-    return maakNieuw(fs::temp_directory_path(geen).string());
+    return maakNieuw(tijdelijkeMap());
   }
   isEr = fs::exists(status);
   if (isEr && access(pad.c_str(), W_OK) != 0) {
@@ -82,6 +82,10 @@ bool Doel::bereidVoor() {
 
 bool Doel::maakNieuw(std::string const& map) {
   nieuw = std::make_unique<WegwerpBestand>(map);
+  if (!nieuw->isOpen() && isToestel()) {
+    meldGeenTijdelijk();
+    return false;
+  }
   return nieuw->isOpen() || meldFout(errno);
 }
 

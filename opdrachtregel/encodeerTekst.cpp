@@ -3,12 +3,8 @@
 #include <wx/arrstr.h>
 #include <wx/stream.h>
 
-#include <cerrno>
-#include <cstring>
-#include <filesystem>
 #include <memory>
 #include <optional>
-#include <system_error>
 
 #include "audio/uitvoer/speexMaker.h"
 #include "opdrachtregel/melding.h"
@@ -34,10 +30,9 @@ std::unique_ptr<FragmentMaker> maakMaker(Uitvoerwijze wijze, WegwerpBestand cons
 
 bool schrijfTekst(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
                   wxOutputStream& uit) {
-  std::error_code geen;
-  WegwerpBestand const beeld(std::filesystem::temp_directory_path(geen).string());
+  WegwerpBestand const beeld(tijdelijkeMap());
   if (!beeld.isOpen()) {
-    meld("cannot make a temporary file: " + std::string(std::strerror(errno)));
+    meldGeenTijdelijk();
     return false;
   }
   int const voor = aantalGemeld();

@@ -6,6 +6,9 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
+
+#include "opdrachtregel/melding.h"
 
 namespace {
 
@@ -56,6 +59,17 @@ void ruimOpBijSignaal() {
       sigaction(signaal, &actie, nullptr);
     }
   }
+}
+
+std::string tijdelijkeMap() {
+  char const* const map = std::getenv("TMPDIR");
+  return map != nullptr && *map != '\0' ? map : "/tmp";
+}
+
+void meldGeenTijdelijk() {
+  int const code = errno;
+  meld("cannot make a temporary file in " + tijdelijkeMap() + ": " + std::strerror(code) +
+       "; let TMPDIR name a folder with room");
 }
 
 WegwerpBestand::WegwerpBestand(std::string const& map) {

@@ -40,6 +40,12 @@ class WegwerpBestand {
   int handvat = -1;
 };
 
+// The folder for files that go before the program ends: $TMPDIR, or "/tmp".
+std::string tijdelijkeMap();
+
+// Tells that no file can be made there, with the reason in errno.
+void meldGeenTijdelijk();
+
 // From here on the signals by which a user or a build ends the program remove all files of this
 // kind first. A signal that is ignored stays so.
 void ruimOpBijSignaal();

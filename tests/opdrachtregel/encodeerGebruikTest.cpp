@@ -1,0 +1,127 @@
+// Command lines that are no commands, and the answers that are none of a run.
+#include "tests/opdrachtregel/programmaProef.h"
+#include "tests/steun/wavMaker.h"
+
+namespace {
+
+constexpr char const* verder = "Try 'kestrolin-cli encode --help' for all of it.\n";
+
+class Gebruik : public ProgrammaProef {
+ protected:
+  Gebruik() { maakWav(map.pad("goed.wav"), {1}); }
+
+  // Expects status 2, a line of the program's and the line of help, and no file.
+  void eis(std::vector<std::string> const& opties, std::string const& eersteRegel,
+           std::string const& hulp) {
+    std::vector<std::string> woorden{"encode", "goed.wav", "-o", "t"};
+    woorden.insert(woorden.end(), opties.begin(), opties.end());
+    Afloop const afloop = voer(woorden);
+    EXPECT_EQ(afloop.status, 2);
+    EXPECT_EQ(afloop.uit, "");
+    EXPECT_EQ(afloop.fouten, "kestrolin-cli: " + eersteRegel + "\n" + hulp + verder);
+    EXPECT_EQ(inhoud(), std::vector<std::string>{"goed.wav"});
+  }
+};
+
+constexpr char const* klasseHulp =
+    "  --class NAME            Class of which the arrays are members; c++ needs it\n";
+
+TEST_F(Gebruik, CPlusPlusNeedsAClass) {
+  eis({"--language", "c++"}, "--language c++ needs the name of a class", klasseHulp);
+  eis({"--language", "c++", "--class", "a::b"}, "\"a::b\" is no name of a class in C++",
+      klasseHulp);
+  eis({"--language", "c++", "--class", "*/"}, "\"*/\" is no name of a class in C++", klasseHulp);
+}
+
+TEST_F(Gebruik, OutputsThatDoNotGoTogether) {
+  eis({"--source", "t.c"}, "--source needs a header to include",
+      "  --declarations FILE.h   Also write a header to include: the arrays and their\n"
+      "                          sizes\n");
+  eis({"--append", "--declarations", "t.h"},
+      "a header declares the arrays of one run, and not what was there before",
+      "  --append                Append the text to FILE instead of replacing it\n");
+  for (char const* const optie : {"--declarations", "--depfile"}) {
+    Afloop const afloop = voer({"encode", "goed.wav", "-o", "-", optie, "x"});
+    EXPECT_EQ(afloop.status, 2);
+    EXPECT_EQ(afloop.fouten,
+              std::string("kestrolin-cli: other files cannot go with a text on standard output\n"
+                          "  -o, --output FILE       The text; - is standard output\n") +
+                  verder);
+  }
+}
+
+// The words of the first line are those of the library that reads the options.
+TEST_F(Gebruik, ValuesOutOfRangeAreAnsweredWithTheLineOfHelp) {
+  struct Rij {
+    char const* optie;
+    char const* waarde;
+    char const* hulp;
+  };
+  for (Rij const rij :
+       {Rij{"--encoder", "mp3", "  --encoder speex|adpcm|pcm|wav\n"},
+        Rij{"--language", "C", "  --language c|c++        Language of the text (default: c)\n"},
+        Rij{"--dac", "9", "  --dac 8|10|12|16        Width of the DAC in bits"},
+        Rij{"--dac", "x", "  --dac 8|10|12|16        Width of the DAC in bits"},
+        Rij{"--quality", "11", "  --quality 0..10         Quality of the sound"},
+        Rij{"--quality", "-1", "  --quality 0..10         Quality of the sound"},
+        Rij{"--complexity", "11", "  --complexity 0..10      Effort of the encoder"},
+        Rij{"--bitrate", "abr", "  --bitrate fixed|variable|average\n"},
+        Rij{"--max-bitrate", "2147483648", "  --max-bitrate N         Largest or average"},
+        Rij{"--max-bitrate", "-1", "  --max-bitrate N         Largest or average"}}) {
+    Afloop const afloop = voer({"encode", "goed.wav", "-o", "t", rij.optie, rij.waarde});
+    EXPECT_EQ(afloop.status, 2) << rij.optie;
+    EXPECT_EQ(afloop.fouten.rfind("kestrolin-cli: ", 0), 0U);
+    EXPECT_NE(afloop.fouten.find(rij.hulp), std::string::npos) << afloop.fouten;
+    EXPECT_NE(afloop.fouten.find(verder), std::string::npos) << afloop.fouten;
+    EXPECT_EQ(inhoud(), std::vector<std::string>{"goed.wav"});
+  }
+}
+
+TEST_F(Gebruik, WhatIsMissingOrUnknown) {
+  for (std::vector<std::string> const& woorden : {std::vector<std::string>{"encode"},
+                                                  {"encode", "goed.wav"},
+                                                  {"encode", "-o", "t"},
+                                                  {"encode", "goed.wav", "-o", "t", "--bogus"},
+                                                  {"encode", "goed.wav", "-o"}}) {
+    Afloop const afloop = voer(woorden);
+    EXPECT_EQ(afloop.status, 2);
+    EXPECT_EQ(afloop.uit, "");
+    EXPECT_NE(afloop.fouten.find(verder), std::string::npos) << afloop.fouten;
+  }
+  for (std::vector<std::string> const& woorden :
+       {std::vector<std::string>{}, {"bogus"}, {"--bogus"}}) {
+    Afloop const afloop = voer(woorden);
+    EXPECT_EQ(afloop.status, 2);
+    EXPECT_EQ(afloop.uit, "");
+    EXPECT_NE(afloop.fouten.find("Usage: kestrolin-cli COMMAND [OPTION...] FILE...\n"
+                                 "Try 'kestrolin-cli --help' for all of it.\n"),
+              std::string::npos)
+        << afloop.fouten;
+  }
+}
+
+TEST_F(Gebruik, VersionAndHelpAreAnswers) {
+  Afloop const versie = voer({"--version"});
+  EXPECT_EQ(versie.status, 0);
+  EXPECT_EQ(versie.uit, std::string("kestrolin-cli ") + KESTROLIN_VERSIE + "\n");
+  EXPECT_EQ(versie.fouten, "");
+  for (std::vector<std::string> const& woorden :
+       {std::vector<std::string>{"--help"}, {"-h"}, {"encode", "--help"}}) {
+    Afloop const hulp = voer(woorden);
+    EXPECT_EQ(hulp.status, 0);
+    EXPECT_EQ(hulp.uit.rfind("Usage: kestrolin-cli ", 0), 0U);
+    EXPECT_EQ(hulp.uit.back(), '\n');
+    EXPECT_EQ(hulp.fouten, "");
+  }
+}
+
+TEST_F(Gebruik, VerboseTellsWhatWasMade) {
+  maakWav(map.pad("ook.wav"), {1});
+  EXPECT_EQ(voer({"encode", "goed.wav", "-o", "t", "-v"}).fouten,
+            "kestrolin-cli: t: 1 PCM array at 8000 Hz\n");
+  EXPECT_EQ(
+      voer({"encode", "goed.wav", "ook.wav", "-o", "t", "--verbose", "--encoder", "wav"}).fouten,
+      "kestrolin-cli: t: 2 WAV arrays at 8000 Hz\n");
+}
+
+}  // namespace
