@@ -1,12 +1,10 @@
-// The arrays that each of the tool's encoders makes of a WAV file, as bytes: those that a compiler
-// would put into flash. Every call has an encoder of its own, as after a start of the program.
+// The arrays that each of the tool's encoders makes of a WAV file. Every call has an encoder of its
+// own, as after a start of the program.
 #pragma once
 
-#include <vector>
+#include "audio/weergave/arrayBytes.h"
 
 class wxFileName;
-
-using ArrayBytes = std::vector<unsigned char>;
 
 // With header. An empty array stands for a file that could not be encoded.
 ArrayBytes pcmArray(wxFileName const& wav, unsigned int dacBits);

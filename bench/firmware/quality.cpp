@@ -22,7 +22,7 @@
 #include "audio/codec/sndBestand.h"
 #include "audio/codec/wavFormaat.h"
 #include "audio/uitvoer/dacBreedte.h"
-#include "bench/firmware/decode.h"
+#include "audio/weergave/doelDecoder.h"
 #include "bench/firmware/encode.h"
 #include "kestrolin_dac.h"
 
@@ -68,23 +68,29 @@ wxFileName writeCopy(Fragment const& fragment, Samples const& samples, std::stri
   return copy;
 }
 
+// What a target makes of the first array of a text.
+Samples heard(ArraySoort kind, ArrayBytes const& array) {
+  return DoelDecoder().decodeer(kind, array).samples;
+}
+
 double scaleOf(unsigned int dacBits) {
   return std::exp2(fullBits - dacBits);
 }
 
 Case pcmCase(Fragment const& fragment, unsigned int dacBits) {
   ArrayBytes const array = pcmArray(fragment.file, dacBits);
-  return {"PCM", std::to_string(dacBits) + "-bit DAC", array, pcmSamples(array), scaleOf(dacBits)};
+  return {"PCM", std::to_string(dacBits) + "-bit DAC", array, heard(ArraySoort::pcm, array),
+          scaleOf(dacBits)};
 }
 
 Case adpcmCase(wxFileName const& wav, std::string const& setting, double scale) {
   ArrayBytes const array = adpcmArray(wav);
-  return {"ADPCM", setting, array, adpcmSamples(array), scale};
+  return {"ADPCM", setting, array, heard(ArraySoort::adpcm, array), scale};
 }
 
 Case embeddedCase(wxFileName const& wav, std::string const& format) {
   ArrayBytes const array = embeddedArray(wav);
-  return {"Embedded WAV", format, array, embeddedSamples(array), 1};
+  return {"Embedded WAV", format, array, heard(ArraySoort::wav, array), 1};
 }
 
 Case speexCase(Fragment const& fragment, unsigned int quality, unsigned int dacBits) {
@@ -93,7 +99,7 @@ Case speexCase(Fragment const& fragment, unsigned int quality, unsigned int dacB
     setting += ", " + std::to_string(dacBits) + "-bit DAC";
   }
   ArrayBytes const array = speexArray(fragment.file, fragment.rate, quality, dacBits);
-  return {"Speex", setting, array, speexSamples(array), scaleOf(dacBits)};
+  return {"Speex", setting, array, heard(ArraySoort::speex, array), scaleOf(dacBits)};
 }
 
 // Encoded at full width, and narrowed behind the decoder.

@@ -9,6 +9,10 @@
 
 #include "../kestrolin_speex.h"
 
+#ifdef __cplusplus
+extern "C" {
+#endif
+
 enum { SPEEX_SOURCE_FRAME = 640, SPEEX_SOURCE_BITS = 256 };
 
 typedef struct speex_source {
@@ -31,5 +35,9 @@ size_t speex_source_read(speex_source* source, int16_t* samples, size_t room);
 
 /* Gives the decoder back. */
 void speex_source_close(speex_source* source);
+
+#ifdef __cplusplus
+}
+#endif
 
 #endif
