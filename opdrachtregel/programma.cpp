@@ -10,6 +10,7 @@
 
 #include "opdrachtregel/encodeerOpdracht.h"
 #include "opdrachtregel/gebruik.h"
+#include "opdrachtregel/lijstOpdracht.h"
 #include "opdrachtregel/melding.h"
 #include "opdrachtregel/opmaak.h"
 #include "opdrachtregel/wegwerpBestand.h"
@@ -20,6 +21,7 @@ namespace {
 std::vector<std::unique_ptr<Opdracht>> maakOpdrachten(CLI::App& programma) {
   std::vector<std::unique_ptr<Opdracht>> opdrachten;
   opdrachten.push_back(std::make_unique<EncodeerOpdracht>(programma));
+  opdrachten.push_back(std::make_unique<LijstOpdracht>(programma));
   return opdrachten;
 }
 

@@ -1,0 +1,43 @@
+#include "opdrachtregel/lijstOpdracht.h"
+
+#include <iostream>
+#include <optional>
+#include <utility>
+
+#include "opdrachtregel/lijst.h"
+#include "opdrachtregel/tekstInvoer.h"
+
+LijstOpdracht::LijstOpdracht(CLI::App& programma)
+    : Opdracht(programma.add_subcommand("list", "List the arrays of generated texts")) {
+  app->add_option("FILE", bestanden, "Texts, of the window too; - is standard input")
+      ->type_name("")
+      ->required();
+  app->add_flag("--json", alsJson, "Print the same as JSON");
+  app->footer(
+      "Bytes are those of the arrays: what they cost in flash. Samples are those of each channel.\n"
+      "With --json: \"arrays\", a list of objects with the keys \"file\", \"array\", \"class\" "
+      "(null in C), \"encoder\"\n(\"speex\", \"adpcm\", \"pcm\" or \"wav\"), \"rate\" in Hz, "
+      "\"samples\", \"duration\" in seconds, \"bytes\",\n\"header\" (true for every WAV file), "
+      "\"dac\" in bits (null for PCM and ADPCM, whose texts do not tell);\nand \"total\", with the "
+      "keys \"arrays\", \"samples\", \"duration\" and \"bytes\".");
+}
+
+// All or nothing: half a list would pass for a whole one.
+Uitslag LijstOpdracht::voerUit() {
+  std::vector<LijstRij> rijen;
+  bool heel = true;
+  for (std::string const& bestand : bestanden) {
+    std::optional<std::vector<TekstArray>> arrays = leesArrays(bestand);
+    heel = heel && arrays.has_value();
+    for (TekstArray& array : arrays.value_or(std::vector<TekstArray>())) {
+      std::size_t const bytes = array.bytes.size();
+      array.bytes = ArrayBytes();
+      rijen.push_back({bestand, std::move(array), bytes});
+    }
+  }
+  if (!heel) {
+    return mislukt;
+  }
+  std::cout << (alsJson ? json(rijen) : tabel(rijen));
+  return gelukt;
+}
