@@ -28,7 +28,7 @@ class Doel : public wxOutputStream {
   // Whether there is a file at its place now.
   bool bestaat() const { return isEr; }
 
-  // Ends the writing. False where not all of it is on the disk, which was told.
+  // Ends the writing, once. False where not all of it is on the disk, which was told.
   bool sluit();
   // Copies what was written to the device. False where it does not take all, which was told.
   bool lever();

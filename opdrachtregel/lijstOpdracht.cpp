@@ -9,17 +9,17 @@
 
 LijstOpdracht::LijstOpdracht(CLI::App& programma)
     : Opdracht(programma.add_subcommand("list", "List the arrays of generated texts")) {
-  app->add_option("FILE", bestanden, "Texts, of the window too; - is standard input")
-      ->type_name("")
-      ->required();
-  app->add_flag("--json", alsJson, "Print the same as JSON");
+  app->add_option("FILE", bestanden, "Texts, of the window too; - is standard input")->required();
+  app->add_flag("--json", alsJson, "Print the same as JSON, for scripts");
   app->footer(
-      "Bytes are those of the arrays: what they cost in flash. Samples are those of each channel.\n"
-      "With --json: \"arrays\", a list of objects with the keys \"file\", \"array\", \"class\" "
-      "(null in C), \"encoder\"\n(\"speex\", \"adpcm\", \"pcm\" or \"wav\"), \"rate\" in Hz, "
-      "\"samples\", \"duration\" in seconds, \"bytes\",\n\"header\" (true for every WAV file), "
-      "\"dac\" in bits (null for PCM and ADPCM, whose texts do not tell);\nand \"total\", with the "
-      "keys \"arrays\", \"samples\", \"duration\" and \"bytes\".");
+      "Bytes are those of the arrays: what they cost in flash. Samples are those of\n"
+      "each channel.\n"
+      "\n"
+      "JSON has the keys \"arrays\", a list, and \"total\". Each array has \"file\",\n"
+      "\"array\", \"class\" (null in C), \"encoder\" (speex, adpcm, pcm or wav), \"rate\" in\n"
+      "Hz, \"samples\", \"duration\" in seconds, \"bytes\", \"header\" (true for WAV files,\n"
+      "which have their own) and \"dac\" in bits (null for PCM and ADPCM, whose texts\n"
+      "do not tell); the total has \"arrays\", \"samples\", \"duration\" and \"bytes\".");
 }
 
 // All or nothing: half a list would pass for a whole one.

@@ -8,6 +8,7 @@
 #include <new>
 #include <vector>
 
+#include "opdrachtregel/decodeerOpdracht.h"
 #include "opdrachtregel/encodeerOpdracht.h"
 #include "opdrachtregel/gebruik.h"
 #include "opdrachtregel/lijstOpdracht.h"
@@ -22,6 +23,7 @@ std::vector<std::unique_ptr<Opdracht>> maakOpdrachten(CLI::App& programma) {
   std::vector<std::unique_ptr<Opdracht>> opdrachten;
   opdrachten.push_back(std::make_unique<EncodeerOpdracht>(programma));
   opdrachten.push_back(std::make_unique<LijstOpdracht>(programma));
+  opdrachten.push_back(std::make_unique<DecodeerOpdracht>(programma));
   return opdrachten;
 }
 

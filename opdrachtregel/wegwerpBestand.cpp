@@ -1,14 +1,21 @@
 #include "opdrachtregel/wegwerpBestand.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <filesystem>
+#include <system_error>
+#include <utility>
 
 #include "opdrachtregel/melding.h"
+
+namespace fs = std::filesystem;
 
 namespace {
 
@@ -16,11 +23,14 @@ namespace {
 constexpr std::array<int, 4> eindSignalen{SIGINT, SIGTERM, SIGHUP, SIGPIPE};
 
 // The list that a signal walks. It changes only while these signals wait.
-WegwerpBestand::Knoop* eerste = nullptr;
+WegwerpKnoop* eerste = nullptr;
 
 void ruimOp(int signaal) {
-  for (WegwerpBestand::Knoop const* een = eerste; een != nullptr; een = een->volgende) {
-    unlink(een->pad.c_str());
+  for (WegwerpKnoop const* een = eerste; een != nullptr; een = een->volgende) {
+    if (unlink(een->pad.c_str()) != 0) {
+      // A folder: it was noted before what lies in it, so that it comes behind that.
+      rmdir(een->pad.c_str());
+    }
   }
   // The action is the system's own again, and comes when this function ends.
   static_cast<void>(raise(signaal));
@@ -33,6 +43,24 @@ sigset_t eindMasker() {
     sigaddset(&masker, signaal);
   }
   return masker;
+}
+
+void noteer(WegwerpKnoop& knoop) {
+  knoop.volgende = eerste;
+  eerste = &knoop;
+}
+
+// Takes it out of the list. False where it is not in there.
+bool vergeet(WegwerpKnoop const& knoop) {
+  WegwerpKnoop** plaats = &eerste;
+  while (*plaats != nullptr && *plaats != &knoop) {
+    plaats = &(*plaats)->volgende;
+  }
+  bool const gevonden = *plaats != nullptr;
+  if (gevonden) {
+    *plaats = knoop.volgende;
+  }
+  return gevonden;
 }
 
 }  // namespace
@@ -77,15 +105,14 @@ WegwerpBestand::WegwerpBestand(std::string const& map) {
   SignaalPauze const pauze;
   handvat = mkstemp(knoop.pad.data());
   if (isOpen()) {
-    knoop.volgende = eerste;
-    eerste = &knoop;
+    noteer(knoop);
   }
 }
 
 WegwerpBestand::~WegwerpBestand() {
   static_cast<void>(sluit());
   SignaalPauze const pauze;
-  if (vergeet()) {
+  if (vergeet(knoop)) {
     unlink(knoop.pad.c_str());
   }
 }
@@ -102,19 +129,45 @@ bool WegwerpBestand::hernoem(std::string const& doel) {
   if (std::rename(knoop.pad.c_str(), doel.c_str()) != 0) {
     return false;
   }
-  vergeet();
+  vergeet(knoop);
   return true;
 }
 
-// Takes the file out of the list of those that go. False where it is not in there.
-bool WegwerpBestand::vergeet() {
-  Knoop** plaats = &eerste;
-  while (*plaats != nullptr && *plaats != &knoop) {
-    plaats = &(*plaats)->volgende;
+WegwerpMap::WegwerpMap(std::string const& pad) {
+  constexpr mode_t alle = 0777;
+  SignaalPauze const pauze;
+  fs::path tot;
+  for (fs::path const& deel : fs::path(pad)) {
+    tot /= deel;
+    auto knoop = std::make_unique<WegwerpKnoop>();
+    knoop->pad = tot.string();
+    if (mkdir(knoop->pad.c_str(), alle) == 0) {
+      noteer(*knoop);
+      gemaakt.push_back(std::move(knoop));
+      continue;
+    }
+    int const code = errno;
+    std::error_code geen;
+    if (!fs::is_directory(tot, geen)) {
+      fout = code;
+      return;
+    }
   }
-  bool const gevonden = *plaats != nullptr;
-  if (gevonden) {
-    *plaats = knoop.volgende;
+  fout = pad.empty() ? ENOENT : 0;
+}
+
+WegwerpMap::~WegwerpMap() {
+  SignaalPauze const pauze;
+  std::for_each(gemaakt.rbegin(), gemaakt.rend(), [](std::unique_ptr<WegwerpKnoop> const& knoop) {
+    vergeet(*knoop);
+    rmdir(knoop->pad.c_str());
+  });
+}
+
+void WegwerpMap::houd() {
+  SignaalPauze const pauze;
+  for (std::unique_ptr<WegwerpKnoop> const& knoop : gemaakt) {
+    vergeet(*knoop);
   }
-  return gevonden;
+  gemaakt.clear();
 }

@@ -2,7 +2,15 @@
 #pragma once
 
 #include <csignal>
+#include <memory>
 #include <string>
+#include <vector>
+
+// One of the files and folders that a signal removes.
+struct WegwerpKnoop {
+  std::string pad;
+  WegwerpKnoop* volgende = nullptr;
+};
 
 class WegwerpBestand {
  public:
@@ -27,17 +35,32 @@ class WegwerpBestand {
   // no more then. False, with errno, where that fails.
   bool hernoem(std::string const& doel);
 
-  // One of the files that a signal removes.
-  struct Knoop {
-    std::string pad;
-    Knoop* volgende = nullptr;
-  };
+ private:
+  WegwerpKnoop knoop;
+  int handvat = -1;
+};
+
+// A folder for what is to come. Where it is missing it is made, with those above it.
+class WegwerpMap {
+ public:
+  explicit WegwerpMap(std::string const& pad);
+  // Removes what it made, unless that is to stay, or holds something.
+  ~WegwerpMap();
+  WegwerpMap(WegwerpMap const&) = delete;
+  WegwerpMap& operator=(WegwerpMap const&) = delete;
+  WegwerpMap(WegwerpMap&&) = delete;
+  WegwerpMap& operator=(WegwerpMap&&) = delete;
+
+  bool isEr() const { return fout == 0; }
+  // The errno that tells why it is not there.
+  int geefFout() const { return fout; }
+  // What was made is to stay.
+  void houd();
 
  private:
-  bool vergeet();
-
-  Knoop knoop;
-  int handvat = -1;
+  // Outermost first.
+  std::vector<std::unique_ptr<WegwerpKnoop>> gemaakt;
+  int fout = 0;
 };
 
 // The folder for files that go before the program ends: $TMPDIR, or "/tmp".

@@ -1,0 +1,124 @@
+#include "opdrachtregel/decodeerOpdracht.h"
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <system_error>
+
+#include "audio/uitvoer/dacBreedte.h"
+#include "audio/weergave/tekstGeluid.h"
+#include "audio/weergave/wavSchrijver.h"
+#include "opdrachtregel/doelGroep.h"
+#include "opdrachtregel/melding.h"
+#include "opdrachtregel/tekstInvoer.h"
+
+namespace fs = std::filesystem;
+
+DecodeerOpdracht::DecodeerOpdracht(CLI::App& programma)
+    : Opdracht(programma.add_subcommand("decode", "Write what a target plays as WAV files")) {
+  app->add_option("FILE", bestanden, "Texts, of the window too; - is standard input")->required();
+  app->add_option("--to", map,
+                  "Where each array becomes NAME.wav, of 16 bits; made where it is missing")
+      ->type_name("FOLDER")
+      ->required();
+  app->add_option("--dac", dacBits,
+                  "Width in bits of the DAC that the arrays were made for (default: what their "
+                  "text tells; those of PCM and ADPCM do not tell, and their samples stay as "
+                  "they are)")
+      ->type_name("8|10|12|16")
+      ->check(CLI::IsMember(std::vector<int>(dacBreedten.begin(), dacBreedten.end())));
+  app->add_flag("-v,--verbose", uitgebreid, "Tell what was made");
+  app->footer(
+      "ADPCM fragments go on from one another, in the order of their text: give the\n"
+      "text as it was made.");
+}
+
+Uitslag DecodeerOpdracht::voerUit() {
+  WegwerpMap doelMap(map);
+  if (!doelMap.isEr()) {
+    meld("cannot make the folder " + map + ": " + std::strerror(doelMap.geefFout()) +
+         "; give another one");
+    return mislukt;
+  }
+  DoelGroep doelen;
+  if (!decodeerAlle(doelen) || !doelen.legVast()) {
+    return mislukt;
+  }
+  doelMap.houd();
+  if (uitgebreid) {
+    std::cerr << "kestrolin-cli: " << map << ": " << plaatsen.size()
+              << (plaatsen.size() == 1 ? " WAV file\n" : " WAV files\n");
+  }
+  return gelukt;
+}
+
+// Tells of all texts what is wrong with them.
+bool DecodeerOpdracht::decodeerAlle(DoelGroep& doelen) {
+  bool heel = true;
+  for (std::string const& bestand : bestanden) {
+    std::optional<std::vector<TekstArray>> const arrays = leesArrays(bestand);
+    heel = arrays && decodeerTekst(bestand, *arrays, doelen) && heel;
+  }
+  return heel;
+}
+
+bool DecodeerOpdracht::decodeerTekst(std::string const& bestand,
+                                     std::vector<TekstArray> const& arrays, DoelGroep& doelen) {
+  auto const kan = std::count_if(arrays.begin(), arrays.end(),
+                                 [&](TekstArray const& array) { return keurNaam(bestand, array); });
+  if (kan != static_cast<std::ptrdiff_t>(arrays.size())) {
+    return false;
+  }
+  TekstDecoder decoder(dacBits == 0 ? std::nullopt : std::optional(dacBits));
+  return std::all_of(arrays.begin(), arrays.end(), [&](TekstArray const& array) {
+    return schrijf(array, decoder.decodeer(array), doelen);
+  });
+}
+
+bool DecodeerOpdracht::keurNaam(std::string const& bestand, TekstArray const& array) {
+  std::string const hier = bestand + ":" + std::to_string(array.regel);
+  auto const [plaats, isNieuw] = plaatsen.emplace(array.naam, hier);
+  if (!isNieuw) {
+    meld(hier + ": an array " + array.naam + " stands in " + plaats->second +
+         " too: decode the two into folders of their own");
+    return false;
+  }
+  std::string const pad = doelPad(array);
+  bool const isInvoer =
+      std::any_of(bestanden.begin(), bestanden.end(), [&](std::string const& een) {
+        std::error_code geenVanBeide;
+        return fs::equivalent(een, pad, geenVanBeide);
+      });
+  if (isInvoer) {
+    meld("cannot write " + pad + ": it is one of the files to read; give another folder");
+  }
+  return !isInvoer;
+}
+
+bool DecodeerOpdracht::schrijf(TekstArray const& array, DoelGeluid const& geluid,
+                               DoelGroep& doelen) const {
+  std::string const pad = doelPad(array);
+  // Speex alone asks for what may not be there: a decoder.
+  if (geluid.samples.empty() && array.aantalSamples > 0) {
+    meld("cannot decode " + volleNaam(array) + ": libspeex gives no decoder");
+    return false;
+  }
+  if (!pastInWav(geluid)) {
+    meld("cannot write " + pad + ": the sound is longer than a WAV file can hold");
+    return false;
+  }
+  Doel* const doel = doelen.voegToe(pad);
+  if (doel == nullptr) {
+    return false;
+  }
+  schrijfWav(geluid, *doel);
+  // A text may have more arrays than a process may have open files.
+  return doel->sluit();
+}
+
+// The names of arrays are identifiers: none leads out of the folder.
+std::string DecodeerOpdracht::doelPad(TekstArray const& array) const {
+  return (fs::path(map) / (array.naam + ".wav")).string();
+}
