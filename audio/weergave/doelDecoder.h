@@ -13,9 +13,8 @@
 using Samples = std::vector<short>;
 
 struct DoelGeluid {
-  kestrolin_status
-      status;             // KESTROLIN_OK, or why the reader turned the array away: no samples then
-  unsigned int rate = 0;  // samples a second and channel
+  kestrolin_status status;  // not KESTROLIN_OK where the reader turned the array away
+  unsigned int rate = 0;    // samples a second and channel
   unsigned int kanalen = 1;
   Samples samples;
 };

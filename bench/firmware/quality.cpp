@@ -1,20 +1,22 @@
-// Encodes fragments with every encoder of the tool, decodes them as a target would, and writes what
-// is heard there for the measure of quality to judge.
+// Encodes fragments with every encoder of the tool, decodes them as a target would, and measures
+// how near to the originals they come.
 //
 //   firmwareQuality FOLDER FRAGMENT.wav...
 //
 // Prints a line of tab-separated fields a case, below a line of their names: the bytes of the
-// array, those a second of sound, the WAV file in FOLDER that holds what is heard, and what its
-// samples are to be multiplied by to be at the level of the original. Other files are left in
-// FOLDER and in the temporary directory. Status 1 where a case gives no sound.
+// array, those a second of sound, and the two measures of quality in dB, the frequency-weighted one
+// first. Files are left in FOLDER and in the temporary directory. Status 1 where a case gives no
+// sound.
 #include <wx/filename.h>
 #include <wx/init.h>
 #include <wx/log.h>
 
 #include <algorithm>
 #include <cmath>
+#include <iomanip>
 #include <iostream>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +25,7 @@
 #include "audio/codec/wavFormaat.h"
 #include "audio/uitvoer/dacBreedte.h"
 #include "audio/weergave/doelDecoder.h"
+#include "audio/weergave/kwaliteit.h"
 #include "bench/firmware/encode.h"
 #include "kestrolin_dac.h"
 
@@ -54,17 +57,13 @@ Fragment readFragment(std::string const& path) {
   return {file, sound.info().samplerate, samples};
 }
 
-bool writeWav(wxFileName const& file, int rate, Samples const& samples, int format) {
-  auto const count = static_cast<sf_count_t>(samples.size());
-  return SndBestand::schrijf(file, rate, 1, format).schrijfItems(samples.data(), count) == count;
-}
-
 // These samples under the fragment's own name, in a folder for this format.
 wxFileName writeCopy(Fragment const& fragment, Samples const& samples, std::string const& folder,
                      int format) {
   wxFileName::Mkdir(folder, wxS_DIR_DEFAULT, wxPATH_MKDIR_FULL);
   wxFileName const copy(folder, fragment.file.GetFullName());
-  writeWav(copy, fragment.rate, samples, format);
+  SndBestand::schrijf(copy, fragment.rate, 1, format)
+      .schrijfItems(samples.data(), static_cast<sf_count_t>(samples.size()));
   return copy;
 }
 
@@ -140,14 +139,25 @@ std::vector<Case> casesOf(Fragment const& fragment, std::string const& folder) {
   return cases;
 }
 
-// Prints the line of a case and writes what is heard of it.
-bool reportCase(Fragment const& fragment, Case const& heard, wxFileName const& sound) {
+std::optional<Kwaliteit> qualityOf(Fragment const& fragment, Case const& heard) {
+  Reeks scaled(heard.samples.size());
+  std::transform(heard.samples.begin(), heard.samples.end(), scaled.begin(),
+                 [&heard](short sample) { return sample * heard.scale; });
+  return meetKwaliteit(Reeks(fragment.samples.begin(), fragment.samples.end()), scaled,
+                       fragment.rate);
+}
+
+bool reportCase(Fragment const& fragment, Case const& heard) {
+  std::optional<Kwaliteit> const quality = qualityOf(fragment, heard);
   auto const duration = static_cast<double>(fragment.samples.size()) / fragment.rate;
   auto const bytes = heard.array.size();
   std::cout << fragment.file.GetName() << '\t' << heard.encoder << '\t' << heard.setting << '\t'
-            << bytes << '\t' << std::lround(static_cast<double>(bytes) / duration) << '\t'
-            << heard.scale << '\t' << sound.GetFullPath() << '\n';
-  return !heard.samples.empty() && writeWav(sound, fragment.rate, heard.samples, wavPcm16);
+            << bytes << '\t' << std::lround(static_cast<double>(bytes) / duration);
+  if (quality) {
+    std::cout << '\t' << quality->banden << '\t' << quality->golven;
+  }
+  std::cout << '\n';
+  return quality.has_value();
 }
 
 bool reportFragment(std::string const& path, std::string const& folder) {
@@ -157,11 +167,8 @@ bool reportFragment(std::string const& path, std::string const& folder) {
     return false;
   }
   std::vector<Case> const cases = casesOf(fragment, folder);
-  std::string const stem = folder + "/" + fragment.file.GetName().ToStdString();
-  int number = 0;
-  auto const good = std::count_if(cases.begin(), cases.end(), [&](Case const& each) {
-    return reportCase(fragment, each, wxFileName(stem + std::to_string(++number) + ".wav"));
-  });
+  auto const good = std::count_if(cases.begin(), cases.end(),
+                                  [&](Case const& each) { return reportCase(fragment, each); });
   return good == static_cast<std::ptrdiff_t>(cases.size());
 }
 
@@ -175,7 +182,8 @@ int main(int argc, char** argv) {
     return 1;
   }
   wxLog::SetLogLevel(wxLOG_Warning);
-  std::cout << "fragment\tencoder\tsetting\tbytes\trate\tscale\tsound\n";
+  std::cout << std::fixed << std::setprecision(6)
+            << "fragment\tencoder\tsetting\tbytes\trate\tquality\twave\n";
   auto const good = std::count_if(
       arguments.begin() + 1, arguments.end(),
       [&](std::string const& fragment) { return reportFragment(fragment, arguments.front()); });

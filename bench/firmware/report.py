@@ -1,4 +1,4 @@
-"""Measures what firmwareQuality decodes, puts the table into docs/firmware.md and draws the picture.
+"""Puts what firmwareQuality measures into the table of docs/firmware.md, and draws the picture.
 
     report.py PROGRAM FRAGMENTS PICTURE.svg
     report.py PROGRAM FRAGMENTS --check       fails where the page has another table
@@ -11,12 +11,8 @@ import os
 import subprocess
 import sys
 import tempfile
-import wave
 from pathlib import Path
 
-import numpy as np
-
-from measure import fw_snr_seg, snr_seg
 from page import PAGE, agree, fill, held
 from plot import Case, draw
 
@@ -28,25 +24,14 @@ TITLES = {
 }
 
 
-def _sound(path: str | Path) -> tuple[np.ndarray, int]:
-    with wave.open(str(path)) as file:
-        return np.frombuffer(file.readframes(file.getnframes()), "<i2"), file.getframerate()
-
-
-def _case(row: dict[str, str], fragments: Path) -> Case:
-    original, rate = _sound(fragments / f"{row['fragment']}.wav")
-    decoded = _sound(row["sound"])[0] * float(row["scale"])
-    return Case(row["fragment"], row["encoder"], row["setting"],
-                int(row["rate"]), fw_snr_seg(original, decoded, rate),
-                snr_seg(original, decoded, rate))
-
-
 def measure(program: str, fragments: Path) -> list[Case]:
     with tempfile.TemporaryDirectory() as folder:
         files = [str(fragments / f"{name}.wav") for name in TITLES]
         lines = subprocess.run([program, folder, *files], stdout=subprocess.PIPE, check=True,
                                text=True, env={**os.environ, "TMPDIR": folder}).stdout.splitlines()
-        return [_case(row, fragments) for row in csv.DictReader(lines, delimiter="\t")]
+    return [Case(row["fragment"], row["encoder"], row["setting"], int(row["rate"]),
+                 float(row["quality"]), float(row["wave"]))
+            for row in csv.DictReader(lines, delimiter="\t")]
 
 
 def _cell(case: Case) -> str:
