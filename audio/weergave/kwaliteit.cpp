@@ -60,6 +60,13 @@ double verhouding(double signaal, double fout) {
 
 }  // namespace
 
+Reeks opSchaal(std::vector<short> const& samples, double factor) {
+  Reeks reeks(samples.size());
+  std::transform(samples.begin(), samples.end(), reeks.begin(),
+                 [factor](short sample) { return sample * factor; });
+  return reeks;
+}
+
 BandMeter::BandMeter(int rate)
     : venster(hanning(static_cast<std::size_t>(std::lround(frameDuur * rate)))),
       stap(venster.size() / overlap),

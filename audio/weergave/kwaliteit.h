@@ -14,6 +14,9 @@
 // Samples at the scale of 16 bits, or magnitudes.
 using Reeks = std::vector<double>;
 
+// These samples times `factor`.
+Reeks opSchaal(std::vector<short> const& samples, double factor);
+
 struct Kwaliteit {
   // Frequency-weighted segmental SNR (Tribolet and others 1978; this form Hu and Loizou 2008). It
   // compares the magnitudes of each critical band, and not the waves: a shift in phase, which is

@@ -1,12 +1,12 @@
 // Encodes fragments with every encoder of the tool, decodes them as a target would, and measures
-// how near to the originals they come.
+// how near to the originals they come. Every array has an encoder of its own, with the settings of
+// a first start.
 //
 //   firmwareQuality FOLDER FRAGMENT.wav...
 //
 // Prints a line of tab-separated fields a case, below a line of their names: the bytes of the
 // array, those a second of sound, and the two measures of quality in dB, the frequency-weighted one
-// first. Files are left in FOLDER and in the temporary directory. Status 1 where a case gives no
-// sound.
+// first. Files are left in FOLDER. Status 1 where a case gives no sound.
 #include <wx/filename.h>
 #include <wx/init.h>
 #include <wx/log.h>
@@ -24,9 +24,11 @@
 #include "audio/codec/sndBestand.h"
 #include "audio/codec/wavFormaat.h"
 #include "audio/uitvoer/dacBreedte.h"
+#include "audio/uitvoer/uitvoerOpties.h"
+#include "audio/uitvoer/wavKeuring.h"
+#include "audio/weergave/arrayMaker.h"
 #include "audio/weergave/doelDecoder.h"
 #include "audio/weergave/kwaliteit.h"
-#include "bench/firmware/encode.h"
 #include "kestrolin_dac.h"
 
 namespace {
@@ -67,29 +69,34 @@ wxFileName writeCopy(Fragment const& fragment, Samples const& samples, std::stri
   return copy;
 }
 
-// What a target makes of the first array of a text.
-Samples heard(ArraySoort kind, ArrayBytes const& array) {
-  return DoelDecoder().decodeer(kind, array).samples;
-}
-
 double scaleOf(unsigned int dacBits) {
   return std::exp2(fullBits - dacBits);
 }
 
+KestrolinConfig settingsFor(unsigned int dacBits) {
+  return eersteInstellingen(UitvoerTaalC, dacBits);
+}
+
+// A case of the array that an encoder makes of this file, and of what a target plays of that.
+Case caseOf(std::string const& encoder, std::string const& setting, ArraySoort kind,
+            KestrolinConfig const& settings, wxFileName const& wav, double scale) {
+  wxString const image = wxFileName::CreateTempFileName(wxString());
+  ArrayBytes const array = maakArray(kind, settings, wav, image);
+  wxRemoveFile(image);
+  return {encoder, setting, array, DoelDecoder().decodeer(kind, array).samples, scale};
+}
+
 Case pcmCase(Fragment const& fragment, unsigned int dacBits) {
-  ArrayBytes const array = pcmArray(fragment.file, dacBits);
-  return {"PCM", std::to_string(dacBits) + "-bit DAC", array, heard(ArraySoort::pcm, array),
-          scaleOf(dacBits)};
+  return caseOf("PCM", std::to_string(dacBits) + "-bit DAC", ArraySoort::pcm, settingsFor(dacBits),
+                fragment.file, scaleOf(dacBits));
 }
 
 Case adpcmCase(wxFileName const& wav, std::string const& setting, double scale) {
-  ArrayBytes const array = adpcmArray(wav);
-  return {"ADPCM", setting, array, heard(ArraySoort::adpcm, array), scale};
+  return caseOf("ADPCM", setting, ArraySoort::adpcm, settingsFor(fullBits), wav, scale);
 }
 
 Case embeddedCase(wxFileName const& wav, std::string const& format) {
-  ArrayBytes const array = embeddedArray(wav);
-  return {"Embedded WAV", format, array, heard(ArraySoort::wav, array), 1};
+  return caseOf("Embedded WAV", format, ArraySoort::wav, settingsFor(fullBits), wav, 1);
 }
 
 Case speexCase(Fragment const& fragment, unsigned int quality, unsigned int dacBits) {
@@ -97,8 +104,10 @@ Case speexCase(Fragment const& fragment, unsigned int quality, unsigned int dacB
   if (dacBits != fullBits) {
     setting += ", " + std::to_string(dacBits) + "-bit DAC";
   }
-  ArrayBytes const array = speexArray(fragment.file, fragment.rate, quality, dacBits);
-  return {"Speex", setting, array, heard(ArraySoort::speex, array), scaleOf(dacBits)};
+  KestrolinConfig settings = settingsFor(dacBits);
+  settings.speexFormat = bandVoorFrequentie(fragment.rate);
+  settings.speexQuality = quality;
+  return caseOf("Speex", setting, ArraySoort::speex, settings, fragment.file, scaleOf(dacBits));
 }
 
 // Encoded at full width, and narrowed behind the decoder.
@@ -139,16 +148,9 @@ std::vector<Case> casesOf(Fragment const& fragment, std::string const& folder) {
   return cases;
 }
 
-std::optional<Kwaliteit> qualityOf(Fragment const& fragment, Case const& heard) {
-  Reeks scaled(heard.samples.size());
-  std::transform(heard.samples.begin(), heard.samples.end(), scaled.begin(),
-                 [&heard](short sample) { return sample * heard.scale; });
-  return meetKwaliteit(Reeks(fragment.samples.begin(), fragment.samples.end()), scaled,
-                       fragment.rate);
-}
-
 bool reportCase(Fragment const& fragment, Case const& heard) {
-  std::optional<Kwaliteit> const quality = qualityOf(fragment, heard);
+  std::optional<Kwaliteit> const quality = meetKwaliteit(
+      opSchaal(fragment.samples, 1), opSchaal(heard.samples, heard.scale), fragment.rate);
   auto const duration = static_cast<double>(fragment.samples.size()) / fragment.rate;
   auto const bytes = heard.array.size();
   std::cout << fragment.file.GetName() << '\t' << heard.encoder << '\t' << heard.setting << '\t'
