@@ -87,8 +87,9 @@ std::vector<CLI::Option const*> plaatsen(CLI::App const& app) {
 }  // namespace
 
 std::string volleNaam(CLI::App const& app) {
-  CLI::App const* const ouder = app.get_parent();
-  return ouder == nullptr ? app.get_name() : volleNaam(*ouder) + " " + app.get_name();
+  // A command has the program above it, and nothing below.
+  CLI::App const* const programma = app.get_parent();
+  return programma == nullptr ? app.get_name() : programma->get_name() + " " + app.get_name();
 }
 
 std::string gebruiksRegel(CLI::App const& app) {

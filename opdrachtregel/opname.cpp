@@ -34,12 +34,12 @@ std::string beschrijf(SF_INFO const& info) {
          naamVan(info.format & SF_FORMAT_SUBMASK) + ", " + std::to_string(info.samplerate) + " Hz";
 }
 
-// Why the file cannot be used, empty where it can.
+// What stands in the way of using the file, empty where nothing does.
 std::string bezwaar(Opname const& opname) {
   if (opname.gegeven.empty() || !opname.bestand.IsOk() || !opname.bestand.HasName()) {
     return "this names no file; give the path of a WAV file, in UTF-8";
   }
-  if (opname.bestand.DirExists(opname.bestand.GetFullPath())) {
+  if (wxFileName::DirExists(opname.bestand.GetFullPath())) {
     return "this is a folder; give the WAV files in it";
   }
   if (access(opname.bestand.GetFullPath().utf8_str(), R_OK) != 0) {
@@ -56,6 +56,10 @@ std::string bezwaar(Opname const& opname) {
   return {};
 }
 
+void meldBezwaar(std::string const& pad, std::string const& reden) {
+  meld(pad + ": " + reden);
+}
+
 }  // namespace
 
 std::optional<std::vector<Opname>> leesOpnamen(std::vector<std::string> const& paden) {
@@ -69,7 +73,7 @@ std::optional<std::vector<Opname>> leesOpnamen(std::vector<std::string> const& p
     if (reden.empty()) {
       wav.meldGebrek();
     } else {
-      meld(pad + ": " + reden);
+      meldBezwaar(pad, reden);
     }
     opnamen.push_back(opname);
   }

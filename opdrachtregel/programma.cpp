@@ -30,8 +30,8 @@ std::vector<std::unique_ptr<Opdracht>> maakOpdrachten(CLI::App& programma) {
 // Texts are English and names are UTF-8, whatever the environment says: a build must not depend on
 // whose shell it runs in.
 void kiesTaal() {
-  std::setlocale(LC_ALL, "C");
-  std::setlocale(LC_CTYPE, "C.UTF-8");
+  static_cast<void>(std::setlocale(LC_ALL, "C"));
+  static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8"));
 }
 
 Uitslag voerOpdrachtUit(Opdracht& opdracht) {

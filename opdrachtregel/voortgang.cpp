@@ -13,7 +13,8 @@ constexpr char const* veeg = "\r\033[K";
 
 }  // namespace
 
-Voortgang::Voortgang(std::size_t aantal) : totaal(aantal), isTerminal(isatty(STDERR_FILENO) == 1) {}
+Voortgang::Voortgang(std::size_t aantal, std::chrono::milliseconds langeDuur)
+    : totaal(aantal), geduld(langeDuur), isTerminal(isatty(STDERR_FILENO) == 1) {}
 
 Voortgang::~Voortgang() {
   if (staatEr) {
@@ -26,7 +27,6 @@ void Voortgang::meldNietHeel(wxString const& wav) {
 }
 
 void Voortgang::meldGedaan(std::size_t nummer) {
-  constexpr std::chrono::milliseconds geduld(500);
   if (isTerminal && nummer < totaal && std::chrono::steady_clock::now() - begin >= geduld) {
     std::cerr << veeg << "kestrolin-cli: " << nummer << " of " << totaal << " recordings"
               << std::flush;

@@ -8,7 +8,10 @@
 
 class Voortgang : public RunToezicht {
  public:
-  explicit Voortgang(std::size_t aantal);
+  // A run over `aantal` recordings that begins now. A line shows how far it is once it lasts for so
+  // long.
+  explicit Voortgang(std::size_t aantal,
+                     std::chrono::milliseconds langeDuur = std::chrono::milliseconds(500));
   // Takes the line away.
   ~Voortgang() override;
   Voortgang(Voortgang const&) = delete;
@@ -17,11 +20,12 @@ class Voortgang : public RunToezicht {
   Voortgang& operator=(Voortgang&&) = delete;
 
   void meldNietHeel(wxString const& wav) override;
-  // Shows how far the run is once it lasts for half a second, where standard error is a terminal.
+  // Shows the line, where standard error is a terminal.
   void meldGedaan(std::size_t nummer) override;
 
  private:
   std::size_t totaal;
+  std::chrono::milliseconds geduld;
   bool isTerminal;
   bool staatEr = false;
   std::chrono::steady_clock::time_point begin = std::chrono::steady_clock::now();

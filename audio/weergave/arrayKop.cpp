@@ -26,19 +26,22 @@ bool isIdentifier(Woord const& woord) {
   });
 }
 
-bool isDubbelePunt(Plaats plaats, Plaats einde) {
+bool isDubbelePunt(Plaats const& plaats, Plaats const& einde) {
   return std::distance(plaats, einde) >= 2 && plaats->is(":") && std::next(plaats)->is(":");
 }
 
 // Takes the class before a name, backwards, and leaves `plaats` before it.
-std::string leesKlasse(Plaats& plaats, Plaats einde) {
+std::string leesKlasse(Plaats& plaats, Plaats const& einde) {
   std::string klasse;
   while (isDubbelePunt(plaats, einde)) {
-    Plaats const deel = std::next(plaats, 2);
+    auto const deel = std::next(plaats, 2);
     if (deel == einde || !isIdentifier(*deel)) {
       break;
     }
-    klasse = std::string(deel->tekst) + (klasse.empty() ? "" : "::") + klasse;
+    if (!klasse.empty()) {
+      klasse.insert(0, "::");
+    }
+    klasse.insert(0, deel->tekst);
     plaats = std::next(deel);
   }
   return klasse;
@@ -46,7 +49,7 @@ std::string leesKlasse(Plaats& plaats, Plaats einde) {
 
 // The words of a type, as they stand before a name.
 struct ArrayType {
-  ArrayType(Plaats plaats, Plaats einde) {
+  ArrayType(Plaats plaats, Plaats const& einde) {
     constexpr std::array<std::string_view, 8> bijwoorden{"const",  "constexpr", "extern", "inline",
                                                          "static", "unsigned",  "signed", "char"};
     while (plaats != einde && plaats->soort == WoordSoort::naam &&
@@ -83,7 +86,7 @@ std::optional<ArrayKop> ArrayKopLezer::geef() const {
       !isIdentifier(*std::next(haak))) {
     return std::nullopt;
   }
-  Plaats plaats = std::next(haak, 2);
+  auto plaats = std::next(haak, 2);
   ArrayKop kop{std::string(std::next(haak)->tekst), leesKlasse(plaats, woorden.rend()), false};
   ArrayType const type(plaats, woorden.rend());
   if (!type.isChar || type.isSigned == type.isUnsigned) {

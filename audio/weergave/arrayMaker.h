@@ -9,8 +9,8 @@
 class wxFileName;
 
 // The array of this recording in C, with header, by an encoder that has made nothing before. An
-// embedded WAV file is made at `beeld` first, and stays there. Empty where there is no array, or one
-// that lacks a part of the recording. A recording that cannot be read is told in the log, and gives
-// an array of PCM or ADPCM that the readers turn away.
+// embedded WAV file is made at `beeld` first, and stays there. Empty where there is no array, or
+// one that lacks a part of the recording. A recording that cannot be read is told in the log, and
+// gives an array of PCM or ADPCM that the readers turn away.
 ArrayBytes maakArray(ArraySoort soort, KestrolinConfig instellingen, wxFileName const& wav,
                      wxString const& beeld);
