@@ -1,11 +1,15 @@
 #include "opdrachtregel/encodeerKeuring.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <map>
+#include <system_error>
 
 #include "audio/codec/uitvoerTaal.h"
 #include "audio/uitvoer/arrayNaam.h"
 #include "audio/uitvoer/wavKeuring.h"
+#include "audio/weergave/tekstLezer.h"
+#include "opdrachtregel/bestandBytes.h"
 #include "opdrachtregel/bijlagen.h"
 #include "opdrachtregel/melding.h"
 
@@ -18,8 +22,16 @@ bool pastInCommentaar(std::string const& naam) {
                       [](char teken) { return static_cast<unsigned char>(teken) < ' '; });
 }
 
+bool isCPP(EncodeerVraag const& vraag) {
+  return vraag.instellingen.speexOutputLanguage == UitvoerTaalCPP;
+}
+
 std::string taalNaam(EncodeerVraag const& vraag) {
-  return vraag.instellingen.speexOutputLanguage == UitvoerTaalC ? "C" : "C++";
+  return isCPP(vraag) ? "C++" : "C";
+}
+
+void meldBezwaar(Opname const& opname, std::string const& reden) {
+  meld(opname.gegeven + ": " + reden);
 }
 
 // Why a recording cannot give its name to an array, empty where it can.
@@ -31,7 +43,7 @@ std::string bezwaar(EncodeerVraag const& vraag, Opname const& opname, std::strin
     return "its array would be called \"" + naam + "\", which is no name in " + taalNaam(vraag) +
            "; rename the file";
   }
-  if (vraag.instellingen.speexOutputLanguage == UitvoerTaalCPP && naam == vraag.klasse) {
+  if (isCPP(vraag) && naam == vraag.klasse) {
     return "its array would be called \"" + naam +
            "\", as its class is; rename the file or the class";
   }
@@ -46,9 +58,9 @@ bool keurFrequenties(std::vector<Opname> const& opnamen) {
   int const band = bandVoorFrequentie(eerste.info.samplerate);
   for (Opname const& een : opnamen) {
     if (keurBand(een.info.samplerate, band) != BandOordeel::past) {
-      meld(een.gegeven + ": has " + std::to_string(een.info.samplerate) + " Hz where " +
-           eerste.gegeven + " has " + std::to_string(eerste.info.samplerate) +
-           " Hz; encode each rate by itself, or convert one of them");
+      meldBezwaar(een, "has " + std::to_string(een.info.samplerate) + " Hz where " +
+                           eerste.gegeven + " has " + std::to_string(eerste.info.samplerate) +
+                           " Hz; encode each rate by itself, or convert one of them");
     }
   }
   return aantalGemeld() == voor;
@@ -61,13 +73,13 @@ bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, b
     std::string const naam = een.bestand.GetName().utf8_string();
     std::string const reden = bezwaar(vraag, een, naam);
     if (!reden.empty()) {
-      meld(een.gegeven + ": " + reden);
+      meldBezwaar(een, reden);
       continue;
     }
     auto const [eerder, isNieuw] = vergeven.try_emplace(naam, een.gegeven);
     if (!isNieuw) {
-      meld(een.gegeven + ": its array would be called \"" + naam + "\", as that of " +
-           eerder->second + "; rename one of them");
+      meldBezwaar(een, "its array would be called \"" + naam + "\", as that of " + eerder->second +
+                           "; rename one of them");
     }
   }
   if (metGroottes) {
@@ -77,6 +89,30 @@ bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, b
         meld(ander->second + ": its array would be called \"" + ander->first +
              "\", as the size of that of " + bestand + "; rename one of them");
       }
+    }
+  }
+  return aantalGemeld() == voor;
+}
+
+bool keurAanvulling(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
+                    std::string const& pad) {
+  std::string tekst;
+  std::error_code geen;
+  if (!std::filesystem::is_regular_file(pad, geen) || leesBestand(pad, tekst) != 0) {
+    // There is nothing yet, or no place for a text, as is told when it is opened.
+    return true;
+  }
+  std::vector<TekstArray> const arrays = ontleedTekst(tekst).arrays;
+  std::string const klasse = isCPP(vraag) ? vraag.klasse : std::string();
+  int const voor = aantalGemeld();
+  for (Opname const& een : opnamen) {
+    std::string const naam = een.bestand.GetName().utf8_string();
+    bool const isEr = std::any_of(arrays.begin(), arrays.end(), [&](TekstArray const& array) {
+      return array.naam == naam && array.klasse == klasse;
+    });
+    if (isEr) {
+      meldBezwaar(een, "its array would be called \"" + naam + "\", as one that is in " + pad +
+                           " already; rename the file, or make " + pad + " anew without --append");
     }
   }
   return aantalGemeld() == voor;

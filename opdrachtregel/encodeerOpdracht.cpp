@@ -108,6 +108,7 @@ Uitslag EncodeerOpdracht::voerUit() {
   std::optional<std::vector<Opname>> opnamen = leesOpnamen(opties.wavs);
   if (!opnamen || !keurFrequenties(*opnamen) ||
       !keurNamen(*vraag, *opnamen, !opties.declaraties.empty()) || !keurDoelen(*opnamen) ||
+      (opties.aanvullen && !keurAanvulling(*vraag, *opnamen, opties.uitvoer)) ||
       !neemMomentOver()) {
     return mislukt;
   }
@@ -120,11 +121,24 @@ Uitslag EncodeerOpdracht::voerUit() {
     return mislukt;
   }
   if (opties.uitgebreid) {
-    std::cerr << "kestrolin-cli: " << opties.uitvoer << ": " << opnamen->size() << " "
-              << wijzeNaam(vraag->wijze) << (opnamen->size() == 1 ? " array" : " arrays") << " at "
-              << opnamen->front().info.samplerate << " Hz\n";
+    vertel(*vraag, *opnamen);
   }
   return gelukt;
+}
+
+void EncodeerOpdracht::vertel(EncodeerVraag const& vraag,
+                              std::vector<Opname> const& opnamen) const {
+  auto const regel = [](std::string const& pad, std::string const& wat) {
+    if (!pad.empty()) {
+      std::cerr << "kestrolin-cli: " << pad << ": " << wat << "\n";
+    }
+  };
+  regel(opties.uitvoer, std::to_string(opnamen.size()) + " " + wijzeNaam(vraag.wijze) +
+                            (opnamen.size() == 1 ? " array at " : " arrays at ") +
+                            std::to_string(opnamen.front().info.samplerate) + " Hz");
+  regel(opties.declaraties, "declarations and sizes");
+  regel(opties.bron, "source to compile");
+  regel(opties.afhankelijkheden, "dependencies");
 }
 
 Uitslag EncodeerOpdracht::keurGebruik(EncodeerVraag const& vraag) const {

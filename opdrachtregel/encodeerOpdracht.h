@@ -24,6 +24,8 @@ class EncodeerOpdracht : public Opdracht {
                     DoelGroep& doelen) const;
   bool schrijfBijlagen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
                        DoelGroep& doelen) const;
+  // Tells what was made, file by file.
+  void vertel(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen) const;
   // The outputs that are asked for, the text first.
   std::vector<std::string> uitvoerPaden() const;
 

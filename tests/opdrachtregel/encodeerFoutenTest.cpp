@@ -108,6 +108,26 @@ TEST_F(EncodeerFouten, TwoFilesOfOneName) {
       "one of them\n");
 }
 
+// Whoever appends in a build would do so each time.
+TEST_F(EncodeerFouten, AnArrayThatTheTextToAppendToHasAlready) {
+  ASSERT_EQ(voer({"encode", "goed.wav", "-o", "u"}).status, 0);
+  maakWav(map.pad("ook.wav"), {1});
+  std::string const voor = tekst("u");
+  Afloop const afloop = voer({"encode", "goed.wav", "ook.wav", "-o", "u", "--append"});
+  EXPECT_EQ(afloop.status, 1);
+  EXPECT_EQ(afloop.fouten,
+            "kestrolin-cli: goed.wav: its array would be called \"goed\", as one that is in u "
+            "already; rename the file, or make u anew without --append\n");
+  EXPECT_EQ(tekst("u"), voor);
+  // The member of a class is another array; so is one of another file.
+  EXPECT_EQ(voer({"encode", "goed.wav", "-o", "u", "--append", "--language", "c++", "--class", "G"})
+                .status,
+            0);
+  EXPECT_EQ(voer({"encode", "ook.wav", "-o", "u", "--append"}).status, 0);
+  // What is no generated text can be appended to.
+  EXPECT_EQ(voer({"encode", "goed.wav", "-o", "t", "--append"}).status, 0);
+}
+
 TEST_F(EncodeerFouten, AnArrayCalledAsTheSizeOfAnother) {
   maakWav(map.pad("goed_size.wav"), {1});
   eis({"goed_size.wav", "goed.wav", "--declarations", "t.h"},
