@@ -33,6 +33,12 @@ Terugweg::Terugweg(Doel const& doel) : pad(doel.geefPad()) {
     return;
   }
   oud = std::make_unique<WegwerpBestand>(doel.geefMap());
+  isBewaard = oud->isOpen();
+  if (!isBewaard) {
+    return;
+  }
+  // Its name is all that counts: a group may have more files than a process may have open.
+  static_cast<void>(oud->sluit());
   std::error_code fout;
   fs::remove(oud->geefPad(), fout);
   fs::create_hard_link(pad, oud->geefPad(), fout);
@@ -40,7 +46,7 @@ Terugweg::Terugweg(Doel const& doel) : pad(doel.geefPad()) {
     // Not every file system has links.
     fs::copy_file(pad, oud->geefPad(), fout);
   }
-  isBewaard = oud->isOpen() && !fout;
+  isBewaard = !fout;
 }
 
 void Terugweg::ga() {
@@ -60,12 +66,7 @@ Doel* DoelGroep::voegToe(std::string const& pad, bool aanvullen) {
     return nullptr;
   }
   std::error_code fout;
-  fs::path const eigen = fs::weakly_canonical(doel->geefPad(), fout);
-  bool const dubbel =
-      std::any_of(doelen.begin(), doelen.end(), [&](std::unique_ptr<Doel> const& ander) {
-        return fs::weakly_canonical(ander->geefPad(), fout) == eigen;
-      });
-  if (dubbel) {
+  if (!plaatsen.insert(fs::weakly_canonical(doel->geefPad(), fout)).second) {
     meld("cannot write " + pad + " twice: give each output a file of its own");
     return nullptr;
   }

@@ -1,7 +1,9 @@
 // The files that a command writes: all of them, or none.
 #pragma once
 
+#include <filesystem>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -22,4 +24,5 @@ class DoelGroep {
   bool plaatsAlle();
 
   std::vector<std::unique_ptr<Doel>> doelen;
+  std::set<std::filesystem::path> plaatsen;
 };
