@@ -122,6 +122,13 @@ TEST_F(Gebruik, VerboseTellsWhatWasMade) {
   EXPECT_EQ(
       voer({"encode", "goed.wav", "ook.wav", "-o", "t", "--verbose", "--encoder", "wav"}).fouten,
       "kestrolin-cli: t: 2 WAV arrays at 8000 Hz\n");
+  EXPECT_EQ(voer({"encode", "goed.wav", "-o", "t", "-v", "--declarations", "t.h", "--source", "t.c",
+                  "--depfile", "t.d"})
+                .fouten,
+            "kestrolin-cli: t: 1 PCM array at 8000 Hz\n"
+            "kestrolin-cli: t.h: declarations and sizes\n"
+            "kestrolin-cli: t.c: source to compile\n"
+            "kestrolin-cli: t.d: dependencies\n");
 }
 
 }  // namespace
