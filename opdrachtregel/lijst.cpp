@@ -6,6 +6,7 @@
 #include <nlohmann/json.hpp>
 #include <numeric>
 
+#include "opdrachtregel/melding.h"
 #include "opdrachtregel/tekstInvoer.h"
 
 namespace {
@@ -44,14 +45,6 @@ std::size_t breedte(std::string const& tekst) {
   return static_cast<std::size_t>(std::count_if(tekst.begin(), tekst.end(), [](char teken) {
     return (static_cast<unsigned char>(teken) & soort) != vervolg;
   }));
-}
-
-// A file may have any name, and has one line.
-std::string opEenRegel(std::string naam) {
-  std::replace_if(
-      naam.begin(), naam.end(),
-      [](char teken) { return (teken >= 0 && teken < ' ') || teken == '\x7F'; }, '?');
-  return naam;
 }
 
 Kolommen kolommenVan(LijstRij const& rij) {

@@ -33,3 +33,10 @@ void MeldingLog::DoLogRecord(wxLogLevel niveau, wxString const& tekst,
     meld(tekst.utf8_string());
   }
 }
+
+std::string opEenRegel(std::string naam) {
+  std::replace_if(
+      naam.begin(), naam.end(),
+      [](char teken) { return (teken >= 0 && teken < ' ') || teken == '\x7F'; }, '?');
+  return naam;
+}

@@ -29,3 +29,6 @@ class MeldingLog : public wxLog {
  private:
   wxLog* vorige;
 };
+
+// A name as it stands in a line of its own: a file may have any.
+std::string opEenRegel(std::string naam);

@@ -14,6 +14,7 @@
 #include "opdrachtregel/lijstOpdracht.h"
 #include "opdrachtregel/melding.h"
 #include "opdrachtregel/opmaak.h"
+#include "opdrachtregel/vergelijkOpdracht.h"
 #include "opdrachtregel/wegwerpBestand.h"
 
 namespace {
@@ -24,6 +25,7 @@ std::vector<std::unique_ptr<Opdracht>> maakOpdrachten(CLI::App& programma) {
   opdrachten.push_back(std::make_unique<EncodeerOpdracht>(programma));
   opdrachten.push_back(std::make_unique<LijstOpdracht>(programma));
   opdrachten.push_back(std::make_unique<DecodeerOpdracht>(programma));
+  opdrachten.push_back(std::make_unique<VergelijkOpdracht>(programma));
   return opdrachten;
 }
 

@@ -3,6 +3,8 @@
 #include <wx/filename.h>
 #include <wx/mstream.h>
 
+#include <algorithm>
+#include <cmath>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -56,4 +58,12 @@ ArrayBytes maakArray(ArraySoort soort, KestrolinConfig instellingen, wxFileName 
   std::string fragment(uit.GetSize(), '\0');
   uit.CopyTo(fragment.data(), fragment.size());
   return leesFragment(fragment, soort);
+}
+
+std::vector<short> brengOmlaag(std::vector<short> const& samples) {
+  std::vector<short> zacht(samples.size());
+  std::transform(samples.begin(), samples.end(), zacht.begin(), [](short sample) {
+    return static_cast<short>(std::lround(sample * adpcmVolume));
+  });
+  return zacht;
 }

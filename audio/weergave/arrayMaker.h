@@ -14,3 +14,7 @@ class wxFileName;
 // gives an array of PCM or ADPCM that the readers turn away.
 ArrayBytes maakArray(ArraySoort soort, KestrolinConfig instellingen, wxFileName const& wav,
                      wxString const& beeld);
+
+// Brings samples of 16 bits down to the low byte, which is what the ADPCM encoder takes of each.
+inline constexpr double adpcmVolume = 0.00387;
+std::vector<short> brengOmlaag(std::vector<short> const& samples);

@@ -33,8 +33,6 @@
 
 namespace {
 
-// What brings 16-bit samples down to the range of 8 bits, for the ADPCM encoder.
-constexpr double quietVolume = 0.00387;
 constexpr unsigned int fullBits = sampleBits;
 
 struct Fragment {
@@ -124,10 +122,6 @@ Case speexNarrowedCase(Fragment const& fragment, unsigned int quality) {
 }
 
 std::vector<Case> casesOf(Fragment const& fragment, std::string const& folder) {
-  Samples quiet(fragment.samples.size());
-  std::transform(fragment.samples.begin(), fragment.samples.end(), quiet.begin(), [](short sample) {
-    return static_cast<short>(std::lround(sample * quietVolume));
-  });
   std::vector<Case> cases;
   std::transform(dacBreedten.begin(), dacBreedten.end(), std::back_inserter(cases),
                  [&fragment](long long dacBits) {
@@ -136,8 +130,9 @@ std::vector<Case> casesOf(Fragment const& fragment, std::string const& folder) {
   cases.push_back(embeddedCase(fragment.file, "PCM"));
   cases.push_back(
       embeddedCase(writeCopy(fragment, fragment.samples, folder + "/ima", wavAdpcm), "IMA ADPCM"));
-  cases.push_back(adpcmCase(writeCopy(fragment, quiet, folder + "/quiet", wavPcm16), "brought down",
-                            1 / quietVolume));
+  cases.push_back(
+      adpcmCase(writeCopy(fragment, brengOmlaag(fragment.samples), folder + "/quiet", wavPcm16),
+                "brought down", 1 / adpcmVolume));
   // The encoder kept eight bits of each sample.
   cases.push_back(adpcmCase(fragment.file, "as it is", scaleOf(8)));
   for (unsigned int const quality : {0U, 2U, 4U, 6U, 8U, 10U}) {

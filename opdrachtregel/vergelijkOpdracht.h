@@ -1,0 +1,23 @@
+// kestrolin-cli compare: what each encoder would make of recordings.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "opdrachtregel/opdracht.h"
+
+struct Opname;
+
+class VergelijkOpdracht : public Opdracht {
+ public:
+  explicit VergelijkOpdracht(CLI::App& programma);
+
+  Uitslag voerUit() override;
+
+ private:
+  bool keurPlaat(std::vector<Opname> const& opnamen) const;
+
+  std::vector<std::string> wavs;
+  std::string plaat;
+  bool alsJson = false;
+};
