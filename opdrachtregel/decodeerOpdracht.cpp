@@ -1,5 +1,7 @@
 #include "opdrachtregel/decodeerOpdracht.h"
 
+#include <CLI/CLI.hpp>
+
 #include <algorithm>
 #include <cstring>
 #include <filesystem>

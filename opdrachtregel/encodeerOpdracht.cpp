@@ -1,5 +1,7 @@
 #include "opdrachtregel/encodeerOpdracht.h"
 
+#include <CLI/CLI.hpp>
+
 #include <algorithm>
 #include <charconv>
 #include <cstdlib>

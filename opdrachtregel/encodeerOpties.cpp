@@ -2,6 +2,7 @@
 
 #include <wx/fileconf.h>
 #include <wx/mstream.h>
+#include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <cstring>

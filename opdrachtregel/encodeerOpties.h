@@ -1,13 +1,15 @@
 // The options of kestrolin-cli encode, and what they ask for.
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "audio/uitvoer/kestrolinConfig.h"
+
+namespace CLI {
+class App;
+}
 
 struct EncodeerOpties {
   std::vector<std::string> wavs;

@@ -1,5 +1,7 @@
 #include "opdrachtregel/gebruik.h"
 
+#include <CLI/CLI.hpp>
+
 #include <algorithm>
 #include <iostream>
 

@@ -5,6 +5,10 @@
 
 #include "opdrachtregel/opdracht.h"
 
+namespace CLI {
+class ParseError;
+}
+
 // Says what is wrong with the use of a command, with the line of its help that tells of `optie`,
 // or its usage line where that is empty.
 Uitslag meldGebruik(CLI::App const& app, std::string const& bericht,

@@ -1,5 +1,7 @@
 #include "opdrachtregel/lijstOpdracht.h"
 
+#include <CLI/CLI.hpp>
+
 #include <iostream>
 #include <optional>
 #include <utility>

@@ -1,7 +1,9 @@
 // A command of kestrolin-cli.
 #pragma once
 
-#include <CLI/CLI.hpp>
+namespace CLI {
+class App;
+}
 
 // The exit status.
 enum Uitslag : int {
@@ -21,7 +23,7 @@ class Opdracht {
   Opdracht& operator=(Opdracht&&) = delete;
 
   // Whether the command line asks for this command.
-  bool isGevraagd() const { return app->parsed(); }
+  bool isGevraagd() const;
   // The command and its options, for what has to be said of them.
   CLI::App const& geefApp() const { return *app; }
   // Carries it out, when the fields hold the options. The toolkit is there, and its errors go to

@@ -1,6 +1,7 @@
 #include "opdrachtregel/programma.h"
 
 #include <wx/init.h>
+#include <CLI/CLI.hpp>
 
 #include <clocale>
 #include <iostream>

@@ -1,5 +1,7 @@
 #include "opdrachtregel/vergelijkOpdracht.h"
 
+#include <CLI/CLI.hpp>
+
 #include <algorithm>
 #include <filesystem>
 #include <iostream>

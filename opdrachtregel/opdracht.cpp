@@ -1,0 +1,7 @@
+#include "opdrachtregel/opdracht.h"
+
+#include <CLI/CLI.hpp>
+
+bool Opdracht::isGevraagd() const {
+  return app->parsed();
+}
