@@ -38,7 +38,7 @@ DecodeerOpdracht::DecodeerOpdracht(CLI::App& programma)
 }
 
 Uitslag DecodeerOpdracht::voerUit() {
-  WegwerpMap doelMap(map);
+  WegwerpMap const doelMap(map);
   if (!doelMap.isEr()) {
     meld("cannot make the folder " + map + ": " + std::strerror(doelMap.geefFout()) +
          "; give another one");
@@ -48,7 +48,6 @@ Uitslag DecodeerOpdracht::voerUit() {
   if (!decodeerAlle(doelen) || !doelen.legVast()) {
     return mislukt;
   }
-  doelMap.houd();
   if (uitgebreid) {
     std::cerr << "kestrolin-cli: " << map << ": " << plaatsen.size()
               << (plaatsen.size() == 1 ? " WAV file\n" : " WAV files\n");

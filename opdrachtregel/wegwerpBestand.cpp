@@ -163,11 +163,3 @@ WegwerpMap::~WegwerpMap() {
     rmdir(knoop->pad.c_str());
   });
 }
-
-void WegwerpMap::houd() {
-  SignaalPauze const pauze;
-  for (std::unique_ptr<WegwerpKnoop> const& knoop : gemaakt) {
-    vergeet(*knoop);
-  }
-  gemaakt.clear();
-}

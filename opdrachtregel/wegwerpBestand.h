@@ -44,7 +44,7 @@ class WegwerpBestand {
 class WegwerpMap {
  public:
   explicit WegwerpMap(std::string const& pad);
-  // Removes what it made, unless that is to stay, or holds something.
+  // Removes what it made and nothing was put into.
   ~WegwerpMap();
   WegwerpMap(WegwerpMap const&) = delete;
   WegwerpMap& operator=(WegwerpMap const&) = delete;
@@ -54,8 +54,6 @@ class WegwerpMap {
   bool isEr() const { return fout == 0; }
   // The errno that tells why it is not there.
   int geefFout() const { return fout; }
-  // What was made is to stay.
-  void houd();
 
  private:
   // Outermost first.

@@ -51,10 +51,14 @@ bool keurWav(TekstArray& array) {
       lezer.rate != array.frequentie) {
     return false;
   }
-  array.aantalSamples /= lezer.channels;
+  std::uint32_t const gevraagd = array.aantalSamples / lezer.channels;
   std::size_t const gehouden = lezer.left / lezer.channels;
   // The last block of IMA ADPCM may be filled up; one of PCM is a sample.
-  return gehouden >= array.aantalSamples && gehouden - array.aantalSamples < lezer.block_frames;
+  if (gehouden < gevraagd || gehouden - gevraagd >= lezer.block_frames) {
+    return false;
+  }
+  array.aantalSamples = gevraagd;
+  return true;
 }
 
 }  // namespace

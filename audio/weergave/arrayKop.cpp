@@ -38,10 +38,7 @@ std::string leesKlasse(Plaats& plaats, Plaats const& einde) {
     if (deel == einde || !isIdentifier(*deel)) {
       break;
     }
-    if (!klasse.empty()) {
-      klasse.insert(0, "::");
-    }
-    klasse.insert(0, deel->tekst);
+    klasse.insert(0, klasse.empty() ? "" : "::").insert(0, deel->tekst);
     plaats = std::next(deel);
   }
   return klasse;

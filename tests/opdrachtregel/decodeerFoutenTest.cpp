@@ -4,7 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <array>
+#include <algorithm>
 #include <csignal>
 #include <filesystem>
 
@@ -29,10 +29,9 @@ class DecodeerFouten : public ProgrammaProef {
   // Runs the command, which fails so and leaves the directory as it was.
   void verwachtFout(std::vector<std::string> woorden, std::string const& fouten) {
     std::vector<std::string> const namen = inhoud();
-    std::vector<std::string> teksten;
-    for (std::string const& naam : namen) {
-      teksten.push_back(tekst(naam));
-    }
+    std::vector<std::string> teksten(namen.size());
+    std::transform(namen.begin(), namen.end(), teksten.begin(),
+                   [this](std::string const& naam) { return tekst(naam); });
     woorden.insert(woorden.begin(), "decode");
     Afloop const afloop = voer(woorden);
     EXPECT_EQ(afloop.status, 1);
@@ -62,6 +61,13 @@ TEST_F(DecodeerFouten, MakesTheFolderAndThoseAboveItAndReplacesWholeFiles) {
   EXPECT_EQ(voer({"decode", "een.c", "--to", map.pad("a/b/c/")}).status, 0);
   EXPECT_EQ(tekst("a/b/c/tik.wav"), wav({5}));
   EXPECT_EQ(tekst("a/b/c/ander.wav"), "x");
+}
+
+TEST_F(DecodeerFouten, WritesLongSoundsWhole) {
+  std::vector<int> const lang(70000, -300);
+  maakBestand(map.pad("lang.c"), verwachteRun(Wijze::pcm, {}, {{"lang", lang}}));
+  EXPECT_EQ(voer({"decode", "lang.c", "--to", "."}).status, 0);
+  EXPECT_TRUE(tekst("lang.wav") == wav(lang));
 }
 
 TEST_F(DecodeerFouten, TellsOfTextsThatItCannotRead) {
@@ -129,9 +135,9 @@ TEST_F(DecodeerFouten, LeavesNothingOnAFullDisk) {
 
 TEST_F(DecodeerFouten, WritesMoreFilesThanAProcessMayHaveOpen) {
   constexpr int aantal = 100;
-  std::vector<RunFragment> fragmenten;
+  std::vector<RunFragment> fragmenten(aantal);
   for (int i = 0; i < aantal; ++i) {
-    fragmenten.push_back({"f" + std::to_string(i), {i}});
+    fragmenten[static_cast<std::size_t>(i)] = {"f" + std::to_string(i), {i}};
   }
   maakBestand(map.pad("veel.c"), verwachteRun(Wijze::pcm, {}, fragmenten));
   rlimit vorige{};

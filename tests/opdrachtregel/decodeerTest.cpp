@@ -66,16 +66,7 @@ class DecodeerProef : public ProgrammaProef, public testing::WithParamInterface<
     std::vector<int> samples = record.samples;
     if (kind() == Kind::Speex) {
       samples.erase(samples.begin(), samples.begin() + static_cast<std::ptrdiff_t>(record.delay));
-      // Without header the array does not tell how many there are: its twin with header does.
-      std::string tweeling = fragment.name;
-      if (std::size_t const kaal = tweeling.find("_bare"); kaal != std::string::npos) {
-        tweeling.replace(kaal, std::string::npos, "_headed");
-      }
-      auto const gevonden =
-          std::find_if(program.fragments.begin(), program.fragments.end(),
-                       [&tweeling](TextFragment const& een) { return een.name == tweeling; });
-      EXPECT_NE(gevonden, program.fragments.end());
-      samples.resize(std::min<std::size_t>(samples.size(), gevonden->expected.count));
+      samples.resize(std::min<std::size_t>(samples.size(), sampleCount(program, fragment)));
     }
     return opgehoogd(samples, dacBits);
   }

@@ -167,7 +167,7 @@ TEST_F(Lijst, SaysNothingButWhatIsWrongWithAnyOfTheTexts) {
           "before it\n"
           "kestrolin-cli: cannot read .: Is a directory; give a text that Kestrolin wrote\n"
           "kestrolin-cli: leeg.c: no array of Kestrolin stands in this text\n");
-  Afloop const json = lijst({"--json", "half.c"});
+  Afloop const json = lijst({"--json", "half.c", "pcm.c"});
   EXPECT_EQ(json.status, 1);
   EXPECT_EQ(json.uit, "");
 }

@@ -2,6 +2,7 @@
 #include "audio/weergave/tekstGeluid.h"
 
 #include <cmath>
+#include <cstdlib>
 
 #include "tests/audio/codec/adpcmModel.h"
 #include "tests/audio/codec/codecHulp.h"
@@ -65,6 +66,17 @@ TEST_F(AdpcmRuns, GoOnFromOneAnotherWithinARun) {
   ADPCMMaker maker;
   // In the order of their names.
   EXPECT_EQ(gedecodeerd(run(maker, {"drie.wav", "een.wav", "twee.wav"})), verwacht);
+}
+
+// From silence it would be quieter.
+TEST_F(AdpcmRuns, GoOnWithinARunHoweverLoudThatIs) {
+  std::vector<int> const hoog(300, een.back());
+  schrijfWav(map.pad("hoog.wav"), hoog);
+  Model model;
+  std::vector<Samples> const verwacht{model.neem(een), model.neem(hoog)};
+  ASSERT_GT(std::abs(een.back()), 50);
+  ADPCMMaker maker;
+  EXPECT_EQ(gedecodeerd(run(maker, {"een.wav", "hoog.wav"})), verwacht);
 }
 
 TEST_F(AdpcmRuns, GoOnFromOneAnotherWhereOneWindowMadeThem) {

@@ -80,7 +80,7 @@ TEST(TekstLezerKapot, CutOffAnywhere) {
   std::size_t const einde = heel().find('}') + 1;
   for (std::size_t lengte = 0; lengte <= heel().size(); ++lengte) {
     SCOPED_TRACE(lengte);
-    GelezenTekst const gelezen = ontleedTekst(std::string_view(heel()).substr(0, lengte));
+    GelezenTekst const gelezen = ontleedTekst(heel().substr(0, lengte));
     EXPECT_EQ(gelezen.arrays.size(), lengte < einde ? 0U : 1U);
     // Within its last comment a text with its array lacks the end of that.
     bool const inCommentaar = lengte > heel().rfind("/*") + 1 && lengte < heel().rfind("*/") + 2;
@@ -144,6 +144,8 @@ TEST(TekstLezerKapot, ArraysOfWhichNoCommentTells) {
   verwacht(met("8000 Hz", "65536 Hz"), {{16, zonder("sampling frequency")}});
   verwacht(met("8000 Hz", "-8000 Hz"), {{16, zonder("sampling frequency")}});
   verwacht(met("Samples=2", "Samples=?"), {{16, zonder("number of samples")}});
+  verwacht(met("Samples=2", "Samples=-4294967294"), {{16, zonder("number of samples")}});
+  verwacht(met("Samples=2", "Samples=4294967298"), {{16, zonder("number of samples")}});
   verwacht(met("const unsigned char", "const signed char"), {{16, zonder("encoder")}});
   verwacht(met("/* WAV file", "/* Full Scale gain adapted to : 17 bits *//* WAV file"),
            {{16, zonder("width of the DAC")}});
@@ -172,6 +174,52 @@ TEST(TekstLezerKapot, BytesThatDoNotFitTheComments) {
   verwacht(met("\t0x2,0x0,0x0,0x0,0x40,0x1f,0x1,0x0,\n\t0xff,0xff,", ""), past("0", "2"));
 }
 
+TEST(TekstLezerKapot, SpeexThatDoesNotFitItsComments) {
+  // Two frames of no bytes, behind a header of 161 samples at 8000 Hz or without one.
+  auto const tekst = [](bool header, std::string const& samples, std::string const& frequentie) {
+    return "/* Encoded on Linux */\n/* Sampling frequency : " + frequentie +
+           " Hz */\n/* Original size : " + samples + " frames */\nconst signed char toon[] =\n{\n" +
+           (header ? "(signed char)0x40,(signed char)0x1f,(signed char)0xa1,(signed char)0x0,"
+                   : "") +
+           "0,0,};";
+  };
+  auto const past = [](std::string const& bytes, std::string const& samples,
+                       std::string const& frequentie) {
+    return Klachten{{5, "the " + bytes + " bytes of the array toon are not the " + samples +
+                            " samples of Speex at " + frequentie +
+                            " Hz that its comments tell: encode it again"}};
+  };
+  verwacht(tekst(true, "161", "8000"), {}, 1);
+  verwacht(tekst(true, "162", "8000"), past("6", "162", "8000"));
+  verwacht(tekst(true, "160", "8000"), past("6", "160", "8000"));
+  verwacht(tekst(true, "161", "16000"), past("6", "161", "16000"));
+  verwacht(tekst(false, "161", "8000"), {}, 1);
+  verwacht(tekst(false, "320", "8000"), {}, 1);
+  verwacht(tekst(false, "321", "8000"), past("2", "321", "8000"));
+  verwacht(tekst(false, "160", "8000"), past("2", "160", "8000"));
+  verwacht(tekst(false, "321", "16000"), {}, 1);
+  verwacht(tekst(false, "161", "44100"), past("2", "161", "44100"));
+}
+
+TEST(TekstLezerKapot, AWavFileThatDoesNotFitItsComments) {
+  std::string const wav = wavBytes({16000, 2}, std::vector<int>{1, 2, 3, 4, 5, 6});
+  auto const tekst = [&wav](std::string const& samples, std::string const& frequentie) {
+    return "/* Embedded on Linux */\n/* Sampling frequency : " + frequentie +
+           " Hz */\n/* Size : " + samples + " bytes */\nconst unsigned char toon[] =\n{\n" +
+           verwachteRijen({wav.begin(), wav.end()}) + "};";
+  };
+  auto const past = [](std::string const& samples, std::string const& frequentie) {
+    return Klachten{{5, "the 56 bytes of the array toon are not the " + samples +
+                            " samples of WAV at " + frequentie +
+                            " Hz that its comments tell: encode it again"}};
+  };
+  verwacht(tekst("6", "16000"), {}, 1);
+  verwacht(tekst("7", "16000"), {}, 1);
+  verwacht(tekst("8", "16000"), past("8", "16000"));
+  verwacht(tekst("5", "16000"), past("5", "16000"));
+  verwacht(tekst("6", "8000"), past("6", "8000"));
+}
+
 TEST(TekstLezerKapot, NamesThatAreNoIdentifiers) {
   for (std::string const naam : {"my file", "1st", "a-b", "it's", "a{b", "a=b", "\xFF", "\xC2\x85",
                                  "\xC3", "a\nb", "", "a(b)", "\"a\""}) {
@@ -184,6 +232,8 @@ TEST(TekstLezerKapot, NamesThatAreNoIdentifiers) {
   }
   verwacht(met("char toon[", "char Geluid::my toon["), {{16, geenNaam}});
   verwacht(met("char toon[", "int toon["), {{16, geenNaam}});
+  verwacht(met("unsigned char toon[", "char toon["), {{16, geenNaam}});
+  verwacht(met("unsigned char toon[", "unsigned signed char toon["), {{16, geenNaam}});
 }
 
 TEST(TekstLezerKapot, FragmentsWithoutAnArray) {

@@ -3,7 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -33,15 +32,7 @@ class LezerVanMakers : public testing::TestWithParam<Geval> {
       SF_INFO const info = leesSnd(wavPath(map.pad(), fragment.name)).info;
       return static_cast<std::uint32_t>(info.frames / info.channels);
     }
-    // Without header the array of Speex does not tell: its twin with header does.
-    std::string tweeling = fragment.name;
-    if (std::size_t const bare = tweeling.find("_bare"); bare != std::string::npos) {
-      tweeling.replace(bare, std::string::npos, "_headed");
-    }
-    auto const gevonden =
-        std::find_if(program.fragments.begin(), program.fragments.end(),
-                     [&tweeling](TextFragment const& een) { return een.name == tweeling; });
-    return gevonden == program.fragments.end() ? 0 : gevonden->expected.count;
+    return sampleCount(program, fragment);
   }
 
   TijdelijkeMap map;

@@ -105,6 +105,12 @@ TEST(TekstLezer, PassesOverWhatElseASourceFileHolds) {
       "enum soort { een = 1, twee };\nclass Geluid {\n public:\n  int f() { return '{'; }\n};\n"
       "char const* tekst = \"\\\"{ /* \";\nextern \"C\" {\n// a comment that goes on \\\n = {\n";
   toonIn(voor + maakVerwachteTekst(toon) + "}\nsize_t toon_size = sizeof toon;\n");
+
+  std::string insluitingen;
+  for (int i = 0; i < 100; ++i) {
+    insluitingen += "#include <sounds.h>\n";
+  }
+  toonIn(insluitingen + maakVerwachteTekst(toon));
 }
 
 TEST(TekstLezer, TakesWhatAUserAddsToTheHeadOfAnArray) {

@@ -52,7 +52,7 @@ std::vector<Bytes> vertaaldeArrays(Program const& program, std::string const& ma
       "int main() {\n";
   for (TextFragment const& fragment : program.fragments) {
     std::string const naam = (isC ? "" : std::string(className) + "::") + fragment.name;
-    bron += "  toon(" + naam + ", sizeof " + naam + ");\n";
+    bron.append("  toon(").append(naam).append(", sizeof ").append(naam).append(");\n");
   }
   maakBestand(map + "/tekst", program.text);
   maakBestand(map + (isC ? "/toon.c" : "/toon.cpp"), bron + "}\n");

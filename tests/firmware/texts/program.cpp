@@ -58,6 +58,15 @@ std::vector<int> expectedCodes(std::vector<int> const& samples, unsigned bits, u
   return codes;
 }
 
+unsigned sampleCount(Program const& program, TextFragment const& fragment) {
+  std::string const bare = "_bare";
+  std::string const stem = fragment.name.substr(0, fragment.name.rfind(bare));
+  auto const twin =
+      std::find_if(program.fragments.begin(), program.fragments.end(),
+                   [&](TextFragment const& other) { return other.name == stem + "_headed"; });
+  return (twin == program.fragments.end() ? fragment : *twin).expected.count;
+}
+
 Program makeProgram(Kind kind, UitvoerTaal language, std::string const& folder) {
   constexpr std::array makers{pcmProgram, adpcmProgram, speexProgram, wavProgram};
   return makers.at(static_cast<std::size_t>(kind))(folder, language);

@@ -53,6 +53,10 @@ std::string nameOf(Source const& source, Setting const& setting);
 // The WAV file that an array of this name is made of.
 std::string wavPath(std::string const& folder, std::string const& name);
 
+// The samples of a fragment, also where its array is one of Speex without header, which does not
+// tell: its twin with header does.
+unsigned sampleCount(Program const& program, TextFragment const& fragment);
+
 // The codes of a DAC of `width` bits for samples that are `bits` wide.
 std::vector<int> expectedCodes(std::vector<int> const& samples, unsigned bits, unsigned width);
 
