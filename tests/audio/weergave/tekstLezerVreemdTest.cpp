@@ -96,6 +96,7 @@ TEST(TekstLezer, TakesAnyEndOfALine) {
   VerwachteTekst cpp = toon;
   cpp.taal = 1;
   toonIn(vervangen(maakVerwachteTekst(cpp), "\n", "\r\n"));
+  toonIn("// a comment that goes on \\\r\n = {\r\n" + maakVerwachteTekst(toon));
 }
 
 TEST(TekstLezer, PassesOverWhatElseASourceFileHolds) {
