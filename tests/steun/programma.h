@@ -13,7 +13,7 @@ struct ProgrammaVraag {
   std::vector<std::string> woorden;  // the program first, looked up in PATH
   std::string map = ".";             // where it runs
   // "NAME=value" beside the variables of the test, or in place of that one.
-  std::vector<std::string> omgeving;
+  std::vector<std::string> omgeving{};
   int uitvoer = -1;  // an open file for its standard output, which is kept where there is none
 };
 
