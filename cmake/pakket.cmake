@@ -12,6 +12,10 @@ that a microcontroller program compiles in and plays through a DAC: compressed
 with Speex, compressed with 4-bit ADPCM, as plain PCM, or as a whole WAV file,
 scaled to the width of the DAC.
 .
+The window, Kestrolin, is for trying out and listening. The command,
+kestrolin-cli, makes the same text in a build, and needs no display; a CMake
+package and completions for shells come with it.
+.
 The package brings the readers of these arrays in portable C, ready to be
 copied into a project, and a manual that tells every byte of the formats.")
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")

@@ -1,8 +1,14 @@
-# Run by CPack over what was installed for the package, before it is packed: the program without what
-# only a debugger reads, and the documents in the place and the form that Debian has for them.
+# Run by CPack over what was installed for the package, before it is packed: the programs without what
+# only a debugger reads, and the documents and completions in the place and the form that Debian has for
+# them.
 execute_process(
   COMMAND strip --remove-section=.comment --remove-section=.note
-          "${CPACK_TEMPORARY_DIRECTORY}/usr/bin/Kestrolin" COMMAND_ERROR_IS_FATAL ANY)
+          "${CPACK_TEMPORARY_DIRECTORY}/usr/bin/Kestrolin"
+          "${CPACK_TEMPORARY_DIRECTORY}/usr/bin/kestrolin-cli" COMMAND_ERROR_IS_FATAL ANY)
+
+# Debian's zsh looks into site-functions below /usr/local alone.
+set(_zsh "${CPACK_TEMPORARY_DIRECTORY}/usr/share/zsh")
+file(RENAME "${_zsh}/site-functions" "${_zsh}/vendor-completions")
 
 set(_doc "${CPACK_TEMPORARY_DIRECTORY}/usr/share/doc/kestrolin")
 

@@ -24,7 +24,15 @@ from catalogi import TALEN
 
 METAINFO = "share/metainfo/example.kestrolin.kestrolin.metainfo.xml"
 MENU = "share/applications/Kestrolin.desktop"
-MAN = "share/man/man1/Kestrolin.1.gz"
+# The man pages, and what each says of its program.
+MAN = {"share/man/man1/Kestrolin.1.gz": "Kestrolin - turn WAV fragments",
+       "share/man/man1/kestrolin-cli.1.gz": "kestrolin-cli - turn WAV fragments"}
+# Where bash and fish look for completions; Debian's zsh looks elsewhere than in an installation.
+AANVULLING = {"share/bash-completion/completions/kestrolin-cli",
+              "share/fish/vendor_completions.d/kestrolin-cli.fish"}
+ZSH = "share/zsh/site-functions/_kestrolin-cli"
+DEBIAN_ZSH = "share/zsh/vendor-completions/_kestrolin-cli"
+CMAKE = {f"share/cmake/Kestrolin/Kestrolin{deel}.cmake" for deel in ("Config", "ConfigVersion", "Sounds")}
 MATEN = (16, 22, 24, 32, 48, 64, 96, 128, 256, 512)
 # What appstreamcli may say. No domain ends in the one of the component, which is set apart for names that
 # are nobody's. AppStream 0.16, of Debian 12, does not know the developer's tag that 1.0 asks for.
@@ -64,9 +72,10 @@ def deelbaar() -> set[str]:
     return (van_boom("firmware") | van_boom("docs") | fragmenten) - NIET_VOOR_GEBRUIKERS
 
 
-def keur_namen(prefix: Path, documenten: set[str]) -> None:
-    """Everything lies in its place, these documents among it, and nothing else does."""
-    verwacht = {"bin/Kestrolin", MENU, METAINFO, MAN, "share/icons/hicolor/scalable/apps/kestrolin.svg"}
+def keur_namen(prefix: Path, documenten: set[str], zsh: str) -> None:
+    """Everything lies in its place, these documents and zsh's completion among it, and nothing else does."""
+    verwacht = {"bin/Kestrolin", "bin/kestrolin-cli", MENU, METAINFO, *MAN, *AANVULLING, zsh, *CMAKE,
+                "share/icons/hicolor/scalable/apps/kestrolin.svg"}
     verwacht |= {f"share/icons/hicolor/{m}x{m}/apps/kestrolin.png" for m in MATEN}
     verwacht |= {f"share/locale/{t}/LC_MESSAGES/{d}.mo"
                  for t in TALEN for d in ("Kestrolin", "Velmoradesktop")}
@@ -108,7 +117,8 @@ def keur_metainfo(prefix: Path) -> None:
         gelijk(talen, {"en", *TALEN}, f"languages of {naam}")
     gelijk(component.findtext("launchable"), Path(MENU).name, "what it launches")
     gelijk(component.findtext("icon"), "kestrolin", "its icon")
-    gelijk(component.findtext("provides/binary"), "Kestrolin", "its program")
+    gelijk([deel.text for deel in component.findall("provides/binary")], ["Kestrolin", "kestrolin-cli"],
+           "its programs")
     beelden = {Path(beeld.text or "").name for beeld in component.findall("screenshots//image")}
     gelijk(beelden - {p.name for p in (ROOT / "docs/pictures").iterdir()}, set(), "no such picture")
     nieuwste = component.find("releases/release")
@@ -117,10 +127,11 @@ def keur_metainfo(prefix: Path) -> None:
 
 
 def keur_handleiding_van_man(prefix: Path) -> None:
-    gelijk(zeg("man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z", prefix / MAN)
-           .count("warning"), 0, "warnings of the man page")
-    assert "Kestrolin - turn WAV fragments" in zeg("lexgrog", prefix / MAN)
-    assert f"Kestrolin {VERSIE}" in zeg("man", "-l", prefix / MAN)
+    for pagina, zegt in MAN.items():
+        gelijk(zeg("man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z", prefix / pagina)
+               .count("warning"), 0, f"warnings of {pagina}")
+        assert f'"{zegt}' in zeg("lexgrog", prefix / pagina), pagina
+        assert f"Kestrolin {VERSIE}" in zeg("man", "-l", prefix / pagina), pagina
 
 
 def keur_icoon(prefix: Path) -> None:
@@ -171,7 +182,8 @@ def keur_pakket(pakket: str) -> None:
         gelijk(afwijkingen.read_bytes(), (ROOT / "packaging/debian/lintian-overrides").read_bytes(),
                "what lintian is told")
         afwijkingen.unlink()
-        keur_namen(Path(uitgepakt, "usr"), {"changelog.gz", "changelog.Debian.gz", "copyright"})
+        keur_namen(Path(uitgepakt, "usr"), {"changelog.gz", "changelog.Debian.gz", "copyright"},
+                   DEBIAN_ZSH)
 
 
 def keur_installatie(cmake: str, bouw: str) -> None:
@@ -181,7 +193,7 @@ def keur_installatie(cmake: str, bouw: str) -> None:
         werk.mkdir()
         # A component: the list of files of a user's own installation is left alone so.
         zeg(cmake, "--install", bouw, "--prefix", prefix, "--component", "Unspecified")
-        keur_namen(prefix, {"CHANGELOG.md", "LICENSE"})
+        keur_namen(prefix, {"CHANGELOG.md", "LICENSE"}, ZSH)
         keur_menu(prefix)
         keur_metainfo(prefix)
         keur_handleiding_van_man(prefix)

@@ -1,0 +1,45 @@
+# Completion of kestrolin-cli for fish.
+
+set -l program complete -c kestrolin-cli
+set -l none "not __fish_seen_subcommand_from encode list decode"
+set -l encode "__fish_seen_subcommand_from encode"
+set -l list "__fish_seen_subcommand_from list"
+set -l decode "__fish_seen_subcommand_from decode"
+
+$program -s h -l help -d "Print the options and exit"
+$program -n $none -f
+$program -n $none -l version -d "Print the version and exit"
+$program -n $none -a encode -d "Make source text of recordings"
+$program -n $none -a list -d "List the arrays of generated texts"
+$program -n $none -a decode -d "Write what a target plays as WAV files"
+
+$program -n $encode -f -k -a "(__fish_complete_suffix .wav)"
+$program -n $encode -l encoder -x -a "speex adpcm pcm wav" -d "How samples are stored"
+$program -n $encode -l language -x -a "c c++" -d "Language of the text"
+$program -n $encode -l class -x -d "Class of which the arrays are members"
+$program -n $encode -l dac -x -a "8 10 12 16" -d "Width of the DAC in bits"
+$program -n $encode -l header -d "Begin each array with its header"
+$program -n $encode -l no-header -d "Leave the headers out"
+$program -n $encode -l quality -x -a "(seq 0 10)" -d "Quality of the sound, for Speex"
+$program -n $encode -l complexity -x -a "(seq 0 10)" -d "Effort of the encoder, for Speex"
+$program -n $encode -l bitrate -x -a "fixed variable average" -d "Kind of bit rate, for Speex"
+$program -n $encode -l max-bitrate -x -d "Largest or average bit rate, for Speex"
+$program -n $encode -l vad -d "Detect voice activity"
+$program -n $encode -l no-vad -d "Detect no voice activity"
+$program -n $encode -l denoise -d "Reduce noise"
+$program -n $encode -l no-denoise -d "Leave noise as it is"
+$program -n $encode -l agc -d "Control the gain"
+$program -n $encode -l no-agc -d "Leave the gain as it is"
+$program -n $encode -s o -l output -r -d "The text"
+$program -n $encode -l append -d "Append the text instead of replacing it"
+$program -n $encode -l declarations -r -d "Also write a header to include"
+$program -n $encode -l source -r -d "Also write the source to compile"
+$program -n $encode -l depfile -r -d "Also write what the text depends on"
+$program -n $encode -l settings -r -d "Defaults, from a settings file of the window"
+$program -n $encode -s v -l verbose -d "Tell what was made"
+
+$program -n $list -l json -d "Print JSON, for scripts"
+
+$program -n $decode -l to -x -a "(__fish_complete_directories)" -d "Where each array becomes a WAV file"
+$program -n $decode -l dac -x -a "8 10 12 16" -d "Width in bits that the arrays were made for"
+$program -n $decode -s v -l verbose -d "Tell what was made"
