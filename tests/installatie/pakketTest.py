@@ -1,5 +1,6 @@
 """Test of the Debian package on a machine that has nothing yet: it installs, its menu entry starts the
-program, all languages work, and removing it leaves nothing but the user's own settings.
+program, all languages work, the command does without a display, and removing it leaves nothing but the
+user's own settings.
 
     pakketTest.py PACKAGE RESULTS
 
@@ -142,6 +143,26 @@ def eigenaar(pad: Path) -> tuple[int, int]:
     return pad.stat().st_uid, pad.stat().st_gid
 
 
+def werk_zonder_scherm(machine: Machine) -> None:
+    """The command goes from recordings to a text and back, with no display to be had and no library of
+    windows, which are all there, since the window came along."""
+    kaal = ("env", "-i", "PATH=/usr/bin:/bin", "HOME=/nonexistent")
+    map_ = machine.doe("mktemp", "-d", als=GEBRUIKER).strip()
+    wavs = [f"/usr/share/kestrolin/fragmenten/{naam}.wav" for naam in ("ready", "warning")]
+    for encoder in ("speex", "adpcm", "pcm", "wav"):
+        tekst = f"{map_}/{encoder}.c"
+        gelijk(machine.doe(*kaal, "kestrolin-cli", "encode", "--encoder", encoder, "-o", tekst, *wavs,
+                           als=GEBRUIKER), "", f"what encode says of {encoder}")
+        assert "ready" in machine.doe(*kaal, "kestrolin-cli", "list", tekst, als=GEBRUIKER)
+        machine.doe(*kaal, "kestrolin-cli", "decode", "--to", f"{map_}/{encoder}", tekst, als=GEBRUIKER)
+        gelijk({pad.name for pad in (machine.wortel / map_[1:] / encoder).iterdir()},
+               {"ready.wav", "warning.wav"}, f"what is decoded of {encoder}")
+    shutil.rmtree(machine.wortel / map_[1:])
+    nodig = machine.doe("ldd", "/usr/bin/kestrolin-cli")
+    gelijk(re.findall(r"lib(?:gtk|gdk|X|xcb|wayland|wx_gtk|SDL)\S*", nodig), [], "libraries of windows")
+    assert "libwx_baseu" in nodig and "libwx_gtk3u_core" in machine.doe("ldd", "/usr/bin/Kestrolin"), nodig
+
+
 def verwijder(machine: Machine, vooraf: set[str]) -> None:
     machine.doe("apt-get", "purge", "-q", "-y", "kestrolin")
     over = machine.bestanden() - vooraf
@@ -158,6 +179,7 @@ def main() -> None:
     resultaten.mkdir(parents=True, exist_ok=True)
     machine = Machine(Path(os.environ["WORTEL"]))
     vooraf = installeer(machine, pakket)
+    werk_zonder_scherm(machine)
     for taal in TALEN:
         werk_in(machine, taal, resultaten)
     verwijder(machine, vooraf)
