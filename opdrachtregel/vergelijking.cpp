@@ -1,11 +1,7 @@
 #include "opdrachtregel/vergelijking.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cmath>
-#include <cstring>
-#include <filesystem>
-#include <system_error>
 
 #include "audio/codec/audioConfig.h"
 #include "audio/codec/sndBestand.h"
@@ -48,11 +44,6 @@ class Proefbank {
   Samples samples;
   WegwerpBestand bestand;
 };
-
-std::string tijdelijkeMap() {
-  std::error_code geen;
-  return std::filesystem::temp_directory_path(geen).string();
-}
 
 Proefbank::Proefbank(Opname const& eigenOpname)
     : opname(eigenOpname),
@@ -149,7 +140,7 @@ std::optional<long> Vergelijking::bytesPerSeconde(Encodering const& encodering) 
 std::optional<Vergelijking> vergelijk(Opname const& opname) {
   Proefbank bank(opname);
   if (!bank.isOpen()) {
-    meld("cannot make a temporary file: " + std::string(std::strerror(errno)));
+    meldGeenTijdelijk();
     return std::nullopt;
   }
   Vergelijking uit{opname, bank.pastInByte(), {}};
