@@ -47,35 +47,35 @@ constexpr std::array<Reeksteken, 4> reeksen{
       R"(fill="none" stroke="#009e73" stroke-width="1.8")", Kant::links, "end"}}};
 constexpr double straal = 7;  // of the largest
 
-// The axis of bytes, the same in all panels.
+// The axis of bytes, the same in all panels, with room for labels at both ends.
 class BytesAs {
  public:
   explicit BytesAs(std::vector<Vergelijking> const& vergelijkingen) {
-    // Room for labels at both ends.
-    constexpr double ruimte = 1.5;
     for (Vergelijking const& vergelijking : vergelijkingen) {
       for (Encodering const& encodering : vergelijking.encoderingen) {
         auto const bytes = static_cast<double>(encodering.bytes);
-        begin = std::min(begin, bytes / ruimte);
-        einde = std::max(einde, bytes * ruimte);
+        minst = std::min(minst, bytes);
+        meest = std::max({meest, bytes, 2 * minst});
       }
     }
   }
 
   double plaats(double bytes) const {
-    return linksBoven.x +
-           (rechtsOnder.x - linksBoven.x) * std::log(bytes / begin) / std::log(einde / begin);
+    constexpr double links = linksBoven.x + 30;
+    constexpr double rechts = rechtsOnder.x - 75;
+    return links + (rechts - links) * std::log(bytes / minst) / std::log(meest / minst);
   }
 
   // Ones, twos and fives of each power of ten; where the axis is long the ones alone.
   std::vector<long> streepjes() const {
     constexpr double lang = 1000;
+    constexpr long hoogste = 1'000'000'000'000;
     constexpr long stap = 10;
     std::vector<long> uit;
-    for (long macht = 1; static_cast<double>(macht) < einde; macht *= stap) {
+    for (long macht = 1; macht < hoogste; macht *= stap) {
       for (long const cijfer : {1L, 2L, 5L}) {
-        auto const bytes = static_cast<double>(macht * cijfer);
-        if (bytes >= begin && bytes <= einde && (cijfer == 1 || einde / begin < lang)) {
+        double const x = plaats(static_cast<double>(macht * cijfer));
+        if (x >= linksBoven.x && x <= rechtsOnder.x && (cijfer == 1 || meest / minst < lang)) {
           uit.push_back(macht * cijfer);
         }
       }
@@ -84,8 +84,8 @@ class BytesAs {
   }
 
  private:
-  double begin = std::numeric_limits<double>::max();
-  double einde = 0;
+  double minst = std::numeric_limits<double>::max();
+  double meest = 0;
 };
 
 std::string bytesTekst(long bytes) {
