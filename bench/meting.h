@@ -5,16 +5,17 @@
 #include <string>
 
 struct Verbruik {
-  double seconden;   // processor time, user and system
-  double mebibytes;  // the peak of resident memory
+  double seconden;    // processor time, user and system
+  double verstreken;  // seconds from start to end
+  double mebibytes;   // the peak of resident memory
   bool geslaagd;
 };
 
 // Runs `werk` in a child process, which ends with the status that `werk` returns.
 Verbruik meetInKind(std::function<int()> const& werk);
 
-// Of `keer` measurements the least time, which is what the work costs when nothing disturbs it, and
-// the greatest memory.
+// Of `keer` measurements the least times, which are what the work costs when nothing disturbs it,
+// and the greatest memory.
 Verbruik meetBeste(int keer, std::function<int()> const& werk);
 
 // Prints a figure and its goal in one line, and returns `gehaald`, whether the goal was reached.
