@@ -12,7 +12,7 @@ _kestrolin_cli_value() {
     --bitrate) words='fixed variable average' ;;
     --class | --max-bitrate) ;;
     --to) files=-d ;;
-    -o | --output | --declarations | --source | --depfile | --settings) files=-f ;;
+    -o | --output | --declarations | --source | --depfile | --settings | --plot) files=-f ;;
     *) return 1 ;;
   esac
   if [[ $files ]]; then
@@ -25,7 +25,7 @@ _kestrolin_cli() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    mapfile -t COMPREPLY < <(compgen -W 'encode list decode -h --help --version' -- "$word")
+    mapfile -t COMPREPLY < <(compgen -W 'encode list decode compare -h --help --version' -- "$word")
     return
   fi
   if _kestrolin_cli_value "$before" "$word"; then
@@ -41,6 +41,10 @@ _kestrolin_cli() {
       ;;
     list) options+=' --json' ;;
     decode) options+=' --to --dac -v --verbose' ;;
+    compare)
+      options+=' --plot --json'
+      files='*.[wW][aA][vV]'
+      ;;
     *) return ;;
   esac
   if [[ $word == -* ]]; then

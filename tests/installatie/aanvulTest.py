@@ -32,6 +32,8 @@ VALUES = {
     "encode one.wav -o ": {"a.wav", "text.c", "folder/"},
     "list ": {"a.wav", "text.c", "folder/"},
     "decode --to ": {"folder/"},
+    "compare ": {"a.wav", "folder/"},
+    "compare --plot ": {"a.wav", "text.c", "folder/"},
 }
 
 Options = dict[str, set[str]]
@@ -117,7 +119,7 @@ def completes(tool: Path, shell: str, offers: Completer) -> None:
             equal(found, wanted[command], f"{shell}: options of {command}")
         for start, values in VALUES.items():
             found = offers(f"kestrolin-cli {start}", folder)
-            if shell == "fish" and start == "encode ":
+            if shell == "fish" and start in ("encode ", "compare "):
                 # It puts recordings first, and leaves nothing out.
                 found.discard("text.c")
             equal(found, values, f"{shell}: behind {start}")
