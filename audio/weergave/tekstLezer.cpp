@@ -62,8 +62,8 @@ class Ontleding {
   };
 
   bool gaatDoor() const { return uit.klachten.size() < maxKlachten; }
-  void klaag(std::size_t regel, std::string const& reden) {
-    uit.klachten.push_back({regel, reden});
+  void klaag(std::size_t regel, std::string reden) {
+    uit.klachten.push_back({regel, std::move(reden)});
   }
   void neemCommentaar(Woord const& commentaar);
   void sluitFragment();
