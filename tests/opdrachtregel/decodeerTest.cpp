@@ -140,4 +140,28 @@ INSTANTIATE_TEST_SUITE_P(, DecodeerProef,
                                           testing::Values(UitvoerTaalC, UitvoerTaalCPP)),
                          naamVanGeval);
 
+class DecodeerHeenEnWeer : public ProgrammaProef {};
+
+TEST_F(DecodeerHeenEnWeer, GivesRecordingsBackToTheByte) {
+  std::string const bron = KESTROLIN_FRAGMENTEN;
+  for (std::string const encoder : {"pcm", "wav"}) {
+    for (std::string const header : {"--header", "--no-header"}) {
+      SCOPED_TRACE(encoder + header);
+      ASSERT_EQ(voer({"encode", bron + "/ready.wav", bron + "/warning.wav", "--encoder", encoder,
+                      header, "-o", "t"})
+                    .status,
+                0);
+      ASSERT_EQ(
+          voer({"encode", bron + "/chime.wav", "--encoder", encoder, header, "--append", "-o", "t"})
+              .status,
+          0);
+      std::string const folder = encoder + header;
+      ASSERT_EQ(voer({"decode", "t", "--to", folder}).status, 0);
+      for (std::string const naam : {"/ready.wav", "/warning.wav", "/chime.wav"}) {
+        EXPECT_TRUE(tekst(folder + naam) == leesTekst(bron + naam)) << naam;
+      }
+    }
+  }
+}
+
 }  // namespace
