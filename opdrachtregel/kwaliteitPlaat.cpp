@@ -174,7 +174,7 @@ std::string labels(std::vector<std::vector<Punt>> const& perReeks) {
                              : vakken.plaats(punt.plek, reeksen[i].kant, punt.label.size());
       if (plek) {
         uit += svgTekst({plek->x, plek->y + 4}, punt.label,
-                        std::string("font-size=\"11\" text-anchor=\"") + reeksen[i].anker + "\"");
+                        std::string(R"(font-size="11" text-anchor=")") + reeksen[i].anker + "\"");
       }
     }
   }

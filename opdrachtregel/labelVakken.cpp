@@ -28,14 +28,15 @@ bool LabelVakken::isVrij(Vak const& vak) const {
 
 std::optional<Plek> LabelVakken::plaats(Plek midden, Kant kant, std::size_t tekens) {
   constexpr double stap = 4;
-  constexpr int stappen = 8;
+  constexpr int pogingen = 16;
   Plek const half{static_cast<double>(tekens) * tekenBreedte / 2, hoogte / 2};
   // From the sign to the middle of the label, and to where its text is hung up.
   double const naarMidden = kant == Kant::rechts ? half.x : kant == Kant::links ? -half.x : 0;
   double const naarHaak = kant == Kant::rechts ? vrij : kant == Kant::links ? -vrij : 0;
-  for (int i = 0; i < 2 * stappen; ++i) {
+  for (int i = 0; i < pogingen; ++i) {
     // By turns to the one side and to the other.
-    double const opzij = (i + 1) / 2 * (i % 2 == 0 ? stap : -stap);
+    int const stappen = (i + 1) / 2;
+    double const opzij = i % 2 == 0 ? stappen * stap : -stappen * stap;
     Plek const haak = kant == Kant::boven ? Plek{midden.x + opzij, midden.y - vrij - half.y}
                                           : Plek{midden.x + naarHaak, midden.y + opzij};
     Vak const vak{{haak.x + naarMidden - half.x, haak.y - half.y},
