@@ -2,7 +2,6 @@
 #include <wx/sound.h>
 #include <wx/timer.h>
 
-#include <chrono>
 #include <cstring>
 #include <iostream>
 #include <limits>
@@ -81,7 +80,6 @@ class SdlSpeler : public wxSoundBackend {
   };
 
   bool vulAan(wxSoundData const& geluid);
-  void wachtOpEinde(volatile wxSoundPlaybackStatus const& stand) const;
   void kijkNaar();
 
   std::unique_ptr<SdlUitvoer> uitvoer;               // null while nothing plays
@@ -102,7 +100,7 @@ bool SdlSpeler::Play(wxSoundData* geluid, unsigned vlaggen, volatile wxSoundPlay
     return true;
   }
   std::string fout;
-  uitvoer = SdlUitvoer::open(*vorm, fout);
+  uitvoer = SdlUitvoer::open(*vorm, wxTheApp->GetAppDisplayName().utf8_string(), fout);
   if (!uitvoer) {
     meldGeenUitvoer(fout);
     return false;
@@ -122,7 +120,7 @@ bool SdlSpeler::Play(wxSoundData* geluid, unsigned vlaggen, volatile wxSoundPlay
     wekker.Start(periode);
     kijkNaar();
   } else {
-    wachtOpEinde(*stand);
+    uitvoer->wachtOpEinde([stand] { return stand->m_stopRequested; });
     Stop();
   }
   return true;
@@ -136,23 +134,6 @@ void SdlSpeler::Stop() {
 
 bool SdlSpeler::vulAan(wxSoundData const& geluid) {
   return uitvoer->voegToe(geefSamples(geluid), heleFrames(geluid));
-}
-
-// A device that takes nothing more, as one that was pulled out may, is not waited for.
-void SdlSpeler::wachtOpEinde(volatile wxSoundPlaybackStatus const& stand) const {
-  using Klok = std::chrono::steady_clock;
-  constexpr std::chrono::seconds geduld{3};
-  constexpr Uint32 pauze = 5;  // ms
-  std::size_t laatste = uitvoer->wachtend();
-  Klok::time_point sinds = Klok::now();
-  while (laatste > 0 && !stand.m_stopRequested && Klok::now() - sinds < geduld) {
-    SDL_Delay(pauze);
-    std::size_t const nu = uitvoer->wachtend();
-    if (nu != laatste) {
-      laatste = nu;
-      sinds = Klok::now();
-    }
-  }
 }
 
 // What an asynchronous sound needs while it plays: a loop its samples in time, and the end of the

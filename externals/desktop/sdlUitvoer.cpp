@@ -1,7 +1,6 @@
 #include "externals/desktop/sdlUitvoer.h"
 
-#include <wx/app.h>
-
+#include <chrono>
 #include <vector>
 
 namespace {
@@ -20,11 +19,10 @@ Uint16 blokSamples(int rate) {
 
 }  // namespace
 
-SdlUitvoer::Bibliotheek::Bibliotheek() {
+SdlUitvoer::Bibliotheek::Bibliotheek(std::string const& naam) {
   // Without this an interrupt from the terminal would go into a queue of events that nobody reads.
   SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-  // What the mixers of the desktop show.
-  SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, wxTheApp->GetAppDisplayName().utf8_str());
+  SDL_SetHint(SDL_HINT_AUDIO_DEVICE_APP_NAME, naam.c_str());
   gestart = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0;
 }
 
@@ -34,7 +32,7 @@ SdlUitvoer::Bibliotheek::~Bibliotheek() {
   }
 }
 
-SdlUitvoer::SdlUitvoer(GeluidVorm const& vorm) {
+SdlUitvoer::SdlUitvoer(GeluidVorm const& vorm, std::string const& naam) : bibliotheek(naam) {
   if (!bibliotheek.isGestart()) {
     return;
   }
@@ -54,9 +52,10 @@ SdlUitvoer::SdlUitvoer(GeluidVorm const& vorm) {
   toestel = SDL_OpenAudioDevice(nullptr, 0, &wens, &spec, 0);
 }
 
-std::unique_ptr<SdlUitvoer> SdlUitvoer::open(GeluidVorm const& vorm, std::string& fout) {
+std::unique_ptr<SdlUitvoer> SdlUitvoer::open(GeluidVorm const& vorm, std::string const& naam,
+                                             std::string& fout) {
   SDL_ClearError();
-  std::unique_ptr<SdlUitvoer> uitvoer(new SdlUitvoer(vorm));
+  std::unique_ptr<SdlUitvoer> uitvoer(new SdlUitvoer(vorm, naam));
   if (uitvoer->toestel == 0) {
     fout = SDL_GetError();
     return nullptr;
@@ -91,6 +90,22 @@ void SdlUitvoer::start() {
 
 std::size_t SdlUitvoer::wachtend() const {
   return SDL_GetQueuedAudioSize(toestel);
+}
+
+void SdlUitvoer::wachtOpEinde(std::function<bool()> const& isGestopt) const {
+  using Klok = std::chrono::steady_clock;
+  constexpr std::chrono::seconds geduld{3};
+  constexpr Uint32 pauze = 5;  // ms
+  std::size_t laatste = wachtend();
+  Klok::time_point sinds = Klok::now();
+  while (laatste > 0 && !isGestopt() && Klok::now() - sinds < geduld) {
+    SDL_Delay(pauze);
+    std::size_t const nu = wachtend();
+    if (nu != laatste) {
+      laatste = nu;
+      sinds = Klok::now();
+    }
+  }
 }
 
 std::size_t SdlUitvoer::bytesPerSeconde() const {

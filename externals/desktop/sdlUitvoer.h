@@ -4,6 +4,7 @@
 #include <SDL.h>
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -16,9 +17,11 @@ struct GeluidVorm {
 
 class SdlUitvoer {
  public:
-  // Opens the system's default device, which waits for samples. Null where there is none or it
-  // does not take this form; `fout` then tells why.
-  static std::unique_ptr<SdlUitvoer> open(GeluidVorm const& vorm, std::string& fout);
+  // Opens the system's default device, which waits for samples. The mixers of the desktop show the
+  // sound under `naam`, in UTF-8. Null where there is no device or it does not take this form;
+  // `fout` then tells why.
+  static std::unique_ptr<SdlUitvoer> open(GeluidVorm const& vorm, std::string const& naam,
+                                          std::string& fout);
   // Ends the sound, whatever is left of it, and closes the device.
   ~SdlUitvoer();
   SdlUitvoer(SdlUitvoer const&) = delete;
@@ -34,6 +37,9 @@ class SdlUitvoer {
   void start();
   // The bytes that the device has not taken yet.
   std::size_t wachtend() const;
+  // Returns when the device has taken them all, or `isGestopt` says so. A device that takes nothing
+  // more, as one that was pulled out may, is not waited for.
+  void wachtOpEinde(std::function<bool()> const& isGestopt) const;
   std::size_t bytesPerSeconde() const;
 
  private:
@@ -41,7 +47,7 @@ class SdlUitvoer {
   // servers and devices of that moment.
   class Bibliotheek {
    public:
-    Bibliotheek();
+    explicit Bibliotheek(std::string const& naam);
     ~Bibliotheek();
     Bibliotheek(Bibliotheek const&) = delete;
     Bibliotheek& operator=(Bibliotheek const&) = delete;
@@ -54,7 +60,7 @@ class SdlUitvoer {
     bool gestart;
   };
 
-  explicit SdlUitvoer(GeluidVorm const& vorm);
+  SdlUitvoer(GeluidVorm const& vorm, std::string const& naam);
 
   Bibliotheek bibliotheek;
   SDL_AudioSpec spec{};
