@@ -9,7 +9,6 @@
 #include <optional>
 #include <system_error>
 
-#include "audio/uitvoer/dacBreedte.h"
 #include "audio/weergave/tekstGeluid.h"
 #include "audio/weergave/wavSchrijver.h"
 #include "opdrachtregel/doelGroep.h"
@@ -25,12 +24,7 @@ DecodeerOpdracht::DecodeerOpdracht(CLI::App& programma)
                   "Where each array becomes NAME.wav, of 16 bits; made where it is missing")
       ->type_name("FOLDER")
       ->required();
-  app->add_option("--dac", dacBits,
-                  "Width in bits of the DAC that the arrays were made for (default: what their "
-                  "text tells; those of PCM and ADPCM do not tell, and their samples stay as "
-                  "they are)")
-      ->type_name("8|10|12|16")
-      ->check(CLI::IsMember(std::vector<int>(dacBreedten.begin(), dacBreedten.end())));
+  voegBreedteToe(*app, dacBits);
   app->add_flag("-v,--verbose", uitgebreid, "Tell what was made");
   app->footer(
       "ADPCM fragments go on from one another, in the order of their text: give the\n"
@@ -74,7 +68,8 @@ bool DecodeerOpdracht::decodeerTekst(std::string const& bestand,
   }
   TekstDecoder decoder(dacBits == 0 ? std::nullopt : std::optional(dacBits));
   return std::all_of(arrays.begin(), arrays.end(), [&](TekstArray const& array) {
-    return schrijf(array, decoder.decodeer(array), doelen);
+    std::optional<DoelGeluid> const geluid = decodeer(decoder, array);
+    return geluid && schrijf(array, *geluid, doelen);
   });
 }
 
@@ -101,11 +96,6 @@ bool DecodeerOpdracht::keurNaam(std::string const& bestand, TekstArray const& ar
 bool DecodeerOpdracht::schrijf(TekstArray const& array, DoelGeluid const& geluid,
                                DoelGroep& doelen) const {
   std::string const pad = doelPad(array);
-  // Speex alone asks for what may not be there: a decoder.
-  if (geluid.samples.empty() && array.aantalSamples > 0) {
-    meld("cannot decode " + volleNaam(array) + ": libspeex gives no decoder");
-    return false;
-  }
   if (!pastInWav(geluid)) {
     meld("cannot write " + pad + ": the sound is longer than a WAV file can hold");
     return false;

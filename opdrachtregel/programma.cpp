@@ -15,6 +15,7 @@
 #include "opdrachtregel/lijstOpdracht.h"
 #include "opdrachtregel/melding.h"
 #include "opdrachtregel/opmaak.h"
+#include "opdrachtregel/speelOpdracht.h"
 #include "opdrachtregel/vergelijkOpdracht.h"
 #include "opdrachtregel/wegwerpBestand.h"
 
@@ -26,6 +27,7 @@ std::vector<std::unique_ptr<Opdracht>> maakOpdrachten(CLI::App& programma) {
   opdrachten.push_back(std::make_unique<EncodeerOpdracht>(programma));
   opdrachten.push_back(std::make_unique<LijstOpdracht>(programma));
   opdrachten.push_back(std::make_unique<DecodeerOpdracht>(programma));
+  opdrachten.push_back(std::make_unique<SpeelOpdracht>(programma));
   opdrachten.push_back(std::make_unique<VergelijkOpdracht>(programma));
   return opdrachten;
 }

@@ -1,9 +1,13 @@
 #include "opdrachtregel/tekstInvoer.h"
 
+#include <CLI/CLI.hpp>
+
 #include <algorithm>
 #include <cstring>
 #include <utility>
 
+#include "audio/uitvoer/dacBreedte.h"
+#include "audio/weergave/tekstGeluid.h"
 #include "opdrachtregel/bestandBytes.h"
 #include "opdrachtregel/melding.h"
 
@@ -35,4 +39,23 @@ std::string optieNaam(ArraySoort soort) {
     return teken >= 'A' && teken <= 'Z' ? static_cast<char>(teken - 'A' + 'a') : teken;
   });
   return naam;
+}
+
+void voegBreedteToe(CLI::App& app, unsigned int& dacBits) {
+  app.add_option("--dac", dacBits,
+                 "Width in bits of the DAC that the arrays were made for (default: what their "
+                 "text tells; those of PCM and ADPCM do not tell, and their samples stay as "
+                 "they are)")
+      ->type_name("8|10|12|16")
+      ->check(CLI::IsMember(std::vector<int>(dacBreedten.begin(), dacBreedten.end())));
+}
+
+std::optional<DoelGeluid> decodeer(TekstDecoder& decoder, TekstArray const& array) {
+  DoelGeluid geluid = decoder.decodeer(array);
+  // Speex alone asks for what may not be there: a decoder.
+  if (geluid.samples.empty() && array.aantalSamples > 0) {
+    meld("cannot decode " + volleNaam(array) + ": libspeex gives no decoder");
+    return std::nullopt;
+  }
+  return geluid;
 }
