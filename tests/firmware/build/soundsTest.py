@@ -6,6 +6,7 @@
 from __future__ import annotations
 
 import os
+import re
 import shutil
 import sys
 import tempfile
@@ -13,7 +14,7 @@ from pathlib import Path
 from typing import Callable
 
 from mistakes import MISTAKES
-from project import ROOT, Project, Tool, equal, install, succeed
+from project import Project, Tool, equal, install, succeed
 
 STRICT = "-Wall -Wextra -Wpedantic -Wmissing-declarations -Wshadow -Wconversion -Werror"
 HEAD = "cmake_minimum_required(VERSION 3.20)\nproject(Bell {})\nfind_package(Kestrolin 1.1 REQUIRED)\n"
@@ -243,6 +244,36 @@ def installed(place: Place) -> None:
         assert str(place.build) not in cache, f"{name}: it knows of the build tree"
 
 
+def upgrade(place: Place) -> None:
+    """Another version makes the arrays again, though its program is older than they are."""
+    package = place.folder / "share" / "cmake" / "Kestrolin"
+    shutil.copytree(place.package, package)
+    (place.folder / "share" / "kestrolin").symlink_to(place.build / "share" / "kestrolin")
+    version = (package / "KestrolinConfigVersion.cmake").read_text(encoding="utf-8")
+    tool = place.folder / "kestrolin-cli"
+
+    def publish(number: str) -> None:
+        tool.write_text(f"#!/bin/sh\n[ \"$1\" != --version ] || {{ echo kestrolin-cli {number}; exit; }}\n"
+                        f"exec '{place.build}/bin/kestrolin-cli' \"$@\"\n", encoding="utf-8")
+        tool.chmod(0o755)
+        os.utime(tool, (0, 0))
+        (package / "KestrolinConfigVersion.cmake").write_text(
+            re.sub(r'(PACKAGE_VERSION) "[\d.]+"', rf'\1 "{number}"', version), encoding="utf-8")
+
+    for generator in ("Ninja", "Unix Makefiles"):
+        publish("1.1.8")
+        project = Project(place.cmake, place.folder / generator, package, "-G", generator,
+                          f"-DKESTROLIN_CLI={tool}")
+        project.write("CMakeLists.txt", HEAD.format("C") + "kestrolin_add_sounds(sounds FILES ready.wav)\n")
+        project.record("ready.wav")
+        configure(project)
+        assert "sounds_data.c" in project.changed_by_build()
+        publish("1.1.9")
+        configure(project)
+        equal(project.changed_by_build(),
+              {"sounds_data.c", "sounds.c", "sounds.h", "sounds.c.o", "libsounds.a"}, generator)
+
+
 def nested(place: Place) -> None:
     """Folders below each other, each with a library, the readers made once, recordings that the build
     makes."""
@@ -301,7 +332,7 @@ def strict(place: Place) -> None:
 
 
 CASES: dict[str, Callable[[Place], None]] = {
-    case.__name__: case for case in (ninja, make, options, mistakes, found, installed, nested, strict)
+    case.__name__: case for case in (ninja, make, options, mistakes, found, installed, upgrade, nested, strict)
 }
 
 if __name__ == "__main__":
