@@ -21,7 +21,8 @@ sys.path.insert(0, str(WORTEL / "tests" / "firmware" / "example"))
 
 # pylint: disable=wrong-import-position
 import exampleTest
-from pagina import Keuzes, blokken, maak_tekst, samples_in, stappen, voer_uit
+from pagina import blokken, samples_in, stappen, voer_uit
+from vensterStappen import Keuzes, maak_tekst
 
 BESTANDEN = ("sounds.h", "sounds.c", "main.c")
 

@@ -16,7 +16,8 @@ import sys
 from array import array
 from pathlib import Path
 
-from pagina import Keuzes, blokken, maak_tekst, samples_in, stappen, voer_uit
+from pagina import blokken, samples_in, stappen, voer_uit
+from vensterStappen import Keuzes, maak_tekst
 
 GEDEELD = "/usr/share/kestrolin"
 BESTANDEN = ("sounds.h", "sounds.cpp", "main.cpp")

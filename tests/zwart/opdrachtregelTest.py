@@ -1,0 +1,140 @@
+"""A newcomer with docs/manual.md alone, an installed kestrolin-cli and an empty folder: every file and
+command of the chapter on builds is taken as it stands there, and says what stands there. What comes out
+of the board follows the recordings, and nothing is built without need.
+
+    opdrachtregelTest.py CMAKE BUILD
+
+Ends with status 77 where the tools of the board are not installed, or fails where KESTROLIN_TARGET says
+"required". No screen is needed.
+"""
+
+from __future__ import annotations
+
+import os
+import re
+import subprocess
+import sys
+import tempfile
+from array import array
+from pathlib import Path
+
+WORTEL = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(WORTEL / "tests" / "firmware" / "example"))
+
+# pylint: disable=wrong-import-position
+import exampleTest
+from pagina import blokken, samples_in, stappen, voer_uit
+
+HOOFDSTUK = "Sounds in the build"
+GEDEELD = "/usr/share/kestrolin"
+PAD = 'export PATH="PREFIX/bin:$PATH"'
+PAKKETTEN = f"gcc make cmake sox {exampleTest.PACKAGES}"
+# What the user writes, and what the command does.
+GESCHREVEN = {"main.c", "Makefile", "CMakeLists.txt"}
+GEMAAKT = {"build/ready.h", "build/ready.c"}
+# What an environment would change of the page's commands.
+ZONDER = ("CC", "CFLAGS", "LDFLAGS", "MAKEFLAGS", "CMAKE_GENERATOR", "CMAKE_TOOLCHAIN_FILE",
+          "CMAKE_PREFIX_PATH", "SOURCE_DATE_EPOCH")
+FIGUUR = re.compile(r"-?\d+\.\d(?= |$)", re.M)
+
+
+def codes_van(*wavs: Path) -> list[int]:
+    """What a DAC of 12 bits gets for these recordings."""
+    return [int(sample / 16) + 2048 for wav in wavs for sample in samples_in(wav)[0]]
+
+
+def keur_afdruk(gezegd: str, afdruk: str) -> None:
+    """The page shows all that is said, or its beginning. Figures of quality may be a little off."""
+    begin = gezegd[: len(afdruk)]
+    if "fwSNRseg" not in afdruk:
+        assert gezegd == afdruk, f"it says\n{gezegd}instead of\n{afdruk}"
+        return
+    assert FIGUUR.sub("", begin) == FIGUUR.sub("", afdruk), f"it says\n{begin}instead of\n{afdruk}"
+    for een, ander in zip(FIGUUR.findall(begin), FIGUUR.findall(afdruk)):
+        assert abs(float(een) - float(ander)) < 0.35, f"{een} instead of {ander} in\n{begin}"
+
+
+def keur_make(gezegd: str) -> None:
+    """The two times that Make ran: all, then what follows from one recording."""
+    aantallen = {woord: gezegd.count(woord) for woord in (
+        "encode --dac 12 recordings/ready.wav", "encode --dac 12 recordings/warning.wav", "-o build/main.o",
+        "-o build/ready.o", "-o build/warning.o", "-o build/kestrolin_pcm.o", "-o build/bell ")}
+    assert list(aantallen.values()) == [2, 1, 2, 2, 1, 1, 2], f"{aantallen}:\n{gezegd}"
+
+
+class Les:
+    """The folder of the newcomer, and where the page is."""
+
+    def __init__(self, leeg: Path, pad: str) -> None:
+        self.leeg, self.bell = leeg, leeg / "bell"
+        self.variabelen = {"PATH": f"{pad}:{os.environ['PATH']}"}
+        self.gezegd = ""
+        self.gehoord: list[list[int]] = []
+
+    def neem(self, taal: str, blok: str, naam: str) -> None:
+        if taal == "sh":
+            self.gezegd = voer_uit(blok, self.bell if self.bell.is_dir() else self.leeg, **self.variabelen)
+            self.onthoud(blok)
+        elif taal == "text":
+            keur_afdruk(self.gezegd, blok)
+        elif naam in GEMAAKT:
+            assert (self.bell / naam).read_text(encoding="utf-8") == blok, f"{naam} is another one"
+        else:
+            assert naam in GESCHREVEN, f"nobody knows what to do with {naam}"
+            (self.bell / naam).write_text(blok, encoding="utf-8")
+
+    def onthoud(self, blok: str) -> None:
+        """Holds what the DAC got against the recordings as they are."""
+        if "\nmake\n" in blok:
+            keur_make(self.gezegd)
+        if "build/bell\n" in blok or "board/bell\n" in blok:
+            codes = list(array("H", (self.bell / "bell.dac").read_bytes()))
+            wavs = (self.bell / "recordings" / naam for naam in ("ready.wav", "warning.wav"))
+            assert codes == codes_van(*wavs), f"the DAC got something else after\n{blok}"
+            self.gehoord.append(codes)
+
+
+def keur_pakketten(tekst: str) -> None:
+    """What the page has installed is what the tests here run with."""
+    genoemd = re.search(r"^ {4}apt install (.*)", tekst, re.M)
+    assert genoemd and genoemd[1] == PAKKETTEN, "packages"
+
+
+def keur_decode(heard: Path, fragmenten: Path) -> None:
+    """What decode wrote is what 12 bits leave of the recordings."""
+    for naam in ("ready.wav", "warning.wav"):
+        samples, frequentie = samples_in(fragmenten / naam)
+        verwacht = [int(sample / 16) * 16 for sample in samples], frequentie
+        assert samples_in(heard / naam) == verwacht, f"{naam} is decoded to something else"
+
+
+def volg(tekst: str, leeg: Path, pad: str) -> None:
+    les = Les(leeg, pad)
+    alle = blokken(tekst)
+    soorten = [taal for taal, _, _ in alle]
+    assert {naam for taal, _, naam in alle if taal not in ("sh", "text")} == GESCHREVEN | GEMAAKT, soorten
+    for taal, blok, naam in alle:
+        les.neem(taal, blok, naam)
+    keur_decode(les.bell / "heard", WORTEL / "fragmenten")
+    eerste, achterstevoren, op_bord, weer = les.gehoord
+    assert eerste == weer and achterstevoren == op_bord and eerste != achterstevoren
+
+
+def main() -> None:
+    exampleTest.need_tools()
+    cmake, bouw = sys.argv[1:3]
+    for naam in ZONDER:
+        os.environ.pop(naam, None)
+    tekst = stappen("manual.md", HOOFDSTUK)
+    assert f"    {PAD}\n" in tekst, "the page has another path"
+    keur_pakketten(tekst)
+    with tempfile.TemporaryDirectory(prefix="kestrolinManual") as map_:
+        prefix, leeg = Path(map_, "prefix"), Path(map_, "leeg")
+        leeg.mkdir()
+        subprocess.run([cmake, "--install", bouw, "--prefix", str(prefix), "--component", "Unspecified"],
+                       stdout=subprocess.DEVNULL, check=True)
+        volg(tekst.replace(GEDEELD, f"{prefix}/share/kestrolin"), leeg, f"{prefix}/bin")
+
+
+if __name__ == "__main__":
+    main()
