@@ -189,7 +189,11 @@ SLECHTE_OPDRACHTEN = [
 
 _POT = 'msgid ""\nmsgstr "Content-Type: text/plain; charset=UTF-8\\n"\n\n'
 GOEDE_BERICHTEN = {
-    "docs/manual.md": '| `It said "no"`<br>`and 7 % of N` | `channels` | `/* a\tb */` |\n',
+    "docs/manual.md": '| `It said "no"`<br>`and 7 % of N` | `channels` | `/* a\tb */` |\n'
+                      '| `FILE: is "gone"; look for it` | `N: has no home; give it one.` |\n',
+    "opdrachtregel/a.cpp": '// No "such comment".\n#include "a b.h"\n'
+                           'app->add_option("-o", a, f("It (is) help")); meld(a + ": is \\"gone\\"; "\n"look for it");\n',
+    "packaging/cmake/a.cmake": '_kestrolin_fail("${a}: has no home; give it one")\nmessage("not this one")\n',
     "vertalingen/Kestrolin.pot": _POT + 'msgid "It said \\"no\\"\\nand 7 %% of %d"\nmsgstr ""\n\n'
                                         'msgid "channels:"\nmsgstr ""\n',
     "vertalingen/Velmoradesktop.pot": _POT + 'msgid ""\n"/* a\\tb"\n" */"\nmsgstr ""\n',
@@ -205,5 +209,13 @@ SLECHTE_BERICHTEN = [
     ("'and 7 % of'", _verteld("7 %", "7%")),
     ("does not tell '/* a\\tb */' of vertalingen/Velmoradesktop.pot", _verteld("\t", " ")),
     ("'seekable:'", _verteld("channels:", "seekable:", "vertalingen/Kestrolin.pot")),
+    ("': is \"lost\"; look for it' of opdrachtregel/a.cpp",
+     _vervang(GOEDE_BERICHTEN, "opdrachtregel/a.cpp", "gone", "lost")),
+    ("'; look for them' of packaging/cmake/a.cmake",
+     _vervang(GOEDE_BERICHTEN, "packaging/cmake/a.cmake", "give it one", "${b}; look for them")),
+    ("opdrachtregel/*.cpp: no texts",
+     _vervang(GOEDE_BERICHTEN, "opdrachtregel/a.cpp", "meld(", "app->footer(")),
+    ("packaging/cmake/*.cmake: no texts",
+     _vervang(GOEDE_BERICHTEN, "packaging/cmake/a.cmake", "_kestrolin_fail", "message")),
     ("Kestrolin.pot: no texts", {**GOEDE_BERICHTEN, "vertalingen/Kestrolin.pot": _POT}),
 ]
