@@ -1,6 +1,7 @@
 """A newcomer with docs/manual.md alone, an installed kestrolin-cli and an empty folder: every file and
 command of the chapter on builds is taken as it stands there, and says what stands there. What comes out
-of the board follows the recordings, and nothing is built without need.
+of the board follows the recordings, and nothing is built without need. The chapter on the command has
+every option that the command has, and no other.
 
     opdrachtregelTest.py CMAKE BUILD
 
@@ -25,7 +26,7 @@ sys.path.insert(0, str(WORTEL / "tests" / "firmware" / "example"))
 import exampleTest
 from pagina import blokken, samples_in, stappen, voer_uit
 
-HOOFDSTUK = "Sounds in the build"
+LES, NASLAG = "Sounds in the build", "The command"
 GEDEELD = "/usr/share/kestrolin"
 PAD = 'export PATH="PREFIX/bin:$PATH"'
 PAKKETTEN = f"gcc make cmake sox {exampleTest.PACKAGES}"
@@ -108,6 +109,35 @@ def keur_decode(heard: Path, fragmenten: Path) -> None:
         assert samples_in(heard / naam) == verwacht, f"{naam} is decoded to something else"
 
 
+def opties_van(programma: Path) -> set[tuple[str, str]]:
+    """The commands of the program, each with the options of its help; "" has those of all."""
+    hulp = voer_uit(f"'{programma}' --help", Path("/"))
+    opdrachten = re.findall(r"^  (\w+) ", hulp[hulp.index("\nCommands:\n"):], re.M)
+    assert len(opdrachten) >= 4, hulp
+    gevonden = {("", optie) for optie in re.findall(r"^  (?:-\w, )?(--[\w-]+)", hulp, re.M)}
+    for opdracht in opdrachten:
+        for regel in re.findall(r"^  (-.*)", voer_uit(f"'{programma}' {opdracht} --help", Path("/")), re.M):
+            namen = re.match(r"(?:-[-\w]+(?:, )?)+", regel)
+            gevonden |= {(opdracht, optie) for optie in re.findall(r"-[-\w]+", namen[0] if namen else "")}
+    algemeen = {("", "--help"), ("", "-h"), ("", "--version")}
+    return {rij for rij in gevonden if ("", rij[1]) not in algemeen} | algemeen
+
+
+def keur_naslag(tekst: str, programma: Path) -> None:
+    """The options that rows and paragraphs of the chapter begin with are those of the help."""
+    bekend = opties_van(programma)
+    delen = re.split(r"^### (\w+)\n", tekst, flags=re.M)
+    algemeen = re.search(r"^`--help`.*?\n\n", delen[0], re.M | re.S)
+    genoemd = {("", optie) for optie in re.findall(r"`(--?[a-z]+)`", algemeen[0] if algemeen else "")}
+    for kop, deel in zip(delen[1::2], delen[2::2]):
+        if kop not in {opdracht for opdracht, _ in bekend}:
+            continue
+        eerste = "".join(re.findall(r"^\| (`-[^|]*)\|", deel, re.M))
+        genoemd |= {(kop, optie) for optie in re.findall(r"`(--?[a-z][a-z-]*)[ `]", eerste)}
+        genoemd |= {(kop, optie) for optie in re.findall(r"^`(--[a-z-]+)` ", deel, re.M)}
+    assert genoemd == bekend, f"only in the manual {genoemd - bekend}, only in the help {bekend - genoemd}"
+
+
 def volg(tekst: str, leeg: Path, pad: str) -> None:
     les = Les(leeg, pad)
     alle = blokken(tekst)
@@ -125,7 +155,7 @@ def main() -> None:
     cmake, bouw = sys.argv[1:3]
     for naam in ZONDER:
         os.environ.pop(naam, None)
-    tekst = stappen("manual.md", HOOFDSTUK)
+    tekst = stappen("manual.md", LES)
     assert f"    {PAD}\n" in tekst, "the page has another path"
     keur_pakketten(tekst)
     with tempfile.TemporaryDirectory(prefix="kestrolinManual") as map_:
@@ -133,6 +163,7 @@ def main() -> None:
         leeg.mkdir()
         subprocess.run([cmake, "--install", bouw, "--prefix", str(prefix), "--component", "Unspecified"],
                        stdout=subprocess.DEVNULL, check=True)
+        keur_naslag(stappen("manual.md", NASLAG), prefix / "bin" / "kestrolin-cli")
         volg(tekst.replace(GEDEELD, f"{prefix}/share/kestrolin"), leeg, f"{prefix}/bin")
 
 
