@@ -32,7 +32,7 @@ PAD = 'export PATH="PREFIX/bin:$PATH"'
 PAKKETTEN = f"gcc make cmake sox {exampleTest.PACKAGES}"
 # What the user writes, and what the command does.
 GESCHREVEN = {"main.c", "Makefile", "CMakeLists.txt"}
-GEMAAKT = {"build/ready.h", "build/ready.c"}
+GEMAAKT = {"build/words.h", "build/words.c"}
 # What an environment would change of the page's commands.
 ZONDER = ("CC", "CFLAGS", "LDFLAGS", "MAKEFLAGS", "CMAKE_GENERATOR", "CMAKE_TOOLCHAIN_FILE",
           "CMAKE_PREFIX_PATH", "SOURCE_DATE_EPOCH")
@@ -58,9 +58,9 @@ def keur_afdruk(gezegd: str, afdruk: str) -> None:
 def keur_make(gezegd: str) -> None:
     """The two times that Make ran: all, then what follows from one recording."""
     aantallen = {woord: gezegd.count(woord) for woord in (
-        "encode --dac 12 recordings/ready.wav", "encode --dac 12 recordings/warning.wav", "-o build/main.o",
-        "-o build/ready.o", "-o build/warning.o", "-o build/kestrolin_pcm.o", "-o build/bell ")}
-    assert list(aantallen.values()) == [2, 1, 2, 2, 1, 1, 2], f"{aantallen}:\n{gezegd}"
+        "encode --dac 12 recordings/words/*.wav", "-o build/main.o", "-o build/words.o",
+        "-o build/kestrolin_pcm.o", "-o build/kestrolin_dac.o", "-o build/board_host.o", "-o build/bell ")}
+    assert list(aantallen.values()) == [2, 2, 2, 1, 1, 1, 2], f"{aantallen}:\n{gezegd}"
 
 
 class Les:
@@ -90,7 +90,7 @@ class Les:
             keur_make(self.gezegd)
         if "build/bell\n" in blok or "board/bell\n" in blok:
             codes = list(array("H", (self.bell / "bell.dac").read_bytes()))
-            wavs = (self.bell / "recordings" / naam for naam in ("ready.wav", "warning.wav"))
+            wavs = (self.bell / "recordings" / "words" / naam for naam in ("ready.wav", "warning.wav"))
             assert codes == codes_van(*wavs), f"the DAC got something else after\n{blok}"
             self.gehoord.append(codes)
 
