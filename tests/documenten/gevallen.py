@@ -164,6 +164,7 @@ cmake --preset release -DKESTROLIN_SDL=OFF
 cmake --build build/release --target help
 cd /tmp; sudo cmake --install build/release --prefix /usr/local
 tests/steun/scherm ctest --preset debug
+build/release/bin/help --anything
 ```
 """}
 SLECHTE_OPDRACHTEN = [
@@ -181,6 +182,8 @@ SLECHTE_OPDRACHTEN = [
     ("no preset builds in build/debug", "cmake --build build/debug"),
     ("cmake --install knows no --prefx", "cmake --install build/release --prefx /"),
     ("no option KESTROLIN_SDX", "cmake --preset release -DKESTROLIN_SDX=OFF"),
+    ("no preset builds in build/debug", "build/debug/bin/help"),
+    ("no target weg", "build/release/bin/weg"),
     ("no target weg", "cmake --build build/release --target weg"),
     ("goes on in the next line", "cmake --preset release \\"),
     ("No closing quotation", "echo 'a"),

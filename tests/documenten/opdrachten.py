@@ -29,6 +29,7 @@ VOORAF = {"sudo", "env", "exec"}
 # What runs the command that comes behind it.
 OMHULSELS = {"tests/steun/scherm", "tour/sessie"}
 VAN_SHELL = {".", "cd", "export", "set", "umask", "unset"}
+GEBOUWD = re.compile(r"build/([\w-]+)/bin/([\w-]+)")
 TOEKENNING = re.compile(r"[A-Za-z_]\w*=")
 HULP = {"cmake --build": ["cmake", "--build"], "cmake --install": ["cmake", "--install"],
         "cmake": ["cmake", "--help"], "ctest": ["ctest", "--help"]}
@@ -149,9 +150,19 @@ class Keuring:
         if soort == "cmake --build":
             yield from self._doelen(woorden)
 
+    def _gebouwd(self, preset: str, programma: str) -> Iterator[str]:
+        """A program of this tree, where a build has it. Whether it knows its options shows when it runs."""
+        if preset not in self._presets("configurePresets"):
+            yield f"no preset builds in build/{preset}"
+        yield from self._doelen(["--target", programma])
+
     def _deel(self, woorden: list[str]) -> Iterator[str]:
         naam, rest = woorden[0], woorden[1:]
+        gebouwd = GEBOUWD.fullmatch(naam)
         if naam in VAN_SHELL:
+            return
+        if gebouwd:
+            yield from self._gebouwd(gebouwd[1], gebouwd[2])
             return
         if naam in OMHULSELS and self.boom.uitvoerbaar(naam) and rest:
             yield from self._deel(rest)
