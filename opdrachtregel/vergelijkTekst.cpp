@@ -25,9 +25,7 @@ constexpr char const* uitlegFiguren =
     "fwSNRseg is the frequency-weighted segmental signal-to-noise ratio of what a\n"
     "target plays, from -10 to 35 dB: the figure to go by. SNRseg compares the waves,\n"
     "which Speex does not keep: there it says little.\n";
-constexpr char const* uitlegSpeex =
-    "Speex has the settings of a first start of the window; what its noise reduction\n"
-    "and gain control change counts against it.\n";
+constexpr char const* uitlegSpeex = "Speex has the settings of a first start of the window.\n";
 constexpr char const* uitlegAdpcm =
     "ADPCM takes the low byte of each sample: a recording at full level, as it is,\n"
     "comes out as noise. Bring it down to 8 bits first, as in:\n"
