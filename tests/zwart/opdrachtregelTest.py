@@ -1,7 +1,7 @@
 """A newcomer with docs/manual.md alone, an installed kestrolin-cli and an empty folder: every file and
 command of the chapter on builds is taken as it stands there, and says what stands there. What comes out
 of the board follows the recordings, and nothing is built without need. The chapter on the command has
-every option that the command has, and no other.
+every command and option that the program has, and no other.
 
     opdrachtregelTest.py CMAKE BUILD
 
@@ -127,6 +127,8 @@ def keur_naslag(tekst: str, programma: Path) -> None:
     """The options that rows and paragraphs of the chapter begin with are those of the help."""
     bekend = opties_van(programma)
     delen = re.split(r"^### (\w+)\n", tekst, flags=re.M)
+    opdrachten = set(re.findall(r"^\| `kestrolin-cli (\w+) ", delen[0], re.M))
+    assert opdrachten == {opdracht for opdracht, _ in bekend} - {""}, f"the manual has {opdrachten}"
     algemeen = re.search(r"^`--help`.*?\n\n", delen[0], re.M | re.S)
     genoemd = {("", optie) for optie in re.findall(r"`(--?[a-z]+)`", algemeen[0] if algemeen else "")}
     for kop, deel in zip(delen[1::2], delen[2::2]):
