@@ -1,7 +1,7 @@
 """A newcomer with docs/manual.md alone, an installed kestrolin-cli and an empty folder: every file and
 command of the chapter on builds is taken as it stands there, and says what stands there. What comes out
 of the board follows the recordings, and nothing is built without need. The chapter on the command has
-every command and option that the program has, and no other.
+every command and option that the program has, and no other, and its rule for Make is one.
 
     opdrachtregelTest.py CMAKE BUILD
 
@@ -13,6 +13,7 @@ from __future__ import annotations
 
 import os
 import re
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -140,6 +141,22 @@ def keur_naslag(tekst: str, programma: Path) -> None:
     assert genoemd == bekend, f"only in the manual {genoemd - bekend}, only in the help {bekend - genoemd}"
 
 
+def keur_regel(tekst: str, map_: Path, pad: str) -> None:
+    """The rule of the chapter that makes a text of each recording does so, and keeps it."""
+    (regel,) = [blok for taal, blok, _ in blokken(tekst) if taal == "make"]
+    (map_ / "recordings").mkdir(parents=True)
+    (map_ / "build").mkdir()
+    for naam in ("ready.wav", "warning.wav"):
+        shutil.copy(WORTEL / "fragmenten" / naam, map_ / "recordings")
+    (map_ / "Makefile").write_text(f"all: build/ready.o build/warning.o\n{regel}", encoding="utf-8")
+    variabelen = {"PATH": f"{pad}:{os.environ['PATH']}"}
+    gezegd = voer_uit("make\ntouch recordings/ready.wav\nmake\nmake", map_, **variabelen)
+    aantallen = [gezegd.count(f"--encoder adpcm recordings/{naam}.wav") for naam in ("ready", "warning")]
+    assert aantallen == [2, 1] and gezegd.endswith("Nothing to be done for 'all'.\n"), gezegd
+    lijst = voer_uit("kestrolin-cli list build/*_data.c", map_, **variabelen)
+    assert lijst.count(" ADPCM ") == 2, lijst
+
+
 def volg(tekst: str, leeg: Path, pad: str) -> None:
     les = Les(leeg, pad)
     alle = blokken(tekst)
@@ -157,6 +174,7 @@ def main() -> None:
     cmake, bouw = sys.argv[1:3]
     for naam in ZONDER:
         os.environ.pop(naam, None)
+    os.environ["LC_ALL"] = "C.UTF-8"
     tekst = stappen("manual.md", LES)
     assert f"    {PAD}\n" in tekst, "the page has another path"
     keur_pakketten(tekst)
@@ -166,6 +184,7 @@ def main() -> None:
         subprocess.run([cmake, "--install", bouw, "--prefix", str(prefix), "--component", "Unspecified"],
                        stdout=subprocess.DEVNULL, check=True)
         keur_naslag(stappen("manual.md", NASLAG), prefix / "bin" / "kestrolin-cli")
+        keur_regel(stappen("manual.md", NASLAG), Path(map_, "regel"), f"{prefix}/bin")
         volg(tekst.replace(GEDEELD, f"{prefix}/share/kestrolin"), leeg, f"{prefix}/bin")
 
 
