@@ -63,7 +63,12 @@ int leesBestand(std::string const& pad, std::string& inhoud) {
 }
 
 Handvat::~Handvat() {
-  if (isOpen()) {
-    close(waarde);
-  }
+  static_cast<void>(sluit());
+}
+
+int Handvat::sluit() {
+  int const open = waarde;
+  waarde = -1;
+  // Linux has closed it, also where a signal came between.
+  return open < 0 || close(open) == 0 || errno == EINTR ? 0 : errno;
 }

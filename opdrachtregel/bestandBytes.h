@@ -26,6 +26,8 @@ class Handvat {
 
   bool isOpen() const { return waarde >= 0; }
   int geef() const { return waarde; }
+  // Closes it now. The errno of what the disk tells only then, or 0.
+  int sluit();
 
  private:
   int waarde;

@@ -130,13 +130,14 @@ bool Doel::sluit() {
 }
 
 bool Doel::lever() {
-  Handvat const toestel(soort == Soort::standaardUitvoer
-                            ? dup(STDOUT_FILENO)
-                            : ::open(pad.c_str(), O_WRONLY | O_CLOEXEC));
+  Handvat toestel(soort == Soort::standaardUitvoer ? dup(STDOUT_FILENO)
+                                                   : ::open(pad.c_str(), O_WRONLY | O_CLOEXEC));
   if (!toestel.isOpen() || lseek(nieuw->geefHandvat(), 0, SEEK_SET) != 0) {
     return meldFout(errno);
   }
-  int const code = kopieerBytes(nieuw->geefHandvat(), toestel.geef());
+  int const geschreven = kopieerBytes(nieuw->geefHandvat(), toestel.geef());
+  int const gesloten = toestel.sluit();
+  int const code = geschreven != 0 ? geschreven : gesloten;
   return code == 0 || meldFout(code);
 }
 
