@@ -1,8 +1,11 @@
 #include "opdrachtregel/doelGroep.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <deque>
 #include <filesystem>
 #include <system_error>
 
@@ -12,20 +15,30 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// What is at a place before a new file comes there.
+// What is at a place before a new file comes there. It comes back at the end, also of an exception,
+// where the new file came and is not to stay.
 class Terugweg {
  public:
+  // Keeps what is there now.
   explicit Terugweg(Doel const& doel);
+  ~Terugweg();
+  Terugweg(Terugweg const&) = delete;
+  Terugweg& operator=(Terugweg const&) = delete;
+  Terugweg(Terugweg&&) = delete;
+  Terugweg& operator=(Terugweg&&) = delete;
 
-  // Whether what is there now was kept.
-  bool isOpen() const { return isBewaard; }
-  // Puts it back.
-  void ga();
+  // The errno that tells why it could not be kept, or 0.
+  int geefFout() const { return fout; }
+  // The new file has come.
+  void begin() { isNodig = true; }
+  // The new file stays.
+  void sluit() { isNodig = false; }
 
  private:
   std::string pad;
   std::unique_ptr<WegwerpBestand> oud;
-  bool isBewaard = true;
+  int fout = 0;
+  bool isNodig = false;
 };
 
 Terugweg::Terugweg(Doel const& doel) : pad(doel.geefPad()) {
@@ -33,28 +46,27 @@ Terugweg::Terugweg(Doel const& doel) : pad(doel.geefPad()) {
     return;
   }
   oud = std::make_unique<WegwerpBestand>(doel.geefMap());
-  isBewaard = oud->isOpen();
-  if (!isBewaard) {
+  if (!oud->isOpen()) {
+    fout = errno;
     return;
   }
   // Its name is all that counts: a group may have more files than a process may have open.
   static_cast<void>(oud->sluit());
-  std::error_code fout;
-  fs::remove(oud->geefPad(), fout);
-  fs::create_hard_link(pad, oud->geefPad(), fout);
-  if (fout) {
+  std::error_code code;
+  fs::remove(oud->geefPad(), code);
+  fs::create_hard_link(pad, oud->geefPad(), code);
+  if (code) {
     // Not every file system has links.
-    fs::copy_file(pad, oud->geefPad(), fout);
+    fs::copy_file(pad, oud->geefPad(), code);
   }
-  isBewaard = !fout;
+  fout = code.value();
 }
 
-void Terugweg::ga() {
-  if (oud) {
+Terugweg::~Terugweg() {
+  if (isNodig && oud) {
     static_cast<void>(oud->hernoem(pad));
-  } else {
-    std::error_code fout;
-    fs::remove(pad, fout);
+  } else if (isNodig) {
+    unlink(pad.c_str());
   }
 }
 
@@ -93,25 +105,25 @@ bool DoelGroep::legVast() {
 
 bool DoelGroep::plaatsAlle() {
   SignaalPauze const pauze;
-  std::vector<Terugweg> terug;
-  terug.reserve(doelen.size());
+  std::deque<Terugweg> wegen;
   for (std::unique_ptr<Doel> const& doel : doelen) {
     // Behind the last one nothing can fail.
-    bool const isLaatste = terug.size() + 1 == doelen.size();
-    bool kan = isLaatste || terug.emplace_back(*doel).isOpen();
-    if (!kan) {
-      meld("cannot replace " + doel->geefNaam() + ": " + std::strerror(errno));
-      terug.pop_back();
-    } else if (!doel->plaats()) {
-      kan = false;
-      if (!isLaatste) {
-        terug.pop_back();
-      }
+    if (doel == doelen.back()) {
+      break;
     }
-    if (!kan) {
-      std::for_each(terug.rbegin(), terug.rend(), [](Terugweg& weg) { weg.ga(); });
+    Terugweg& weg = wegen.emplace_back(*doel);
+    if (weg.geefFout() != 0) {
+      meld("cannot replace " + doel->geefNaam() + ": " + std::strerror(weg.geefFout()));
       return false;
     }
+    if (!doel->plaats()) {
+      return false;
+    }
+    weg.begin();
   }
+  if (!doelen.empty() && !doelen.back()->plaats()) {
+    return false;
+  }
+  std::for_each(wegen.begin(), wegen.end(), [](Terugweg& weg) { weg.sluit(); });
   return true;
 }
