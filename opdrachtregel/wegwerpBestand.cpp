@@ -26,12 +26,7 @@ constexpr std::array<int, 4> eindSignalen{SIGINT, SIGTERM, SIGHUP, SIGPIPE};
 WegwerpKnoop* eerste = nullptr;
 
 void ruimOp(int signaal) {
-  for (WegwerpKnoop const* een = eerste; een != nullptr; een = een->volgende) {
-    if (unlink(een->pad.c_str()) != 0) {
-      // A folder: it was noted before what lies in it, so that it comes behind that.
-      rmdir(een->pad.c_str());
-    }
-  }
+  ruimNuOp();
   // The action is the system's own again, and comes when this function ends.
   static_cast<void>(raise(signaal));
 }
@@ -64,6 +59,15 @@ bool vergeet(WegwerpKnoop const& knoop) {
 }
 
 }  // namespace
+
+void ruimNuOp() {
+  for (WegwerpKnoop const* een = eerste; een != nullptr; een = een->volgende) {
+    if (unlink(een->pad.c_str()) != 0) {
+      // A folder: it was noted before what lies in it, so that it comes behind that.
+      rmdir(een->pad.c_str());
+    }
+  }
+}
 
 SignaalPauze::SignaalPauze() {
   sigset_t const masker = eindMasker();
@@ -133,27 +137,32 @@ bool WegwerpBestand::hernoem(std::string const& doel) {
   return true;
 }
 
-WegwerpMap::WegwerpMap(std::string const& pad) {
-  constexpr mode_t alle = 0777;
+// What is made before an exception goes too: the other constructor has ended by then.
+WegwerpMap::WegwerpMap(std::string const& pad) : WegwerpMap() {
   SignaalPauze const pauze;
   fs::path tot;
   for (fs::path const& deel : fs::path(pad)) {
     tot /= deel;
-    auto knoop = std::make_unique<WegwerpKnoop>();
-    knoop->pad = tot.string();
-    if (mkdir(knoop->pad.c_str(), alle) == 0) {
-      noteer(*knoop);
-      gemaakt.push_back(std::move(knoop));
-      continue;
-    }
-    int const code = errno;
-    std::error_code geen;
-    if (!fs::is_directory(tot, geen)) {
-      fout = code;
+    if (!maak(tot.string())) {
       return;
     }
   }
   fout = pad.empty() ? ENOENT : 0;
+}
+
+bool WegwerpMap::maak(std::string const& pad) {
+  constexpr mode_t alle = 0777;
+  auto& knoop = gemaakt.emplace_back(std::make_unique<WegwerpKnoop>());
+  knoop->pad = pad;
+  if (mkdir(pad.c_str(), alle) == 0) {
+    noteer(*knoop);
+    return true;
+  }
+  int const code = errno;
+  gemaakt.pop_back();
+  std::error_code geen;
+  fout = fs::is_directory(pad, geen) ? 0 : code;
+  return isEr();
 }
 
 WegwerpMap::~WegwerpMap() {

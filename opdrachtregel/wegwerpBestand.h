@@ -56,6 +56,11 @@ class WegwerpMap {
   int geefFout() const { return fout; }
 
  private:
+  WegwerpMap() = default;
+
+  // One folder of it. False where it is not there then.
+  bool maak(std::string const& pad);
+
   // Outermost first.
   std::vector<std::unique_ptr<WegwerpKnoop>> gemaakt;
   int fout = 0;
@@ -70,6 +75,9 @@ void meldGeenTijdelijk();
 // From here on the signals by which a user or a build ends the program remove all files of this
 // kind first. A signal that is ignored stays so.
 void ruimOpBijSignaal();
+
+// Removes them now, where the program ends without letting go of what it owns.
+void ruimNuOp();
 
 // Keeps these signals waiting while it lives.
 class SignaalPauze {
