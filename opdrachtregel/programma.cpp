@@ -1,12 +1,15 @@
 #include "opdrachtregel/programma.h"
 
+#include <unistd.h>
 #include <wx/init.h>
 #include <CLI/CLI.hpp>
 
 #include <clocale>
+#include <exception>
 #include <iostream>
 #include <memory>
 #include <new>
+#include <string_view>
 #include <vector>
 
 #include "opdrachtregel/decodeerOpdracht.h"
@@ -39,8 +42,35 @@ void kiesTaal() {
   static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8"));
 }
 
+constexpr std::string_view geenGeheugen = "kestrolin-cli: there is not enough memory\n";
+
+// What the toolkit and the library of the options do without memory where they let no exception
+// through.
+[[noreturn]] void eindigZonderGeheugen() {
+  ruimNuOp();
+  static_cast<void>(!write(STDERR_FILENO, geenGeheugen.data(), geenGeheugen.size()));
+  _exit(mislukt);
+}
+
+// The toolkit, as long as this lives.
+class Toolkit {
+ public:
+  Toolkit() { wxInitialize(); }
+  ~Toolkit() {
+    try {
+      wxUninitialize();
+    } catch (std::bad_alloc const&) {
+      // All is done; the end of the process takes the rest.
+    }
+  }
+  Toolkit(Toolkit const&) = delete;
+  Toolkit& operator=(Toolkit const&) = delete;
+  Toolkit(Toolkit&&) = delete;
+  Toolkit& operator=(Toolkit&&) = delete;
+};
+
 Uitslag voerOpdrachtUit(Opdracht& opdracht) {
-  wxInitializer const toolkit;
+  Toolkit const toolkit;
   kiesTaal();
   MeldingLog const log;
   ruimOpBijSignaal();
@@ -81,6 +111,7 @@ int voerRegelUit(int aantal, char const* const* woorden) {
 }  // namespace
 
 int voerProgrammaUit(int aantal, char const* const* woorden) {
+  std::set_terminate(eindigZonderGeheugen);
   try {
     return voerRegelUit(aantal, woorden);
   } catch (std::bad_alloc const&) {
