@@ -11,6 +11,9 @@ from typing import NamedTuple
 
 ROOT = Path(__file__).resolve().parents[3]
 RECORDINGS = ROOT / "fragmenten"
+STRICT = "-Wall -Wextra -Wpedantic -Wmissing-declarations -Wshadow -Wconversion -Werror"
+HEAD = "cmake_minimum_required(VERSION 3.20)\nproject(Bell {})\nfind_package(Kestrolin 1.1 REQUIRED)\n"
+SETTINGS = "[Gebruikersinstellingen/Speex]\nspeexQuality={}\n"
 # A moment for all texts, so that they can be compared.
 MOMENT = "1000000000"
 
@@ -109,3 +112,22 @@ class Project:
                         or os.access(path, os.X_OK))
                    and "CMakeFiles/3" not in str(path))
         return {path: path.stat().st_mtime_ns for path in results}
+
+
+class Place:
+    """Where a test works, and the build that it tests."""
+
+    def __init__(self, cmake: str, build: str, folder: str) -> None:
+        self.cmake, self.build, self.folder = cmake, Path(build), Path(folder)
+        self.package = self.build / "share" / "cmake" / "Kestrolin"
+
+    def project(self, text: str, *settings: str, name: str = "project") -> Project:
+        made = Project(self.cmake, self.folder / name, self.package, *settings)
+        made.write("CMakeLists.txt", text)
+        return made
+
+
+def configure(project: Project) -> None:
+    done = project.configure()
+    assert done.status == 0, done.said
+    assert "warning" not in done.said.lower(), done.said
