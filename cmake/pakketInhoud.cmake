@@ -1,10 +1,10 @@
-# Run by CPack over what was installed for the package, before it is packed: the programs without what
+# Run by CPack over what was installed for the package, before it is packed: the programs and the module without what
 # only a debugger reads, and the documents and completions in the place and the form that Debian has for
 # them.
-execute_process(
-  COMMAND strip --remove-section=.comment --remove-section=.note
-          "${CPACK_TEMPORARY_DIRECTORY}/usr/bin/Kestrolin"
-          "${CPACK_TEMPORARY_DIRECTORY}/usr/bin/kestrolin-cli" COMMAND_ERROR_IS_FATAL ANY)
+file(GLOB _programmas "${CPACK_TEMPORARY_DIRECTORY}/usr/bin/*"
+     "${CPACK_TEMPORARY_DIRECTORY}/usr/lib/kestrolin/*.so")
+execute_process(COMMAND strip --remove-section=.comment --remove-section=.note ${_programmas}
+                COMMAND_ERROR_IS_FATAL ANY)
 
 # Debian's zsh looks into site-functions below /usr/local alone.
 set(_zsh "${CPACK_TEMPORARY_DIRECTORY}/usr/share/zsh")

@@ -25,7 +25,7 @@ _kestrolin_cli() {
   local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command=${COMP_WORDS[1]}
   COMPREPLY=()
   if ((COMP_CWORD == 1)); then
-    mapfile -t COMPREPLY < <(compgen -W 'encode list decode compare -h --help --version' -- "$word")
+    mapfile -t COMPREPLY < <(compgen -W 'encode list decode play compare -h --help --version' -- "$word")
     return
   fi
   if _kestrolin_cli_value "$before" "$word"; then
@@ -41,6 +41,7 @@ _kestrolin_cli() {
       ;;
     list) options+=' --json' ;;
     decode) options+=' --to --dac -v --verbose' ;;
+    play) options+=' --dac' ;;
     compare)
       options+=' --plot --json'
       files='*.[wW][aA][vV]'

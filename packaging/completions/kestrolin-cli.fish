@@ -1,10 +1,11 @@
 # Completion of kestrolin-cli for fish.
 
 set -l program complete -c kestrolin-cli
-set -l none "not __fish_seen_subcommand_from encode list decode compare"
+set -l none "not __fish_seen_subcommand_from encode list decode play compare"
 set -l encode "__fish_seen_subcommand_from encode"
 set -l list "__fish_seen_subcommand_from list"
 set -l decode "__fish_seen_subcommand_from decode"
+set -l play "__fish_seen_subcommand_from play"
 set -l compare "__fish_seen_subcommand_from compare"
 
 $program -s h -l help -d "Print the options and exit"
@@ -13,6 +14,7 @@ $program -n $none -l version -d "Print the version and exit"
 $program -n $none -a encode -d "Make source text of recordings"
 $program -n $none -a list -d "List the arrays of generated texts"
 $program -n $none -a decode -d "Write what a target plays as WAV files"
+$program -n $none -a play -d "Play what a target plays"
 $program -n $none -a compare -d "Tell what each encoder would cost, and how it sounds"
 
 $program -n $encode -f -k -a "(__fish_complete_suffix .wav)"
@@ -45,6 +47,8 @@ $program -n $list -l json -d "Print JSON, for scripts"
 $program -n $decode -l to -x -a "(__fish_complete_directories)" -d "Where each array becomes a WAV file"
 $program -n $decode -l dac -x -a "8 10 12 16" -d "Width in bits that the arrays were made for"
 $program -n $decode -s v -l verbose -d "Tell what was made"
+
+$program -n $play -l dac -x -a "8 10 12 16" -d "Width in bits that the arrays were made for"
 
 $program -n $compare -f -k -a "(__fish_complete_suffix .wav)"
 $program -n $compare -l plot -r -d "Also draw size against quality"

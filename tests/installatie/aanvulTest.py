@@ -32,6 +32,8 @@ VALUES = {
     "encode one.wav -o ": {"a.wav", "text.c", "folder/"},
     "list ": {"a.wav", "text.c", "folder/"},
     "decode --to ": {"folder/"},
+    "play ": {"a.wav", "text.c", "folder/"},
+    "play --dac ": {"8", "10", "12", "16"},
     "compare ": {"a.wav", "folder/"},
     "compare --plot ": {"a.wav", "text.c", "folder/"},
 }

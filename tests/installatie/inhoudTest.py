@@ -31,6 +31,8 @@ MAN = {"share/man/man1/Kestrolin.1.gz": "Kestrolin - turn WAV fragments",
 AANVULLING = {"share/bash-completion/completions/kestrolin-cli",
               "share/fish/vendor_completions.d/kestrolin-cli.fish"}
 ZSH = "share/zsh/site-functions/_kestrolin-cli"
+# What plays, where it was built with sound.
+MODULE = "lib/kestrolin/geluid.so"
 DEBIAN_ZSH = "share/zsh/vendor-completions/_kestrolin-cli"
 CMAKE = {f"share/cmake/Kestrolin/Kestrolin{deel}.cmake" for deel in ("Config", "ConfigVersion", "Sounds")}
 MATEN = (16, 22, 24, 32, 48, 64, 96, 128, 256, 512)
@@ -72,14 +74,14 @@ def deelbaar() -> set[str]:
     return (van_boom("firmware") | van_boom("docs") | fragmenten) - NIET_VOOR_GEBRUIKERS
 
 
-def keur_namen(prefix: Path, documenten: set[str], zsh: str) -> None:
-    """Everything lies in its place, these documents and zsh's completion among it, and nothing else does."""
-    verwacht = {"bin/Kestrolin", "bin/kestrolin-cli", MENU, METAINFO, *MAN, *AANVULLING, zsh, *CMAKE,
+def keur_namen(prefix: Path, andere: set[str]) -> None:
+    """Everything lies in its place, these other files among it, and nothing else does."""
+    verwacht = {"bin/Kestrolin", "bin/kestrolin-cli", MENU, METAINFO, *MAN, *AANVULLING, *CMAKE,
                 "share/icons/hicolor/scalable/apps/kestrolin.svg"}
     verwacht |= {f"share/icons/hicolor/{m}x{m}/apps/kestrolin.png" for m in MATEN}
     verwacht |= {f"share/locale/{t}/LC_MESSAGES/{d}.mo"
                  for t in TALEN for d in ("Kestrolin", "Velmoradesktop")}
-    verwacht |= {f"share/doc/kestrolin/{naam}" for naam in {"manual"} | documenten}
+    verwacht |= {"share/doc/kestrolin/manual"} | andere
     verwacht |= {f"share/kestrolin/{pad}" for pad in deelbaar()}
     gelijk(verwacht - bestanden(prefix), set(), "what is not installed")
     gelijk(bestanden(prefix) - verwacht, set(), "what is installed too")
@@ -182,8 +184,10 @@ def keur_pakket(pakket: str) -> None:
         gelijk(afwijkingen.read_bytes(), (ROOT / "packaging/debian/lintian-overrides").read_bytes(),
                "what lintian is told")
         afwijkingen.unlink()
-        keur_namen(Path(uitgepakt, "usr"), {"changelog.gz", "changelog.Debian.gz", "copyright"},
-                   DEBIAN_ZSH)
+        eigen = {f"share/doc/kestrolin/{naam}"
+                 for naam in ("changelog.gz", "changelog.Debian.gz", "copyright")}
+        met_geluid = "libsdl2" in zeg("dpkg-deb", "-f", pakket, "Depends")
+        keur_namen(Path(uitgepakt, "usr"), {DEBIAN_ZSH, *eigen} | ({MODULE} if met_geluid else set()))
 
 
 def keur_installatie(cmake: str, bouw: str) -> None:
@@ -193,7 +197,9 @@ def keur_installatie(cmake: str, bouw: str) -> None:
         werk.mkdir()
         # A component: the list of files of a user's own installation is left alone so.
         zeg(cmake, "--install", bouw, "--prefix", prefix, "--component", "Unspecified")
-        keur_namen(prefix, {"CHANGELOG.md", "LICENSE"}, ZSH)
+        eigen = {f"share/doc/kestrolin/{naam}" for naam in ("CHANGELOG.md", "LICENSE")}
+        met_geluid = Path(bouw, MODULE).exists()
+        keur_namen(prefix, {ZSH, *eigen} | ({MODULE} if met_geluid else set()))
         keur_menu(prefix)
         keur_metainfo(prefix)
         keur_handleiding_van_man(prefix)
