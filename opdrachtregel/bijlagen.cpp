@@ -21,8 +21,9 @@ constexpr bool isLetterOfCijfer(char teken) {
          (teken >= '0' && teken <= '9');
 }
 
-// The name of the file in capitals, with a letter in front.
-std::string wachter(std::string const& bestand) {
+// The name of the file in capitals, and what it declares: headers of one name in two folders can be
+// included both.
+std::string wachter(std::string const& bestand, std::string const& inhoud) {
   std::string naam = fs::path(bestand).filename().string();
   std::transform(naam.begin(), naam.end(), naam.begin(), [](char teken) {
     if (!isLetterOfCijfer(teken)) {
@@ -30,7 +31,7 @@ std::string wachter(std::string const& bestand) {
     }
     return teken >= 'a' ? static_cast<char>(teken - 'a' + 'A') : teken;
   });
-  return "KESTROLIN_" + naam;
+  return "KESTROLIN_" + naam + "_" + inhoud;
 }
 
 std::string declaratiesVanC(std::vector<Declaratie> const& arrays) {
@@ -61,7 +62,10 @@ std::string maakNaam(std::string const& pad) {
     if (teken == ' ' || teken == '#') {
       naam += '\\';
     }
-    naam += teken == '$' ? std::string("$$") : std::string(1, teken);
+    naam += teken;
+    if (teken == '$') {
+      naam += '$';
+    }
   }
   return naam;
 }
@@ -74,7 +78,8 @@ std::string grootteNaam(std::string const& array) {
 
 std::string declaratieTekst(std::string const& bestand, Omgeving const& omgeving,
                             std::vector<Declaratie> const& arrays) {
-  std::string const naam = wachter(bestand);
+  std::string const inhoud = isCPP(omgeving) ? omgeving.klasse : arrays.front().naam;
+  std::string const naam = wachter(bestand, inhoud);
   return herkomst + ("#ifndef " + naam) + "\n#define " + naam + "\n\n" +
          (isCPP(omgeving) ? declaratiesVanCPP(omgeving.klasse, arrays) : declaratiesVanC(arrays)) +
          "\n#endif\n";
@@ -107,4 +112,12 @@ std::string afhankelijkheidTekst(std::string const& doel, std::vector<std::strin
     leeg += "\n" + maakNaam(bron) + ":\n";
   }
   return regel + "\n" + leeg;
+}
+
+bool pastInAfhankelijkheden(std::string const& pad) {
+  return pad.find_first_of("\t\n\r\"'\\%&*:;<=>?[]`|") == std::string::npos;
+}
+
+bool pastInInsluiting(std::string const& pad) {
+  return pad.find_first_of("\"\\\n\r") == std::string::npos;
 }

@@ -20,8 +20,9 @@ struct Omgeving {
 // The name of the size of an array, a size_t.
 std::string grootteNaam(std::string const& array);
 
-// A header that declares the arrays and their sizes; `bestand` is its path, from which the include
-// guard is made. A header for C can be included from C++ too.
+// A header that declares the arrays and their sizes; `bestand` is its path, from which, and from
+// the first array or the class, the include guard is made. A header for C can be included from C++
+// too.
 std::string declaratieTekst(std::string const& bestand, Omgeving const& omgeving,
                             std::vector<Declaratie> const& arrays);
 
@@ -30,8 +31,14 @@ std::string declaratieTekst(std::string const& bestand, Omgeving const& omgeving
 std::string bronTekst(std::string const& declaraties, std::string const& tekst,
                       Omgeving const& omgeving, std::vector<Declaratie> const& arrays);
 
+// Whether a path can stand in an #include.
+bool pastInInsluiting(std::string const& pad);
+
 // The path of `doel` as a file in the folder of `bron` includes it.
 std::string insluitPad(std::string const& doel, std::string const& bron);
+
+// Whether make and ninja can both be told of a file of this name: some characters are theirs.
+bool pastInAfhankelijkheden(std::string const& pad);
 
 // The rule that `doel` depends on these files, as make and ninja read it, and an empty rule for
 // each of them, so that one that has gone makes the text again instead of stopping the build.

@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -38,7 +37,7 @@ std::string achterLinks(std::string const& naam) {
 
 }  // namespace
 
-Doel::Doel(std::string const& gegeven) : naam(gegeven), pad(achterLinks(gegeven)) {}
+Doel::Doel(std::string const& gegeven) : naam(gegeven), pad(gegeven) {}
 
 std::unique_ptr<Doel> Doel::open(std::string const& pad, bool aanvullen) {
   std::unique_ptr<Doel> doel(new Doel(pad));
@@ -54,7 +53,7 @@ std::string Doel::geefMap() const {
 }
 
 bool Doel::meldFout(int code) const {
-  meld("cannot write " + naam + ": " + std::strerror(code));
+  meld("cannot write " + naam + ": " + redenEnRaad(code));
   return false;
 }
 
@@ -64,15 +63,21 @@ bool Doel::bereidVoor() {
     soort = Soort::standaardUitvoer;
     return maakNieuw(tijdelijkeMap());
   }
-  fs::file_status const status = fs::status(pad, geen);
+  // By the name that was given: what stands behind a link of /proc, a pipe for instance, has none.
+  fs::file_status const status = fs::status(naam, geen);
+  if (!fs::status_known(status)) {
+    return meldFout(geen.value());
+  }
   if (fs::is_directory(status)) {
     meld("cannot write " + naam + ": it is a folder; give the name of a file in it");
     return false;
   }
   if (fs::exists(status) && !fs::is_regular_file(status)) {
     soort = Soort::toestel;
+    pad = naam;
     return maakNieuw(tijdelijkeMap());
   }
+  pad = achterLinks(naam);
   isEr = fs::exists(status);
   if (isEr && access(pad.c_str(), W_OK) != 0) {
     return meldFout(errno);

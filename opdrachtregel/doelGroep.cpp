@@ -1,10 +1,10 @@
 #include "opdrachtregel/doelGroep.h"
 
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
 #include <deque>
 #include <filesystem>
 #include <system_error>
@@ -14,6 +14,19 @@
 namespace fs = std::filesystem;
 
 namespace {
+
+// Whether the file is another user's, whose link may not be removed from every folder.
+bool isVanAnder(std::string const& pad) {
+  struct stat gegevens {};
+  return stat(pad.c_str(), &gegevens) != 0 || gegevens.st_uid != geteuid();
+}
+
+// False where the file system has no links.
+bool maakLink(std::string const& pad, std::string const& nieuw) {
+  std::error_code fout;
+  fs::create_hard_link(pad, nieuw, fout);
+  return !fout;
+}
 
 // What is at a place before a new file comes there. It comes back at the end, also of an exception,
 // where the new file came and is not to stay.
@@ -54,9 +67,7 @@ Terugweg::Terugweg(Doel const& doel) : pad(doel.geefPad()) {
   static_cast<void>(oud->sluit());
   std::error_code code;
   fs::remove(oud->geefPad(), code);
-  fs::create_hard_link(pad, oud->geefPad(), code);
-  if (code) {
-    // Not every file system has links.
+  if (isVanAnder(pad) || !maakLink(pad, oud->geefPad())) {
     fs::copy_file(pad, oud->geefPad(), code);
   }
   fout = code.value();
@@ -113,7 +124,7 @@ bool DoelGroep::plaatsAlle() {
     }
     Terugweg& weg = wegen.emplace_back(*doel);
     if (weg.geefFout() != 0) {
-      meld("cannot replace " + doel->geefNaam() + ": " + std::strerror(weg.geefFout()));
+      meld("cannot replace " + doel->geefNaam() + ": " + redenEnRaad(weg.geefFout()));
       return false;
     }
     if (!doel->plaats()) {

@@ -35,13 +35,22 @@ void meldBezwaar(Opname const& opname, std::string const& reden) {
 }
 
 // Why a recording cannot give its name to an array, empty where it can.
-std::string bezwaar(EncodeerVraag const& vraag, Opname const& opname, std::string const& naam) {
+std::string bezwaar(EncodeerVraag const& vraag, Opname const& opname, std::string const& naam,
+                    bool metHeader) {
   if (!pastInCommentaar(opname.bestand.GetFullName().utf8_string())) {
     return "its name cannot stand in a comment; rename the file";
   }
   if (!isBruikbareNaam(naam, vraag.instellingen.speexOutputLanguage)) {
     return "its array would be called \"" + naam + "\", which is no name in " + taalNaam(vraag) +
            "; rename the file";
+  }
+  if (metHeader && !isBruikbareNaam(naam, UitvoerTaalCPP)) {
+    return "its array would be called \"" + naam +
+           "\", which is no name in C++, where the header can be included too; rename the file";
+  }
+  if (metHeader && isCPP(vraag) && grootteNaam(naam) == vraag.klasse) {
+    return "the size of its array would be called \"" + vraag.klasse +
+           "\", as its class is; rename the file or the class";
   }
   if (isCPP(vraag) && naam == vraag.klasse) {
     return "its array would be called \"" + naam +
@@ -66,12 +75,12 @@ bool keurFrequenties(std::vector<Opname> const& opnamen) {
   return aantalGemeld() == voor;
 }
 
-bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, bool metGroottes) {
+bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, bool metHeader) {
   int const voor = aantalGemeld();
   std::map<std::string, std::string> vergeven;
   for (Opname const& een : opnamen) {
     std::string const naam = een.bestand.GetName().utf8_string();
-    std::string const reden = bezwaar(vraag, een, naam);
+    std::string const reden = bezwaar(vraag, een, naam, metHeader);
     if (!reden.empty()) {
       meldBezwaar(een, reden);
       continue;
@@ -82,7 +91,7 @@ bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, b
                            "; rename one of them");
     }
   }
-  if (metGroottes) {
+  if (metHeader) {
     for (auto const& [naam, bestand] : vergeven) {
       auto const ander = vergeven.find(grootteNaam(naam));
       if (ander != vergeven.end()) {

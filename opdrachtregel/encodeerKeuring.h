@@ -12,8 +12,9 @@
 bool keurFrequenties(std::vector<Opname> const& opnamen);
 
 // The names of the arrays, which are those of the files, are names of the output language, and
-// differ. With `metGroottes` the names of their sizes differ from them as well.
-bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, bool metGroottes);
+// differ. With `metHeader` a header declares them, for C++ too: then they are names there as well,
+// and those of their sizes differ from them all.
+bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, bool metHeader);
 
 // The generated text at `pad`, to which theirs is appended, has no array of such a name yet.
 bool keurAanvulling(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,

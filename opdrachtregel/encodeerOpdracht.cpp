@@ -110,6 +110,7 @@ Uitslag EncodeerOpdracht::voerUit() {
   std::optional<std::vector<Opname>> opnamen = leesOpnamen(opties.wavs);
   if (!opnamen || !keurFrequenties(*opnamen) ||
       !keurNamen(*vraag, *opnamen, !opties.declaraties.empty()) || !keurDoelen(*opnamen) ||
+      !keurVermeldingen() ||
       (opties.aanvullen && !keurAanvulling(*vraag, *opnamen, opties.uitvoer)) ||
       !neemMomentOver()) {
     return mislukt;
@@ -150,7 +151,7 @@ Uitslag EncodeerOpdracht::keurGebruik(EncodeerVraag const& vraag) const {
                        "--language");
   }
   if (rij.vraagtKlasse && vraag.klasse.empty()) {
-    return meldGebruik(*app, "--language c++ needs the name of a class", "--class");
+    return meldGebruik(*app, "a text in C++ needs the name of a class", "--class");
   }
   if (rij.vraagtKlasse && !isBruikbareNaam(vraag.klasse, UitvoerTaalCPP)) {
     return meldGebruik(*app, "\"" + vraag.klasse + "\" is no name of a class in C++", "--class");
@@ -197,6 +198,38 @@ bool EncodeerOpdracht::keurDoelen(std::vector<Opname> const& opnamen) const {
   return aantalGemeld() == voor;
 }
 
+// The names that stand in the files that go with the text.
+bool EncodeerOpdracht::keurVermeldingen() const {
+  int const voor = aantalGemeld();
+  if (!opties.bron.empty()) {
+    for (std::string const& pad : {opties.uitvoer, opties.declaraties}) {
+      if (!pastInInsluiting(insluitPad(pad, opties.bron))) {
+        meld(pad + ": its name cannot stand in an #include; give it another one");
+      }
+    }
+  }
+  if (!opties.afhankelijkheden.empty()) {
+    std::vector<std::string> const namen = afhankelijkheden();
+    for (std::string const& pad : namen) {
+      if (!pastInAfhankelijkheden(pad)) {
+        meld(pad + ": make and ninja cannot read its name in " + opties.afhankelijkheden +
+             "; rename it, or leave out --depfile");
+      }
+    }
+  }
+  return aantalGemeld() == voor;
+}
+
+// The text, and what it is made of.
+std::vector<std::string> EncodeerOpdracht::afhankelijkheden() const {
+  std::vector<std::string> namen{opties.uitvoer};
+  namen.insert(namen.end(), opties.wavs.begin(), opties.wavs.end());
+  if (!opties.instellingen.empty()) {
+    namen.push_back(opties.instellingen);
+  }
+  return namen;
+}
+
 bool EncodeerOpdracht::schrijfAlles(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
                                     DoelGroep& doelen) const {
   Doel* const doel = doelen.voegToe(opties.uitvoer, opties.aanvullen);
@@ -225,9 +258,7 @@ bool EncodeerOpdracht::schrijfBijlagen(EncodeerVraag const& vraag,
   if (opties.afhankelijkheden.empty()) {
     return true;
   }
-  std::vector<std::string> bronnen = opties.wavs;
-  if (!opties.instellingen.empty()) {
-    bronnen.push_back(opties.instellingen);
-  }
-  return schrijf(doelen, opties.afhankelijkheden, afhankelijkheidTekst(opties.uitvoer, bronnen));
+  std::vector<std::string> const namen = afhankelijkheden();
+  return schrijf(doelen, opties.afhankelijkheden,
+                 afhankelijkheidTekst(namen.front(), {namen.begin() + 1, namen.end()}));
 }

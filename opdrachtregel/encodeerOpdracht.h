@@ -20,6 +20,8 @@ class EncodeerOpdracht : public Opdracht {
  private:
   Uitslag keurGebruik(EncodeerVraag const& vraag) const;
   bool keurDoelen(std::vector<Opname> const& opnamen) const;
+  bool keurVermeldingen() const;
+  std::vector<std::string> afhankelijkheden() const;
   bool schrijfAlles(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
                     DoelGroep& doelen) const;
   bool schrijfBijlagen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,

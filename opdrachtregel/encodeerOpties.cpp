@@ -5,7 +5,6 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 #include "audio/uitvoer/dacBreedte.h"
@@ -15,6 +14,7 @@
 #include "numeriek/configGetal.h"
 #include "opdrachtregel/bestandBytes.h"
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/waarden.h"
 
 namespace {
 
@@ -48,10 +48,11 @@ void voegTekstOptiesToe(CLI::App& app, EncodeerOpties& opties) {
   app.add_option("--dac", opties.dacBits,
                  "Width of the DAC in bits, to which samples are scaled (default: 16)")
       ->type_name("8|10|12|16")
+      ->check(decimaal())
       ->check(CLI::IsMember(std::vector<int>(dacBreedten.begin(), dacBreedten.end())))
       ->group(groepTekst);
   app.add_flag("--header,!--no-header", opties.metHeader,
-               "Begin each array with its header, or not (default: begin with it)")
+               "Begin each array with its header (default: on)")
       ->group(groepTekst);
 }
 
@@ -60,10 +61,12 @@ void voegSpeexOptiesToe(CLI::App& app, EncodeerOpties& opties) {
   app.add_option("--quality", opties.kwaliteit,
                  "Quality of the sound, from small to good (default: 8)")
       ->type_name("0..10")
+      ->check(decimaal())
       ->check(niveaus)
       ->group(groepSpeex);
   app.add_option("--complexity", opties.complexiteit, "Effort of the encoder (default: 3)")
       ->type_name("0..10")
+      ->check(decimaal())
       ->check(niveaus)
       ->group(groepSpeex);
   app.add_option("--bitrate", opties.bitrate, "Kind of bit rate (default: fixed)")
@@ -71,40 +74,49 @@ void voegSpeexOptiesToe(CLI::App& app, EncodeerOpties& opties) {
       ->check(CLI::IsMember(bitrates))
       ->group(groepSpeex);
   app.add_option("--max-bitrate", opties.maxBitrate,
-                 "Largest or average bit rate, where it is not fixed (default: 5000)")
+                 "Largest bit rate, where it is variable (default: 5000)")
+      ->check(decimaal())
       ->check(CLI::Range(0, std::numeric_limits<int>::max()))
       ->type_name("N")
       ->group(groepSpeex);
-  app.add_flag("--vad,!--no-vad", opties.vad, "Detect voice activity, or not (default: do)")
+  app.add_flag("--vad,!--no-vad", opties.vad, "Detect voice activity (default: on)")
       ->group(groepSpeex);
-  app.add_flag("--denoise,!--no-denoise", opties.denoise, "Reduce noise, or not (default: do)")
+  app.add_flag("--denoise,!--no-denoise", opties.denoise,
+               "Noise reduction: stands in the text, changes no sound (default: on)")
       ->group(groepSpeex);
-  app.add_flag("--agc,!--no-agc", opties.agc, "Control the gain, or not (default: do)")
+  app.add_flag("--agc,!--no-agc", opties.agc,
+               "Gain control: stands in the text, changes no sound (default: on)")
       ->group(groepSpeex);
 }
 
 void voegBestandOptiesToe(CLI::App& app, EncodeerOpties& opties) {
   app.add_option("-o,--output", opties.uitvoer, "The text; - is standard output")
+      ->check(bestandsNaam())
       ->type_name("FILE")
       ->required()
       ->group(groepBestanden);
-  app.add_flag("--append", opties.aanvullen, "Append the text to FILE instead of replacing it")
+  app.add_flag("--append", opties.aanvullen,
+               "Append the text to FILE, which must not have these arrays yet")
       ->group(groepBestanden);
   app.add_option("--declarations", opties.declaraties,
                  "Also write a header to include: the arrays and their sizes")
+      ->check(bestandsNaam())
       ->type_name("FILE.h")
       ->group(groepBestanden);
   app.add_option("--source", opties.bron,
                  "Also write the source to compile, which takes in the text and defines the sizes; "
                  "needs --declarations")
+      ->check(bestandsNaam())
       ->type_name("FILE.c")
       ->group(groepBestanden);
   app.add_option("--depfile", opties.afhankelijkheden,
                  "Also write what the text depends on, for make and ninja")
+      ->check(bestandsNaam())
       ->type_name("FILE.d")
       ->group(groepBestanden);
   app.add_option("--settings", opties.instellingen,
                  "Take defaults from a settings file of the window, as ~/.Kestrolin")
+      ->check(bestandsNaam())
       ->type_name("FILE")
       ->group(groepBestanden);
   app.add_flag("-v,--verbose", opties.uitgebreid, "Tell what was made")->group(groepBestanden);
@@ -115,16 +127,14 @@ bool leesInstellingenVan(std::string const& pad, EncodeerVraag& vraag) {
   std::string inhoud;
   int const fout = leesBestand(pad, inhoud);
   if (fout != 0) {
-    meld("cannot read the settings in " + pad + ": " + std::strerror(fout));
+    meld("cannot read the settings in " + pad + ": " + redenEnRaad(fout));
     return false;
   }
   wxMemoryInputStream bestand(inhoud.data(), inhoud.size());
-  // A user's file may have lines of any kind. The toolkit talks of some, asserts on others, and
-  // reads on, as it does for the window.
+  // A user's file may have lines of any kind. The toolkit talks of some, and reads on, as it does
+  // for the window.
   wxLogNull const stil;
-  wxAssertHandler_t const vorige = wxSetAssertHandler(nullptr);
   wxFileConfig config(bestand, wxConvAuto());
-  wxSetAssertHandler(vorige);
   config.SetExpandEnvVars(false);
   if (!config.HasGroup(instellingenPad)) {
     meld(pad + " holds no settings of Kestrolin; the window writes them to ~/.Kestrolin");

@@ -3,8 +3,10 @@
 #include <wx/arrstr.h>
 #include <wx/stream.h>
 
+#include <algorithm>
 #include <memory>
 #include <optional>
+#include <string>
 
 #include "audio/uitvoer/speexMaker.h"
 #include "opdrachtregel/melding.h"
@@ -13,7 +15,7 @@
 
 namespace {
 
-std::unique_ptr<FragmentMaker> maakMaker(Uitvoerwijze wijze, WegwerpBestand const& beeld) {
+std::unique_ptr<FragmentMaker> maakMaker(Uitvoerwijze wijze, wxString const& beeld) {
   switch (wijze) {
     case Uitvoerwijze::speex:
       return std::make_unique<SpeexMaker>();
@@ -22,33 +24,47 @@ std::unique_ptr<FragmentMaker> maakMaker(Uitvoerwijze wijze, WegwerpBestand cons
     case Uitvoerwijze::pcm:
       return std::make_unique<PCMMaker>();
     default:
-      return std::make_unique<WAVMaker>(wxString::FromUTF8(beeld.geefPad()));
+      return std::make_unique<WAVMaker>(beeld);
   }
+}
+
+// The path of the recording at which the run gave up, empty where it did not.
+std::string voerUit(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
+                    FragmentMaker& maker, wxOutputStream& uit) {
+  wxSortedArrayString paden;
+  for (Opname const& een : opnamen) {
+    paden.Add(een.bestand.GetFullPath());
+  }
+  wxString const klasse = wxString::FromUTF8(vraag.klasse);
+  Voortgang voortgang(opnamen.size());
+  constexpr std::size_t bufferBytes = 65536;
+  wxBufferedOutputStream buffer(uit, bufferBytes);
+  auto const blijftUit = voerRunUit({paden, vraag.instellingen, klasse}, maker, buffer, voortgang);
+  buffer.Close();
+  return blijftUit ? blijftUit->utf8_string() : std::string();
 }
 
 }  // namespace
 
 bool schrijfTekst(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
                   wxOutputStream& uit) {
-  WegwerpBestand const beeld(tijdelijkeMap());
-  if (!beeld.isOpen()) {
+  std::optional<WegwerpBestand> beeld;
+  if (vraag.wijze == Uitvoerwijze::wav && !beeld.emplace(tijdelijkeMap()).isOpen()) {
     meldGeenTijdelijk();
     return false;
   }
-  int const voor = aantalGemeld();
-  wxSortedArrayString paden;
-  for (Opname const& een : opnamen) {
-    paden.Add(een.bestand.GetFullPath());
+  std::unique_ptr<FragmentMaker> const maker =
+      maakMaker(vraag.wijze, beeld ? wxString::FromUTF8(beeld->geefPad()) : wxString());
+  MeldingVanger vanger;
+  std::string const blijftUit = voerUit(vraag, opnamen, *maker, uit);
+  if (std::count_if(opnamen.begin(), opnamen.end(), isOngewijzigd) !=
+      static_cast<std::ptrdiff_t>(opnamen.size())) {
+    // What else there is to tell comes of that.
+    return false;
   }
-  wxString const klasse = wxString::FromUTF8(vraag.klasse);
-  std::unique_ptr<FragmentMaker> const maker = maakMaker(vraag.wijze, beeld);
-  Voortgang voortgang(opnamen.size());
-  constexpr std::size_t bufferBytes = 65536;
-  wxBufferedOutputStream buffer(uit, bufferBytes);
-  auto const blijftUit = voerRunUit({paden, vraag.instellingen, klasse}, *maker, buffer, voortgang);
-  buffer.Close();
-  if (blijftUit && aantalGemeld() == voor) {
-    meld(blijftUit->utf8_string() + ": could not be encoded");
+  std::for_each(vanger.geefRegels().begin(), vanger.geefRegels().end(), meld);
+  if (!blijftUit.empty() && vanger.geefRegels().empty()) {
+    meld(blijftUit + ": could not be encoded; see that it is whole");
   }
-  return aantalGemeld() == voor;
+  return blijftUit.empty() && vanger.geefRegels().empty();
 }

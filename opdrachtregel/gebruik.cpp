@@ -27,6 +27,16 @@ std::string optieIn(CLI::App const& app, std::string const& bericht) {
   return gevonden == opties.end() ? std::string() : (*gevonden)->get_name();
 }
 
+// The message of the parser, without what it says of how values are written: the help follows.
+std::string bericht(CLI::ParseError const& fout, std::string const& optie) {
+  std::string const tekst = fout.what();
+  if (fout.get_name() != "ArgumentMismatch" || optie.empty()) {
+    return tekst;
+  }
+  return optie + (tekst.find("received") != std::string::npos ? " is given more than once"
+                                                              : " needs a value");
+}
+
 }  // namespace
 
 Uitslag meldGebruik(CLI::App const& app, std::string const& bericht, std::string const& optie) {
@@ -43,5 +53,6 @@ int meldParseFout(CLI::App const& programma, CLI::ParseError const& fout) {
     return programma.exit(fout);
   }
   CLI::App const& app = gevraagd(programma);
-  return meldGebruik(app, fout.what(), optieIn(app, fout.what()));
+  std::string const optie = optieIn(app, fout.what());
+  return meldGebruik(app, bericht(fout, optie), optie);
 }

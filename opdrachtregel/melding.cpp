@@ -1,6 +1,8 @@
 #include "opdrachtregel/melding.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cstring>
 #include <iostream>
 
 namespace {
@@ -10,11 +12,31 @@ int gemeld = 0;
 }  // namespace
 
 void meld(std::string const& regel) {
-  std::string kaal = regel;
   // One message is one line, whatever a file is called.
-  std::replace(kaal.begin(), kaal.end(), '\n', ' ');
-  std::cerr << "kestrolin-cli: " << kaal << std::endl;
+  std::cerr << "kestrolin-cli: " << opEenRegel(regel) << std::endl;
   ++gemeld;
+}
+
+std::string redenEnRaad(int code) {
+  std::string const reden = std::strerror(code);
+  switch (code) {
+    case ENOENT:
+    case ENOTDIR:
+    case EISDIR:
+    case ENAMETOOLONG:
+    case ELOOP:
+      return reden + "; check the path";
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return reden + "; change its permissions, or give another place";
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return reden + "; make room, or give another place";
+    default:
+      return reden + "; see to that, and run it again";
+  }
 }
 
 int aantalGemeld() {
@@ -30,8 +52,16 @@ MeldingLog::~MeldingLog() {
 void MeldingLog::DoLogRecord(wxLogLevel niveau, wxString const& tekst,
                              wxLogRecordInfo const& /*gegevens*/) {
   if (niveau <= wxLOG_Error) {
-    meld(tekst.utf8_string());
+    neem(tekst.utf8_string());
   }
+}
+
+void MeldingLog::neem(std::string const& regel) {
+  meld(regel);
+}
+
+void MeldingVanger::neem(std::string const& regel) {
+  regels.push_back(regel);
 }
 
 std::string opEenRegel(std::string naam) {

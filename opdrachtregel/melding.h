@@ -4,9 +4,13 @@
 #include <wx/log.h>
 
 #include <string>
+#include <vector>
 
 // A line in UTF-8, behind the name of the program.
 void meld(std::string const& regel);
+
+// What a call that failed with this errno says, and what to do about that.
+std::string redenEnRaad(int code);
 
 // The errors that were told so far.
 int aantalGemeld();
@@ -26,8 +30,23 @@ class MeldingLog : public wxLog {
   void DoLogRecord(wxLogLevel niveau, wxString const& tekst,
                    wxLogRecordInfo const& gegevens) override;
 
+  // An error, as one text.
+  virtual void neem(std::string const& regel);
+
  private:
   wxLog* vorige;
+};
+
+// Keeps these lines instead.
+class MeldingVanger : public MeldingLog {
+ public:
+  std::vector<std::string> const& geefRegels() const { return regels; }
+
+ protected:
+  void neem(std::string const& regel) override;
+
+ private:
+  std::vector<std::string> regels;
 };
 
 // A name as it stands in a line of its own: a file may have any.

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstring>
+#include <system_error>
 
 #include "audio/codec/sndBestand.h"
 #include "audio/uitvoer/wavKeuring.h"
@@ -18,6 +18,11 @@ wxFileName volledig(std::string const& pad) {
   wxFileName bestand(wxString::FromUTF8(pad));
   bestand.Normalize(wxPATH_NORM_DOTS | wxPATH_NORM_ABSOLUTE);
   return bestand;
+}
+
+BestandStaat leesStaat(std::string const& pad) {
+  std::error_code fout;
+  return {std::filesystem::file_size(pad, fout), std::filesystem::last_write_time(pad, fout)};
 }
 
 // What libsndfile calls one part of a format.
@@ -43,7 +48,7 @@ std::string bezwaar(Opname const& opname) {
     return "this is a folder; give the WAV files in it";
   }
   if (access(opname.bestand.GetFullPath().utf8_str(), R_OK) != 0) {
-    return std::string("cannot be read: ") + std::strerror(errno);
+    return "cannot be read: " + redenEnRaad(errno);
   }
   if (opname.info.samplerate == 0) {
     return std::string("is no WAV file") + remedie;
@@ -66,7 +71,7 @@ std::optional<std::vector<Opname>> leesOpnamen(std::vector<std::string> const& p
   std::vector<Opname> opnamen;
   int const voor = aantalGemeld();
   for (std::string const& pad : paden) {
-    Opname opname{pad, volledig(pad), {}};
+    Opname opname{pad, volledig(pad), {}, leesStaat(pad)};
     SndBestand const wav = SndBestand::lees(opname.bestand);
     opname.info = wav.info();
     std::string const reden = bezwaar(opname);
@@ -81,4 +86,13 @@ std::optional<std::vector<Opname>> leesOpnamen(std::vector<std::string> const& p
     return std::nullopt;
   }
   return opnamen;
+}
+
+bool isOngewijzigd(Opname const& opname) {
+  BestandStaat const nu = leesStaat(opname.gegeven);
+  bool const isGelijk = nu.bytes == opname.staat.bytes && nu.moment == opname.staat.moment;
+  if (!isGelijk) {
+    meldBezwaar(opname.gegeven, "changed while it was read; run this again when it is complete");
+  }
+  return isGelijk;
 }

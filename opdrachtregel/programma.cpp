@@ -1,15 +1,19 @@
 #include "opdrachtregel/programma.h"
 
+#include <fcntl.h>
 #include <unistd.h>
 #include <wx/init.h>
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <clocale>
 #include <exception>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <new>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "opdrachtregel/decodeerOpdracht.h"
@@ -71,6 +75,8 @@ class Toolkit {
 
 Uitslag voerOpdrachtUit(Opdracht& opdracht) {
   Toolkit const toolkit;
+  // The toolkit asserts on names and settings of certain kinds, and goes on correctly behind that.
+  wxSetAssertHandler(nullptr);
   kiesTaal();
   MeldingLog const log;
   ruimOpBijSignaal();
@@ -87,6 +93,46 @@ int sluitUitvoer(int uitslag) {
   return uitslag;
 }
 
+// A process can be started without its three channels. The first file that it opens would take the
+// place of one, and get what goes there.
+void bezetKanalen() {
+  for (int const kanaal : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    if (fcntl(kanaal, F_GETFD) < 0) {
+      // Nothing can be written to the second one, as it should be.
+      static_cast<void>(open("/dev/null", kanaal == STDERR_FILENO ? O_WRONLY : O_RDONLY));
+    }
+  }
+}
+
+// The words behind the name of the program, in the reverse order that the library wants. It takes
+// brackets around a word for a list of its own.
+std::vector<std::string> zonderLijsten(int aantal, char const* const* woorden) {
+  std::vector<std::string> uit;
+  std::transform(
+      std::make_reverse_iterator(woorden + aantal), std::make_reverse_iterator(woorden + 1),
+      std::back_inserter(uit), [](std::string const& woord) {
+        bool const isLijst = !woord.empty() && woord.front() == '[' && woord.back() == ']';
+        return isLijst ? "./" + woord : woord;
+      });
+  return uit;
+}
+
+// Whether the first word is a command, or an option of the program. What is none was told.
+bool isOpdracht(CLI::App const& programma, std::vector<std::string> const& omgekeerd) {
+  if (omgekeerd.empty()) {
+    meldGebruik(programma, "a command is missing");
+    return false;
+  }
+  std::string const& eerste = omgekeerd.back();
+  auto const opdrachten = programma.get_subcommands(
+      [&eerste](CLI::App const* een) { return een->get_name() == eerste; });
+  bool const isEen = !opdrachten.empty() || (!eerste.empty() && eerste.front() == '-');
+  if (!isEen) {
+    meldGebruik(programma, "there is no command \"" + eerste + "\"");
+  }
+  return isEen;
+}
+
 int voerRegelUit(int aantal, char const* const* woorden) {
   CLI::App programma("Turns short WAV fragments into source arrays for firmware.", "kestrolin-cli");
   programma.formatter(std::make_shared<Opmaak>());
@@ -95,8 +141,12 @@ int voerRegelUit(int aantal, char const* const* woorden) {
                              "Print the version and exit");
   programma.require_subcommand(1);
   std::vector<std::unique_ptr<Opdracht>> const opdrachten = maakOpdrachten(programma);
+  std::vector<std::string> regel = zonderLijsten(aantal, woorden);
+  if (!isOpdracht(programma, regel)) {
+    return verkeerdGebruik;
+  }
   try {
-    programma.parse(aantal, woorden);
+    programma.parse(std::move(regel));
   } catch (CLI::ParseError const& fout) {
     return sluitUitvoer(meldParseFout(programma, fout));
   }
@@ -112,6 +162,7 @@ int voerRegelUit(int aantal, char const* const* woorden) {
 
 int voerProgrammaUit(int aantal, char const* const* woorden) {
   std::set_terminate(eindigZonderGeheugen);
+  bezetKanalen();
   try {
     return voerRegelUit(aantal, woorden);
   } catch (std::bad_alloc const&) {

@@ -1,10 +1,9 @@
 #include "opdrachtregel/voortgang.h"
 
 #include <unistd.h>
+#include <wx/log.h>
 
 #include <iostream>
-
-#include "opdrachtregel/melding.h"
 
 namespace {
 
@@ -23,7 +22,8 @@ Voortgang::~Voortgang() {
 }
 
 void Voortgang::meldNietHeel(wxString const& wav) {
-  meld(wav.utf8_string() + ": not all of it could be read, or copied to the temporary folder");
+  wxLogError("%s: not all of it could be read, or copied to the temporary folder; make room there",
+             wav);
 }
 
 void Voortgang::meldGedaan(std::size_t nummer) {

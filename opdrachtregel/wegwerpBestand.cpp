@@ -19,8 +19,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Interrupt, end, a terminal that closes, a reader of standard output that has gone.
-constexpr std::array<int, 4> eindSignalen{SIGINT, SIGTERM, SIGHUP, SIGPIPE};
+// Interrupt, end, a terminal that closes, quit, a reader of standard output that has gone.
+constexpr std::array<int, 5> eindSignalen{SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE};
 
 // The list that a signal walks. It changes only while these signals wait.
 WegwerpKnoop* eerste = nullptr;

@@ -22,15 +22,16 @@ constexpr std::array<std::string_view, 51> gedeeldeWoorden{
 constexpr std::array<std::string_view, 2> woordenVanC{"restrict", "typeof_unqual"};
 
 // C++20.
-constexpr std::array<std::string_view, 48> woordenVanCPP{
-    "and",       "and_eq",       "bitand",     "bitor",     "catch",     "char16_t",
-    "char32_t",  "char8_t",      "class",      "co_await",  "co_return", "co_yield",
-    "compl",     "concept",      "const_cast", "consteval", "constinit", "decltype",
-    "delete",    "dynamic_cast", "explicit",   "export",    "friend",    "mutable",
-    "namespace", "new",          "noexcept",   "not",       "not_eq",    "operator",
-    "or",        "or_eq",        "private",    "protected", "public",    "reinterpret_cast",
-    "requires",  "static_cast",  "template",   "this",      "throw",     "try",
-    "typeid",    "typename",     "using",      "virtual",   "xor",       "xor_eq"};
+constexpr std::array<std::string_view, 49> woordenVanCPP{
+    "and",       "and_eq",       "bitand",      "bitor",     "catch",     "char16_t",
+    "char32_t",  "char8_t",      "class",       "co_await",  "co_return", "co_yield",
+    "compl",     "concept",      "const_cast",  "consteval", "constinit", "decltype",
+    "delete",    "dynamic_cast", "explicit",    "export",    "friend",    "mutable",
+    "namespace", "new",          "noexcept",    "not",       "not_eq",    "operator",
+    "or",        "or_eq",        "private",     "protected", "public",    "reinterpret_cast",
+    "std",       "requires",     "static_cast", "template",  "this",      "throw",
+    "try",       "typeid",       "typename",    "using",     "virtual",   "xor",
+    "xor_eq"};
 
 template <typename Woorden>
 bool heeft(Woorden const& woorden, std::string_view naam) {

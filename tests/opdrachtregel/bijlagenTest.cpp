@@ -36,8 +36,8 @@ TEST_F(Bijlagen, HeaderAndSourceInC) {
   EXPECT_EQ(afloop.uit + afloop.fouten, "");
   EXPECT_EQ(tekst("geluid.h"),
             "/* Made by kestrolin-cli; changes are lost. */\n"
-            "#ifndef KESTROLIN_GELUID_H\n"
-            "#define KESTROLIN_GELUID_H\n"
+            "#ifndef KESTROLIN_GELUID_H_alarm\n"
+            "#define KESTROLIN_GELUID_H_alarm\n"
             "\n"
             "#include <stddef.h>\n"
             "\n"
@@ -74,8 +74,8 @@ TEST_F(Bijlagen, HeaderAndSourceInCPlusPlus) {
   EXPECT_EQ(afloop.status, 0);
   EXPECT_EQ(tekst("geluid.h"),
             "/* Made by kestrolin-cli; changes are lost. */\n"
-            "#ifndef KESTROLIN_GELUID_H\n"
-            "#define KESTROLIN_GELUID_H\n"
+            "#ifndef KESTROLIN_GELUID_H_Geluiden\n"
+            "#define KESTROLIN_GELUID_H_Geluiden\n"
             "\n"
             "#include <cstddef>\n"
             "\n"
@@ -180,6 +180,31 @@ TEST_F(Bijlagen, TheDepfileNamesTheTextAndWhatItIsMadeOf) {
             "instellingen:\n");
 }
 
+// A target cannot be told of a name that make or ninja read as something else: the text would be
+// made always, or never again.
+TEST_F(Bijlagen, NamesThatMakeOrNinjaCannotReadAreTurnedAway) {
+  std::filesystem::create_directory(map.pad("arch=arm"));
+  maakWav(map.pad("arch=arm/bel.wav"), {1});
+  Afloop const afloop = voer({"encode", "arch=arm/bel.wav", "-o", "t", "--depfile", "t.d"});
+  EXPECT_EQ(afloop.status, 1);
+  EXPECT_EQ(afloop.fouten,
+            "kestrolin-cli: arch=arm/bel.wav: make and ninja cannot read its name in t.d; rename "
+            "it, or leave out --depfile\n");
+  EXPECT_EQ(voer({"encode", "bel.wav", "-o", "a:b", "--depfile", "t.d"}).status, 1);
+  for (char const teken : std::string("\t\n\"'\\%&*:;<=>?[]`|")) {
+    EXPECT_FALSE(pastInAfhankelijkheden(std::string("a") + teken)) << teken;
+  }
+  EXPECT_TRUE(pastInAfhankelijkheden("/Größe (2)/a-b_c.d+e,f@g~h{i}!j^k $ #"));
+}
+
+TEST_F(Bijlagen, NamesThatNoIncludeTakesAreTurnedAway) {
+  Afloop const afloop =
+      voer({"encode", "bel.wav", "-o", "a\"b", "--declarations", "t.h", "--source", "t.c"});
+  EXPECT_EQ(afloop.status, 1);
+  EXPECT_EQ(afloop.fouten,
+            "kestrolin-cli: a\"b: its name cannot stand in an #include; give it another one\n");
+}
+
 // Make reads back what it is told, and asks for the file by its own name.
 TEST_F(Bijlagen, MakeReadsTheNamesBack) {
   std::string const vreemd = "een $naam #1/bel.wav";
@@ -198,8 +223,8 @@ TEST_F(Bijlagen, MakeReadsTheNamesBack) {
 
 TEST_F(Bijlagen, NamesOfGuardsAreThoseOfTheFilesInCapitals) {
   Omgeving const doel{UitvoerTaalC, ""};
-  EXPECT_NE(declaratieTekst("a/b.c/1 geluid-größe.h", doel, {})
-                .find("#ifndef KESTROLIN_1_GELUID_GR____E_H\n"),
+  EXPECT_NE(declaratieTekst("a/b.c/1 geluid-größe.h", doel, {{"bel", "", ""}})
+                .find("#ifndef KESTROLIN_1_GELUID_GR____E_H_bel\n"),
             std::string::npos);
 }
 

@@ -128,9 +128,11 @@ TEST_F(DecodeerFouten, LeavesNothingOnAFullDisk) {
   constexpr rlim_t bytes = 8192;
   VolleSchijf const vol(bytes);
   verwachtFout({"lang.c", "--to", "uit"},
-               "kestrolin-cli: cannot write uit/lang.wav: File too large\n");
+               "kestrolin-cli: cannot write uit/lang.wav: File too large; make room, or give "
+               "another place\n");
   verwachtFout({"lang.c", "--to", "nieuw/uit"},
-               "kestrolin-cli: cannot write nieuw/uit/lang.wav: File too large\n");
+               "kestrolin-cli: cannot write nieuw/uit/lang.wav: File too large; make room, or give "
+               "another place\n");
 }
 
 TEST_F(DecodeerFouten, WritesMoreFilesThanAProcessMayHaveOpen) {

@@ -2,7 +2,10 @@
 // remedy, status 1, and no file touched.
 #include <filesystem>
 
+#include "opdrachtregel/melding.h"
+#include "opdrachtregel/opname.h"
 #include "tests/opdrachtregel/programmaProef.h"
+#include "tests/steun/opdracht.h"
 #include "tests/steun/wavMaker.h"
 
 namespace {
@@ -15,6 +18,18 @@ class EncodeerFouten : public ProgrammaProef {
   EncodeerFouten() {
     maakWav(map.pad("goed.wav"), {1, 2, 3});
     maakBestand(map.pad("t"), oud);
+  }
+
+  // The exit status of the program in a line of shell, and its messages where they are.
+  std::string inSchil(std::string const& regel) const {
+    voerUit("cd '" + map.pad() + "' && bash -c \"set -o pipefail; '" KESTROLIN_CLI "' " + regel +
+            "\" 2>.fouten; echo $? >.status");
+    std::string status = tekst(".status");
+    status.back() = ' ';
+    std::string const fouten = tekst(".fouten");
+    std::filesystem::remove(map.pad(".status"));
+    std::filesystem::remove(map.pad(".fouten"));
+    return status + fouten;
   }
 
   // Encodes, over a text of before; expects these lines and nothing else.
@@ -37,7 +52,7 @@ TEST_F(EncodeerFouten, FilesThatAreNoRecordingsAreToldEach) {
   schrijfWav(map.pad("snel.wav"), {1, 2}, {44100});
   std::filesystem::create_directory(map.pad("map.wav"));
   eis({"goed.wav", "weg.wav", "tekst.wav", "acht.wav", "snel.wav", "map.wav", ""},
-      "kestrolin-cli: weg.wav: cannot be read: No such file or directory\n"
+      "kestrolin-cli: weg.wav: cannot be read: No such file or directory; check the path\n"
       "kestrolin-cli: tekst.wav: is no WAV file" +
           std::string(sox) +
           "kestrolin-cli: acht.wav: is WAV (Microsoft), Unsigned 8 bit PCM, 8000 Hz, not a WAV "
@@ -139,7 +154,7 @@ TEST_F(EncodeerFouten, AnArrayCalledAsTheSizeOfAnother) {
 TEST_F(EncodeerFouten, NamesThatCannotStandInAComment) {
   maakWav(map.pad("regel.wa\nv"), {1});
   eis({"regel.wa\nv"},
-      "kestrolin-cli: regel.wa v: its name cannot stand in a comment; rename the file\n");
+      "kestrolin-cli: regel.wa?v: its name cannot stand in a comment; rename the file\n");
 }
 
 TEST_F(EncodeerFouten, PlacesThatCannotBeWritten) {
@@ -150,9 +165,10 @@ TEST_F(EncodeerFouten, PlacesThatCannotBeWritten) {
   };
   for (Rij const rij :
        {Rij{"map", "it is a folder; give the name of a file in it"},
-        Rij{"weg/t.h", "No such file or directory"}, Rij{"goed.wav/t", "Not a directory"},
+        Rij{"weg/t.h", "No such file or directory; check the path"},
+        Rij{"goed.wav/t", "Not a directory; check the path"},
         Rij{"./goed.wav", "it is one of the files to read; give another name"},
-        Rij{"/dev/full", "No space left on device"}}) {
+        Rij{"/dev/full", "No space left on device; make room, or give another place"}}) {
     for (char const* const optie : {"--declarations", "--depfile"}) {
       eis({"goed.wav", optie, rij.doel},
           std::string("kestrolin-cli: cannot write ") + rij.doel + ": " + rij.reden + "\n");
@@ -167,14 +183,16 @@ TEST_F(EncodeerFouten, APlaceThatIsProtected) {
   maakBestand(map.pad("vast.h"), oud);
   std::filesystem::permissions(map.pad("vast.h"), std::filesystem::perms::owner_read);
   eis({"goed.wav", "--declarations", "vast.h"},
-      "kestrolin-cli: cannot write vast.h: Permission denied\n");
+      "kestrolin-cli: cannot write vast.h: Permission denied; change its permissions, or give "
+      "another place\n");
 }
 
 TEST_F(EncodeerFouten, SettingsThatCannotBeRead) {
   eis({"goed.wav", "--settings", "weg"},
-      "kestrolin-cli: cannot read the settings in weg: No such file or directory\n");
+      "kestrolin-cli: cannot read the settings in weg: No such file or directory; check the "
+      "path\n");
   eis({"goed.wav", "--settings", "."},
-      "kestrolin-cli: cannot read the settings in .: Is a directory\n");
+      "kestrolin-cli: cannot read the settings in .: Is a directory; check the path\n");
   maakBestand(map.pad("ander"), "hello\n=\n[x\n");
   eis({"goed.wav", "--settings", "ander"},
       "kestrolin-cli: ander holds no settings of Kestrolin; the window writes them to "
@@ -207,10 +225,75 @@ TEST_F(EncodeerFouten, NoTemporaryFolder) {
   EXPECT_EQ(afloop.fouten, regel);
 }
 
-TEST_F(EncodeerFouten, StandardOutputThatTakesNothing) {
+TEST_F(EncodeerFouten, DevicesThatTakeNothing) {
+  constexpr char const* vol = ": No space left on device; make room, or give another place\n";
   Afloop const afloop = voer({"encode", "goed.wav", "-o", "/dev/full"});
   EXPECT_EQ(afloop.status, 1);
-  EXPECT_EQ(afloop.fouten, "kestrolin-cli: cannot write /dev/full: No space left on device\n");
+  EXPECT_EQ(afloop.fouten, std::string("kestrolin-cli: cannot write /dev/full") + vol);
+  // The same as standard output, and one that is closed.
+  EXPECT_EQ(inSchil("encode goed.wav -o - >/dev/full"),
+            std::string("1 kestrolin-cli: cannot write -") + vol);
+  EXPECT_EQ(
+      inSchil("encode goed.wav -o - >&-"),
+      "1 kestrolin-cli: cannot write -: Bad file descriptor; see to that, and run it again\n");
+  EXPECT_EQ(inSchil("--help >&-"), "1 kestrolin-cli: cannot write standard output\n");
+  // Nothing gets into a file that takes the place of a closed channel.
+  EXPECT_EQ(inSchil("encode goed.wav weg.wav -o uit <&- >&- 2>&-"), "1 ");
+  EXPECT_EQ(inSchil("encode goed.wav -o uit <&- >&- 2>&-"), "0 ");
+  EXPECT_EQ(tekst("uit").rfind("/* PCM encoding output of 1 audio files", 0), 0U);
+}
+
+TEST_F(EncodeerFouten, NamesOfPipesAreTheirDevices) {
+  ASSERT_EQ(inSchil("encode goed.wav -o /dev/stdout | cat >uit"), "0 ");
+  EXPECT_EQ(tekst("uit").rfind("/* PCM encoding output of 1 audio files", 0), 0U);
+}
+
+// A recording that is replaced while the text is made would give an array that is half the one and
+// half the other, or one that its header does not declare.
+TEST_F(EncodeerFouten, ARecordingThatChangesMeanwhile) {
+  auto const opnamen = leesOpnamen({map.pad("goed.wav")});
+  ASSERT_TRUE(opnamen);
+  EXPECT_TRUE(isOngewijzigd(opnamen->front()));
+  maakWav(map.pad("goed.wav"), {1, 2, 3, 4});
+  int const voor = aantalGemeld();
+  testing::internal::CaptureStderr();
+  EXPECT_FALSE(isOngewijzigd(opnamen->front()));
+  EXPECT_EQ(testing::internal::GetCapturedStderr(),
+            "kestrolin-cli: " + map.pad("goed.wav") +
+                ": changed while it was read; run this again when it is complete\n");
+  EXPECT_EQ(aantalGemeld(), voor + 1);
+  std::filesystem::remove(map.pad("goed.wav"));
+  testing::internal::CaptureStderr();
+  EXPECT_FALSE(isOngewijzigd(opnamen->front()));
+  testing::internal::GetCapturedStderr();
+}
+
+TEST_F(EncodeerFouten, NamesThatTheHeaderCannotHave) {
+  for (char const* const naam : {"delete.wav", "bel.wav"}) {
+    maakWav(map.pad(naam), {1});
+  }
+  eis({"delete.wav", "--declarations", "t.h"},
+      "kestrolin-cli: delete.wav: its array would be called \"delete\", which is no name in C++, "
+      "where the header can be included too; rename the file\n");
+  eis({"bel.wav", "--language", "c++", "--class", "bel_size", "--declarations", "t.h"},
+      "kestrolin-cli: bel.wav: the size of its array would be called \"bel_size\", as its class "
+      "is; "
+      "rename the file or the class\n");
+  EXPECT_EQ(voer({"encode", "delete.wav", "-o", "-"}).status, 0);
+}
+
+TEST_F(EncodeerFouten, LinksThatLeadNowhere) {
+  std::filesystem::create_symlink("b", map.pad("a"));
+  std::filesystem::create_symlink("a", map.pad("b"));
+  eis({"goed.wav", "--depfile", "a"},
+      "kestrolin-cli: cannot write a: Too many levels of symbolic links; check the path\n");
+}
+
+TEST_F(EncodeerFouten, OnlyAnEmbeddedFileAndADeviceNeedTheTemporaryFolder) {
+  omgeving["TMPDIR"] = map.pad("weg");
+  for (char const* const encoder : {"pcm", "adpcm", "speex"}) {
+    EXPECT_EQ(voer({"encode", "goed.wav", "-o", "uit", "--encoder", encoder}).status, 0);
+  }
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ constexpr char const* klasseHulp =
     "  --class NAME            Class of which the arrays are members; c++ needs it\n";
 
 TEST_F(Gebruik, CPlusPlusNeedsAClass) {
-  eis({"--language", "c++"}, "--language c++ needs the name of a class", klasseHulp);
+  eis({"--language", "c++"}, "a text in C++ needs the name of a class", klasseHulp);
   eis({"--language", "c++", "--class", "a::b"}, "\"a::b\" is no name of a class in C++",
       klasseHulp);
   eis({"--language", "c++", "--class", "*/"}, "\"*/\" is no name of a class in C++", klasseHulp);
@@ -39,7 +39,8 @@ TEST_F(Gebruik, OutputsThatDoNotGoTogether) {
       "                          sizes\n");
   eis({"--append", "--declarations", "t.h"},
       "a header declares the arrays of one run, and not what was there before",
-      "  --append                Append the text to FILE instead of replacing it\n");
+      "  --append                Append the text to FILE, which must not have these\n"
+      "                          arrays yet\n");
   for (char const* const optie : {"--declarations", "--depfile"}) {
     Afloop const afloop = voer({"encode", "goed.wav", "-o", "-", optie, "x"});
     EXPECT_EQ(afloop.status, 2);
@@ -62,12 +63,20 @@ TEST_F(Gebruik, ValuesOutOfRangeAreAnsweredWithTheLineOfHelp) {
         Rij{"--language", "C", "  --language c|c++        Language of the text (default: c)\n"},
         Rij{"--dac", "9", "  --dac 8|10|12|16        Width of the DAC in bits"},
         Rij{"--dac", "x", "  --dac 8|10|12|16        Width of the DAC in bits"},
+        Rij{"--dac", "010", "  --dac 8|10|12|16        Width of the DAC in bits"},
+        Rij{"--dac", "0x10", "  --dac 8|10|12|16        Width of the DAC in bits"},
+        Rij{"--quality", " 3", "  --quality 0..10         Quality of the sound"},
+        Rij{"--declarations", "", "  --declarations FILE.h   Also write a header"},
+        Rij{"--declarations", "-v", "  --declarations FILE.h   Also write a header"},
+        Rij{"--source", "", "  --source FILE.c         Also write the source"},
+        Rij{"--depfile", "", "  --depfile FILE.d        Also write what the text"},
+        Rij{"--settings", "", "  --settings FILE         Take defaults"},
         Rij{"--quality", "11", "  --quality 0..10         Quality of the sound"},
         Rij{"--quality", "-1", "  --quality 0..10         Quality of the sound"},
         Rij{"--complexity", "11", "  --complexity 0..10      Effort of the encoder"},
         Rij{"--bitrate", "abr", "  --bitrate fixed|variable|average\n"},
-        Rij{"--max-bitrate", "2147483648", "  --max-bitrate N         Largest or average"},
-        Rij{"--max-bitrate", "-1", "  --max-bitrate N         Largest or average"}}) {
+        Rij{"--max-bitrate", "2147483648", "  --max-bitrate N         Largest bit rate"},
+        Rij{"--max-bitrate", "-1", "  --max-bitrate N         Largest bit rate"}}) {
     Afloop const afloop = voer({"encode", "goed.wav", "-o", "t", rij.optie, rij.waarde});
     EXPECT_EQ(afloop.status, 2) << rij.optie;
     EXPECT_EQ(afloop.fouten.rfind("kestrolin-cli: ", 0), 0U);
@@ -88,8 +97,23 @@ TEST_F(Gebruik, WhatIsMissingOrUnknown) {
     EXPECT_EQ(afloop.uit, "");
     EXPECT_NE(afloop.fouten.find(verder), std::string::npos) << afloop.fouten;
   }
+  EXPECT_EQ(voer({"encode", "goed.wav", "-o", "--append"}).status, 2);
+  EXPECT_EQ(voer({"encode", "goed.wav", "-o", "a", "-o", "b"}).fouten,
+            std::string("kestrolin-cli: --output is given more than once\n"
+                        "  -o, --output FILE       The text; - is standard output\n") +
+                verder);
+  EXPECT_EQ(voer({"encode", "goed.wav", "-o"}).fouten,
+            std::string("kestrolin-cli: --output needs a value\n"
+                        "  -o, --output FILE       The text; - is standard output\n") +
+                verder);
+  constexpr char const* alles =
+      "Usage: kestrolin-cli COMMAND [OPTION...] FILE...\n"
+      "Try 'kestrolin-cli --help' for all of it.\n";
+  EXPECT_EQ(voer({}).fouten, std::string("kestrolin-cli: a command is missing\n") + alles);
+  EXPECT_EQ(voer({"bogus"}).fouten,
+            std::string("kestrolin-cli: there is no command \"bogus\"\n") + alles);
   for (std::vector<std::string> const& woorden :
-       {std::vector<std::string>{}, {"bogus"}, {"--bogus"}}) {
+       {std::vector<std::string>{}, {"bogus"}, {"--bogus"}, {""}}) {
     Afloop const afloop = voer(woorden);
     EXPECT_EQ(afloop.status, 2);
     EXPECT_EQ(afloop.uit, "");
@@ -113,6 +137,14 @@ TEST_F(Gebruik, VersionAndHelpAreAnswers) {
     EXPECT_EQ(hulp.uit.back(), '\n');
     EXPECT_EQ(hulp.fouten, "");
   }
+}
+
+// Brackets are no list of files.
+TEST_F(Gebruik, AFileMayHaveBracketsAroundItsName) {
+  maakWav(map.pad("[goed.wav]"), {1});
+  EXPECT_EQ(voer({"encode", "[goed.wav]", "-o", "t"}).fouten,
+            "kestrolin-cli: ./[goed.wav]: its array would be called \"[goed\", which is no name in "
+            "C; rename the file\n");
 }
 
 TEST_F(Gebruik, VerboseTellsWhatWasMade) {

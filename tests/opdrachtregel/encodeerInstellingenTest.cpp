@@ -124,8 +124,7 @@ TEST_F(Instellingen, ASettingsFileWithoutAClassAsksForOne) {
   maakBestand(map.pad("i"), "[Gebruikersinstellingen/Speex]\nspeexQuality=8\n");
   Afloop const afloop = voer({"encode", "smal.wav", "-o", "-", "--settings", "i"});
   EXPECT_EQ(afloop.status, 2) << "the window's language is C++";
-  EXPECT_EQ(afloop.fouten.rfind("kestrolin-cli: --language c++ needs the name of a class\n", 0),
-            0U);
+  EXPECT_EQ(afloop.fouten.rfind("kestrolin-cli: a text in C++ needs the name of a class\n", 0), 0U);
 }
 
 TEST_F(Instellingen, ASettingsFileWithALanguageWithoutArraysAsksForAnother) {

@@ -107,7 +107,7 @@ def lost(project: Project, tool: Tool) -> None:
     gone.rename(project.folder / "away")
     done = project.build()
     assert done.status != 0, "the build went well without a recording"
-    assert f"kestrolin-cli: {gone}: cannot be read: No such file or directory\n" in done.said, done.said
+    assert f"kestrolin-cli: {gone}: cannot be read: No such file or directory; check the path\n" in done.said, done.said
     equal(text.read_bytes(), before, "the text without its recording")
     (project.folder / "away").rename(gone)
     os.utime(gone)
