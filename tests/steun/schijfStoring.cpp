@@ -1,6 +1,5 @@
 #include "tests/steun/schijfStoring.h"
 
-#include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -13,6 +12,8 @@
 #include <cstdio>
 #include <cstring>
 #include <thread>
+
+#include "tests/steun/schijfKern.h"
 
 // Each under the name by which a library may ask for it.
 extern "C" {
@@ -29,17 +30,15 @@ FILE* vangStroom(char const* pad, char const* modus) asm("fopen");
 FILE* vangStroom64(char const* pad, char const* modus) asm("fopen64");
 }
 
+using schijf::bestandVan;
+using schijf::echte;
+using schijf::faalt;
+using schijf::onthoud;
+using schijf::Open;
+using schijf::Pad;
+using schijf::telt;
+
 namespace {
-
-constexpr std::size_t padBytes = 512;
-using Pad = std::array<char, padBytes>;
-
-// An open file below the directory.
-struct Open {
-  bool telt = false;
-  off_t lengte = 0;  // when it was opened, or came to the disk
-  Pad pad{};
-};
 
 // No part of this allocates: the calls come from everywhere, also from where memory is short.
 struct Toestand {
@@ -61,12 +60,14 @@ void neemOver(Pad& doel, char const* pad) {
   std::strncpy(doel.data(), pad, doel.size() - 1);
 }
 
-bool telt(char const* pad) {
+}  // namespace
+
+bool schijf::telt(char const* pad) {
   return toestand.leeft && std::this_thread::get_id() == toestand.draad &&
          std::strncmp(pad, toestand.map.data(), std::strlen(toestand.map.data())) == 0;
 }
 
-Open* bestandVan(int fd) {
+schijf::Open* schijf::bestandVan(int fd) {
   if (!toestand.leeft || fd < 0 || static_cast<std::size_t>(fd) >= toestand.bestanden.size()) {
     return nullptr;
   }
@@ -74,8 +75,7 @@ Open* bestandVan(int fd) {
   return een.telt && std::this_thread::get_id() == toestand.draad ? &een : nullptr;
 }
 
-// True where this call is the one that fails.
-bool faalt(SchijfOproep oproep, char const* pad) {
+bool schijf::faalt(SchijfOproep oproep, char const* pad) {
   if (oproep != toestand.fout.oproep || ++toestand.teller != toestand.nummer) {
     return false;
   }
@@ -86,7 +86,7 @@ bool faalt(SchijfOproep oproep, char const* pad) {
   return true;
 }
 
-int onthoud(int fd, char const* pad) {
+int schijf::onthoud(int fd, char const* pad) {
   if (fd >= 0 && static_cast<std::size_t>(fd) < toestand.bestanden.size()) {
     Open& een = toestand.bestanden.at(static_cast<std::size_t>(fd));
     een.telt = true;
@@ -97,10 +97,7 @@ int onthoud(int fd, char const* pad) {
   return fd;
 }
 
-template <typename Functie>
-Functie echte(char const* naam) {
-  return reinterpret_cast<Functie>(dlsym(RTLD_NEXT, naam));
-}
+namespace {
 
 using OpenFunctie = int (*)(char const*, int, ...);
 
@@ -185,8 +182,11 @@ int vangSluit(int fd) {
 // What has come to the disk is no longer lost at the close.
 int vangBewaar(int fd) {
   static auto const echt = echte<int (*)(int)>("fsync");
-  int const uitslag = echt(fd);
   Open* const bestand = bestandVan(fd);
+  if (bestand != nullptr && faalt(SchijfOproep::bewaar, bestand->pad.data())) {
+    return -1;
+  }
+  int const uitslag = echt(fd);
   struct stat gegevens {};
   if (bestand != nullptr && uitslag == 0 && fstat(fd, &gegevens) == 0) {
     bestand->lengte = gegevens.st_size;

@@ -1,14 +1,28 @@
 // Files that fail on purpose: the calls of the C library by which the whole program, its shared
-// libraries included, opens, reads, writes, closes, renames and makes files.
+// libraries included, opens, reads, writes, closes, renames, links and makes files and folders.
 //
 // A program that links with schijfStoring.cpp exports its symbols (ENABLE_EXPORTS), so that the
 // libraries find these calls before those of the C library. Streams of the C library (fopen) come
-// down to the same calls while a storing lives.
+// down to the same calls while a storing lives. The calls from maakMap to zetRechten, and zoek,
+// fail where the program links with schijfPlaatsen.cpp too.
 #pragma once
 
 #include <string>
 
-enum class SchijfOproep { open, lees, schrijf, sluit, hernoem, maakTijdelijk };
+enum class SchijfOproep {
+  open,
+  lees,
+  schrijf,
+  sluit,
+  hernoem,
+  maakTijdelijk,
+  maakMap,
+  koppel,      // a hard link
+  verdubbel,   // dup
+  zetRechten,  // fchmod
+  bewaar,      // fsync
+  zoek         // lseek
+};
 
 struct SchijfFout {
   SchijfOproep oproep;
