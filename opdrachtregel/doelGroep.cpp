@@ -89,7 +89,9 @@ Doel* DoelGroep::voegToe(std::string const& pad, bool aanvullen) {
     return nullptr;
   }
   std::error_code fout;
-  if (!plaatsen.insert(fs::weakly_canonical(doel->geefPad(), fout)).second) {
+  fs::path const plaats =
+      fs::canonical(doel->geefMap(), fout) / fs::path(doel->geefPad()).filename();
+  if (!plaatsen.insert(plaats).second) {
     meld("cannot write " + pad + " twice: give each output a file of its own");
     return nullptr;
   }
