@@ -51,11 +51,7 @@ class Speel : public ProgrammaProef {
     constexpr int ruim = 1 << 20;
     fcntl(pijp, F_SETPIPE_SZ, ruim);
   }
-  ~Speel() override { close(pijp); }
-  Speel(Speel const&) = delete;
-  Speel& operator=(Speel const&) = delete;
-  Speel(Speel&&) = delete;
-  Speel& operator=(Speel&&) = delete;
+  void TearDown() override { close(pijp); }
 
   void codeer(std::vector<std::string> const& woorden) const {
     std::vector<std::string> alle{"encode", "-o", "t"};
