@@ -161,5 +161,7 @@ std::string json(std::vector<Vergelijking> const& vergelijkingen) {
                        {"fits_low_byte", vergelijking.pastInByte},
                        {"encodings", std::move(encoderingen)}});
   }
-  return Json{{"recordings", std::move(opnamen)}}.dump(2) + "\n";
+  Json alles;
+  alles["recordings"] = std::move(opnamen);
+  return alles.dump(2) + "\n";
 }
