@@ -6,6 +6,7 @@
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
+#include <array>
 #include <clocale>
 #include <exception>
 #include <iostream>
@@ -46,13 +47,16 @@ void kiesTaal() {
   static_cast<void>(std::setlocale(LC_CTYPE, "C.UTF-8"));
 }
 
-constexpr std::string_view geenGeheugen = "kestrolin-cli: there is not enough memory\n";
+constexpr std::array<std::string_view, 3> geenGeheugen{
+    "kestrolin-cli: ", "there is not enough memory", "\n"};
 
 // What the toolkit and the library of the options do without memory where they let no exception
 // through.
 [[noreturn]] void eindigZonderGeheugen() {
   ruimNuOp();
-  static_cast<void>(!write(STDERR_FILENO, geenGeheugen.data(), geenGeheugen.size()));
+  for (std::string_view const deel : geenGeheugen) {
+    static_cast<void>(!write(STDERR_FILENO, deel.data(), deel.size()));
+  }
   _exit(mislukt);
 }
 
@@ -167,7 +171,7 @@ int voerProgrammaUit(int aantal, char const* const* woorden) {
     return voerRegelUit(aantal, woorden);
   } catch (std::bad_alloc const&) {
     // On the way here all that was begun has been taken away.
-    meld("there is not enough memory");
+    meld(std::string(geenGeheugen[1]));
     return mislukt;
   }
 }

@@ -75,15 +75,20 @@ Uitslag VergelijkOpdracht::voerUit() {
   if (!vergelijkingen) {
     return mislukt;
   }
-  if (doel != nullptr) {
-    std::string const tekening = tekenPlaat(*vergelijkingen);
-    doel->Write(tekening.data(), tekening.size());
+  std::string const figuren = alsJson ? json(*vergelijkingen) : tabellen(*vergelijkingen);
+  if (doel == nullptr) {
+    std::cout << figuren;
+    return gelukt;
   }
-  if (!doelen.legVast()) {
+  std::string const tekening = tekenPlaat(*vergelijkingen);
+  doel->Write(tekening.data(), tekening.size());
+  // The picture stays as it is where the figures cannot be written.
+  Doel* const uit = doelen.voegToe(Doel::standaardUitvoer);
+  if (uit == nullptr) {
     return mislukt;
   }
-  std::cout << (alsJson ? json(*vergelijkingen) : tabellen(*vergelijkingen));
-  return gelukt;
+  uit->Write(figuren.data(), figuren.size());
+  return doelen.legVast() ? gelukt : mislukt;
 }
 
 // A recording is not written, by whatever path it is reached.

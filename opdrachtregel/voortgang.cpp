@@ -22,8 +22,10 @@ Voortgang::~Voortgang() {
 }
 
 void Voortgang::meldNietHeel(wxString const& wav) {
-  wxLogError("%s: not all of it could be read, or copied to the temporary folder; make room there",
-             wav);
+  wxLogError("%s",
+             wav +
+                 ": not all of it could be read, or copied to the temporary folder; make room "
+                 "there");
 }
 
 void Voortgang::meldGedaan(std::size_t nummer) {

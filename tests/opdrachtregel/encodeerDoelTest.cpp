@@ -70,7 +70,7 @@ TEST_F(EncodeerDoel, ALinkToNothingGetsItsFile) {
   EXPECT_EQ(tekst("map/nieuw.c"), nieuw);
   fs::create_symlink("weg/nieuw.c", map.pad("uit.h"));
   faalt({"-o", "uit.c", "--declarations", "uit.h"},
-        "cannot write uit.h: No such file or directory");
+        "cannot write uit.h: No such file or directory; check the path");
 }
 
 TEST_F(EncodeerDoel, LinksThatLeadRoundAreNoPlace) {
@@ -78,8 +78,9 @@ TEST_F(EncodeerDoel, LinksThatLeadRoundAreNoPlace) {
   fs::create_symlink("een.c", map.pad("twee.c"));
   Afloop const afloop = voer({"encode", "bel.wav", "-o", "een.c"});
   EXPECT_EQ(afloop.status, 1);
-  EXPECT_EQ(afloop.fouten,
-            "kestrolin-cli: cannot write een.c: Too many levels of symbolic links\n");
+  EXPECT_EQ(
+      afloop.fouten,
+      "kestrolin-cli: cannot write een.c: Too many levels of symbolic links; check the path\n");
   EXPECT_EQ(fs::read_symlink(map.pad("een.c")), "twee.c");
   EXPECT_EQ(fs::read_symlink(map.pad("twee.c")), "een.c");
 }
@@ -147,20 +148,24 @@ TEST_F(EncodeerDoel, TwoOutputsAreTwoFilesByWhateverPath) {
 TEST_F(EncodeerDoel, PlacesOfTheTextThatCannotBe) {
   faalt({"-o", "map"}, "cannot write map: it is a folder; give the name of a file in it");
   faalt({"-o", "map/"}, "cannot write map/: it is a folder; give the name of a file in it");
-  faalt({"-o", "weg/uit.c"}, "cannot write weg/uit.c: No such file or directory");
-  faalt({"-o", "weg/"}, "cannot write weg/: No such file or directory");
-  faalt({"-o", "bel.wav/uit.c"}, "cannot write bel.wav/uit.c: Not a directory");
+  faalt({"-o", "weg/uit.c"}, "cannot write weg/uit.c: No such file or directory; check the path");
+  faalt({"-o", "weg/"}, "cannot write weg/: No such file or directory; check the path");
+  faalt({"-o", "bel.wav/uit.c"}, "cannot write bel.wav/uit.c: Not a directory; check the path");
   faalt({"-o", std::string(300, 'n')},
-        "cannot write " + std::string(300, 'n') + ": File name too long");
+        "cannot write " + std::string(300, 'n') + ": File name too long; check the path");
 }
 
 TEST_F(EncodeerDoel, AFolderThatIsProtected) {
   zonderVoorrecht = true;
   maakBestand(map.pad("map/uit.c"), oud);
   fs::permissions(map.pad("map"), fs::perms::owner_read | fs::perms::owner_exec);
-  faalt({"-o", "map/nieuw.c"}, "cannot write map/nieuw.c: Permission denied");
-  faalt({"-o", "map/uit.c"}, "cannot write map/uit.c: Permission denied");
-  faalt({"-o", "uit.c", "--depfile", "map/uit.c"}, "cannot write map/uit.c: Permission denied");
+  faalt(
+      {"-o", "map/nieuw.c"},
+      "cannot write map/nieuw.c: Permission denied; change its permissions, or give another place");
+  faalt({"-o", "map/uit.c"},
+        "cannot write map/uit.c: Permission denied; change its permissions, or give another place");
+  faalt({"-o", "uit.c", "--depfile", "map/uit.c"},
+        "cannot write map/uit.c: Permission denied; change its permissions, or give another place");
   EXPECT_EQ(tekst("map/uit.c"), oud);
   fs::permissions(map.pad("map"), fs::perms::owner_all);
 }

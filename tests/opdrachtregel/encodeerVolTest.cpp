@@ -93,8 +93,8 @@ class VolleSchijfProef : public ProgrammaProef {
     std::istringstream stroom(fouten);
     for (std::string regel; std::getline(stroom, regel);) {
       EXPECT_TRUE(std::any_of(oude.begin(), oude.end(), [&regel](auto const& een) {
-        return regel ==
-               "kestrolin-cli: cannot write vol/" + een.first + ": No space left on device";
+        return regel == "kestrolin-cli: cannot write vol/" + een.first +
+                            ": No space left on device; make room, or give another place";
       })) << regel;
       regels.insert(regel);
     }
@@ -120,8 +120,8 @@ TEST_F(VolleSchijfProef, ALimitOfTheSizeOfFilesIsTold) {
                                         map.pad(),
                                         {"TMPDIR=" + map.pad("tmp")}});
     EXPECT_EQ(einde.status, 1) << einde.signaal;
-    EXPECT_EQ(einde.fout,
-              std::string("kestrolin-cli: cannot write ") + doel + ": File too large\n");
+    EXPECT_EQ(einde.fout, std::string("kestrolin-cli: cannot write ") + doel +
+                              ": File too large; make room, or give another place\n");
     EXPECT_EQ(einde.uit, "");
   }
   EXPECT_EQ(tekst("uit.c"), "old text\n");

@@ -193,11 +193,13 @@ TEST_F(Vergelijk, RejectsFilesWithALineEachAndWritesNothing) {
   EXPECT_EQ(afloop.status, 1);
   EXPECT_EQ(afloop.uit, "");
   std::string const sox = "; convert it first, as in: sox IN.wav -r 16000 -b 16 -c 1 OUT.wav\n";
-  EXPECT_EQ(afloop.fouten,
-            "kestrolin-cli: snel.wav: is WAV (Microsoft), Signed 16 bit PCM, 44100 Hz, not a WAV "
-            "file with 16-bit PCM or IMA ADPCM samples at 8000, 16000 or 32000 Hz" +
-                sox + "kestrolin-cli: weg.wav: cannot be read: No such file or directory; check the path\n" +
-                "kestrolin-cli: p.svg: is no WAV file" + sox);
+  EXPECT_EQ(
+      afloop.fouten,
+      "kestrolin-cli: snel.wav: is WAV (Microsoft), Signed 16 bit PCM, 44100 Hz, not a WAV "
+      "file with 16-bit PCM or IMA ADPCM samples at 8000, 16000 or 32000 Hz" +
+          sox +
+          "kestrolin-cli: weg.wav: cannot be read: No such file or directory; check the path\n" +
+          "kestrolin-cli: p.svg: is no WAV file" + sox);
   EXPECT_EQ(inhoud(), voor);
   EXPECT_EQ(tekst("p.svg"), "what was there before");
 }
@@ -220,11 +222,26 @@ TEST_F(Vergelijk, TellsWhereThePictureCannotBeWritten) {
   Afloop const vol = voer({"compare", "ready.wav", "--plot", "/dev/full"});
   EXPECT_EQ(vol.status, 1);
   EXPECT_EQ(vol.uit, "");
-  EXPECT_EQ(vol.fouten, "kestrolin-cli: cannot write /dev/full: No space left on device; make room, or give another place\n");
+  EXPECT_EQ(vol.fouten,
+            "kestrolin-cli: cannot write /dev/full: No space left on device; make room, or give "
+            "another place\n");
   Afloop const zonderMap = voer({"compare", "ready.wav", "--plot", "weg/p.svg"});
   EXPECT_EQ(zonderMap.status, 1);
   EXPECT_EQ(zonderMap.uit, "");
-  EXPECT_EQ(zonderMap.fouten, "kestrolin-cli: cannot write weg/p.svg: No such file or directory; check the path\n");
+  EXPECT_EQ(zonderMap.fouten,
+            "kestrolin-cli: cannot write weg/p.svg: No such file or directory; check the path\n");
+}
+
+TEST_F(Vergelijk, KeepsThePictureWhereTheFiguresCannotBeWritten) {
+  haal("ready.wav");
+  maakBestand(map.pad("p.svg"), "old");
+  EXPECT_NE(voerUit("cd '" + map.pad() +
+                    "' && '" KESTROLIN_CLI "' compare ready.wav --plot p.svg >/dev/full 2>fouten"),
+            0);
+  EXPECT_EQ(tekst("p.svg"), "old");
+  EXPECT_EQ(tekst("fouten"),
+            "kestrolin-cli: cannot write -: No space left on device; make room, or give another "
+            "place\n");
 }
 
 TEST_F(Vergelijk, TellsWhereThereIsNoPlaceForTemporaryFiles) {
