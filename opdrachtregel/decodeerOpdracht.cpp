@@ -7,13 +7,13 @@
 #include <filesystem>
 #include <iostream>
 #include <optional>
-#include <system_error>
 
 #include "audio/weergave/tekstGeluid.h"
 #include "audio/weergave/wavSchrijver.h"
 #include "opdrachtregel/doelGroep.h"
 #include "opdrachtregel/melding.h"
 #include "opdrachtregel/tekstInvoer.h"
+#include "opdrachtregel/voortgang.h"
 
 namespace fs = std::filesystem;
 
@@ -67,9 +67,12 @@ bool DecodeerOpdracht::decodeerTekst(std::string const& bestand,
     return false;
   }
   TekstDecoder decoder(dacBits == 0 ? std::nullopt : std::optional(dacBits));
+  Voortgang voortgang(arrays.size(), "arrays");
   return std::all_of(arrays.begin(), arrays.end(), [&](TekstArray const& array) {
     std::optional<DoelGeluid> const geluid = decodeer(decoder, array);
-    return geluid && schrijf(array, *geluid, doelen);
+    bool const isGelukt = geluid && schrijf(array, *geluid, doelen);
+    voortgang.meldGedaan(static_cast<std::size_t>(&array - arrays.data()) + 1);
+    return isGelukt;
   });
 }
 
@@ -81,16 +84,7 @@ bool DecodeerOpdracht::keurNaam(std::string const& bestand, TekstArray const& ar
          " too: decode the two into folders of their own");
     return false;
   }
-  std::string const pad = doelPad(array);
-  bool const isInvoer =
-      std::any_of(bestanden.begin(), bestanden.end(), [&](std::string const& een) {
-        std::error_code geenVanBeide;
-        return fs::equivalent(een, pad, geenVanBeide);
-      });
-  if (isInvoer) {
-    meld("cannot write " + pad + ": it is one of the files to read; give another folder");
-  }
-  return !isInvoer;
+  return isGeenInvoer(doelPad(array), bestanden, "another folder");
 }
 
 bool DecodeerOpdracht::schrijf(TekstArray const& array, DoelGeluid const& geluid,

@@ -83,6 +83,18 @@ Terugweg::~Terugweg() {
 
 }  // namespace
 
+bool isGeenInvoer(std::string const& pad, std::vector<std::string> const& invoer,
+                  char const* raad) {
+  bool const isEen = std::any_of(invoer.begin(), invoer.end(), [&pad](std::string const& een) {
+    std::error_code geenVanBeide;
+    return fs::equivalent(een, pad, geenVanBeide);
+  });
+  if (isEen) {
+    meld("cannot write " + pad + ": it is one of the files to read; give " + raad);
+  }
+  return !isEen;
+}
+
 Doel* DoelGroep::voegToe(std::string const& pad, bool aanvullen) {
   std::unique_ptr<Doel> doel = Doel::open(pad, aanvullen);
   if (!doel) {

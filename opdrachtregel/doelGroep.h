@@ -9,6 +9,10 @@
 
 #include "opdrachtregel/doel.h"
 
+// Whether the place is none of these files, by whatever path it is reached: what is read is not
+// written. One that is was told, with what else to give. Empty paths are none.
+bool isGeenInvoer(std::string const& pad, std::vector<std::string> const& invoer, char const* raad);
+
 class DoelGroep {
  public:
   // Adds a file, as Doel::open takes it. The group owns it. Null where it cannot be written, or is

@@ -59,6 +59,11 @@ std::string bezwaar(EncodeerVraag const& vraag, Opname const& opname, std::strin
   return {};
 }
 
+void meldStaatEr(Opname const& opname, std::string const& naam, std::string const& tekst) {
+  meldBezwaar(opname, "its array would be called \"" + naam + "\", as one that is in " + tekst +
+                          " already; rename the file, or make " + tekst + " anew without --append");
+}
+
 }  // namespace
 
 bool keurFrequenties(std::vector<Opname> const& opnamen) {
@@ -120,8 +125,7 @@ bool keurAanvulling(EncodeerVraag const& vraag, std::vector<Opname> const& opnam
       return array.naam == naam && array.klasse == klasse;
     });
     if (isEr) {
-      meldBezwaar(een, "its array would be called \"" + naam + "\", as one that is in " + pad +
-                           " already; rename the file, or make " + pad + " anew without --append");
+      meldStaatEr(een, naam, pad);
     }
   }
   return aantalGemeld() == voor;

@@ -6,17 +6,18 @@
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
-#include <filesystem>
 #include <iostream>
 #include <iterator>
 #include <optional>
-#include <system_error>
 
+#include "audio/codec/fragmentTekst.h"
 #include "audio/codec/tekstMoment.h"
 #include "audio/codec/uitvoerTaal.h"
 #include "audio/codec/wavBeeld.h"
 #include "audio/uitvoer/arrayNaam.h"
 #include "audio/uitvoer/wavKeuring.h"
+#include "audio/weergave/tekstLezer.h"
+#include "externals/software/extern/speex/speexDesktopEncoder.h"
 #include "opdrachtregel/bijlagen.h"
 #include "opdrachtregel/doelGroep.h"
 #include "opdrachtregel/encodeerKeuring.h"
@@ -24,22 +25,7 @@
 #include "opdrachtregel/gebruik.h"
 #include "opdrachtregel/melding.h"
 
-namespace fs = std::filesystem;
-
 namespace {
-
-char const* wijzeNaam(Uitvoerwijze wijze) {
-  switch (wijze) {
-    case Uitvoerwijze::speex:
-      return "Speex";
-    case Uitvoerwijze::adpcm:
-      return "ADPCM";
-    case Uitvoerwijze::pcm:
-      return "PCM";
-    default:
-      return "WAV";
-  }
-}
 
 // The moment that a build gives to all that it makes, where it gives one. False where that is no
 // moment, which was told.
@@ -62,13 +48,13 @@ bool neemMomentOver() {
   return true;
 }
 
-unsigned long long aantalSamples(Uitvoerwijze wijze, SF_INFO const& info) {
+unsigned long long aantalSamples(ArraySoort soort, SF_INFO const& info) {
   auto const frames = static_cast<unsigned long long>(info.frames);
-  switch (wijze) {
-    case Uitvoerwijze::adpcm:
+  switch (soort) {
+    case ArraySoort::adpcm:
       // Two to the byte; an odd last one is not coded.
       return frames / 2 * 2;
-    case Uitvoerwijze::wav:
+    case ArraySoort::wav:
       return static_cast<unsigned long long>(framesInBeeld(info));
     default:
       return frames;
@@ -77,9 +63,9 @@ unsigned long long aantalSamples(Uitvoerwijze wijze, SF_INFO const& info) {
 
 Declaratie declareer(EncodeerVraag const& vraag, Opname const& opname) {
   return {opname.bestand.GetName().utf8_string(),
-          vraag.wijze == Uitvoerwijze::speex ? "signed char" : "unsigned char",
-          std::string(wijzeNaam(vraag.wijze)) + ", " + std::to_string(opname.info.samplerate) +
-              " Hz, " + std::to_string(aantalSamples(vraag.wijze, opname.info)) + " samples"};
+          vraag.soort == ArraySoort::speex ? SpeexDesktopEncoder::arrayType : byteArrayType,
+          std::string(naamVan(vraag.soort)) + ", " + std::to_string(opname.info.samplerate) +
+              " Hz, " + std::to_string(aantalSamples(vraag.soort, opname.info)) + " samples"};
 }
 
 bool schrijf(DoelGroep& doelen, std::string const& pad, std::string const& tekst) {
@@ -109,7 +95,7 @@ Uitslag EncodeerOpdracht::voerUit() {
   }
   std::optional<std::vector<Opname>> opnamen = leesOpnamen(opties.wavs);
   if (!opnamen || !keurFrequenties(*opnamen) ||
-      !keurNamen(*vraag, *opnamen, !opties.declaraties.empty()) || !keurDoelen(*opnamen) ||
+      !keurNamen(*vraag, *opnamen, !opties.declaraties.empty()) || !keurDoelen() ||
       !keurVermeldingen() ||
       (opties.aanvullen && !keurAanvulling(*vraag, *opnamen, opties.uitvoer)) ||
       !neemMomentOver()) {
@@ -136,7 +122,7 @@ void EncodeerOpdracht::vertel(EncodeerVraag const& vraag,
       std::cerr << "kestrolin-cli: " << pad << ": " << wat << "\n";
     }
   };
-  regel(opties.uitvoer, std::to_string(opnamen.size()) + " " + wijzeNaam(vraag.wijze) +
+  regel(opties.uitvoer, std::to_string(opnamen.size()) + " " + naamVan(vraag.soort) +
                             (opnamen.size() == 1 ? " array at " : " arrays at ") +
                             std::to_string(opnamen.front().info.samplerate) + " Hz");
   regel(opties.declaraties, "declarations and sizes");
@@ -180,22 +166,13 @@ std::vector<std::string> EncodeerOpdracht::uitvoerPaden() const {
   return paden;
 }
 
-// What is read is not written, by whatever path it is reached.
-bool EncodeerOpdracht::keurDoelen(std::vector<Opname> const& opnamen) const {
-  int const voor = aantalGemeld();
-  auto const isEen = [](std::string const& een, std::string const& ander) {
-    std::error_code geenVanBeide;
-    return fs::equivalent(een, ander, geenVanBeide);
-  };
-  for (std::string const& pad : uitvoerPaden()) {
-    bool const isOpname = std::any_of(opnamen.begin(), opnamen.end(), [&](Opname const& opname) {
-      return isEen(pad, opname.gegeven);
-    });
-    if (isOpname || isEen(pad, opties.instellingen)) {
-      meld("cannot write " + pad + ": it is one of the files to read; give another name");
-    }
-  }
-  return aantalGemeld() == voor;
+bool EncodeerOpdracht::keurDoelen() const {
+  std::vector<std::string> invoer = opties.wavs;
+  invoer.push_back(opties.instellingen);
+  std::vector<std::string> const paden = uitvoerPaden();
+  return std::count_if(paden.begin(), paden.end(), [&invoer](std::string const& pad) {
+           return isGeenInvoer(pad, invoer, "another name");
+         }) == static_cast<std::ptrdiff_t>(paden.size());
 }
 
 // The names that stand in the files that go with the text.

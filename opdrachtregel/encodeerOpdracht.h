@@ -19,7 +19,7 @@ class EncodeerOpdracht : public Opdracht {
 
  private:
   Uitslag keurGebruik(EncodeerVraag const& vraag) const;
-  bool keurDoelen(std::vector<Opname> const& opnamen) const;
+  bool keurDoelen() const;
   bool keurVermeldingen() const;
   std::vector<std::string> afhankelijkheden() const;
   bool schrijfAlles(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,

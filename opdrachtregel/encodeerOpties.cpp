@@ -146,13 +146,13 @@ bool leesInstellingenVan(std::string const& pad, EncodeerVraag& vraag) {
   vraag.klasse = config.Read(klasseNaamSleutel, wxString()).utf8_string();
   switch (leesGetal(config, encoderSoortSleutel, EncoderSpeex)) {
     case EncoderADPCM:
-      vraag.wijze = Uitvoerwijze::adpcm;
+      vraag.soort = ArraySoort::adpcm;
       break;
     case EncoderPCM:
-      vraag.wijze = Uitvoerwijze::pcm;
+      vraag.soort = ArraySoort::pcm;
       break;
     default:
-      vraag.wijze = Uitvoerwijze::speex;
+      vraag.soort = ArraySoort::speex;
   }
   return true;
 }
@@ -164,7 +164,7 @@ void neemOptiesOver(CLI::App const& app, EncodeerOpties const& opties, EncodeerV
       veld = waarde;
     }
   };
-  neem("--encoder", vraag.wijze, static_cast<Uitvoerwijze>(plaatsVan(wijzen, opties.encoder)));
+  neem("--encoder", vraag.soort, static_cast<ArraySoort>(plaatsVan(wijzen, opties.encoder)));
   neem("--language", in.speexOutputLanguage, plaatsVan(talen, opties.taal));
   neem("--class", vraag.klasse, opties.klasse);
   neem("--dac", in.dacNumberOfBits, dacIndexVan(opties.dacBits));
@@ -188,7 +188,7 @@ void voegOptiesToe(CLI::App& app, EncodeerOpties& opties) {
 }
 
 std::optional<EncodeerVraag> maakVraag(CLI::App const& app, EncodeerOpties const& opties) {
-  EncodeerVraag vraag{Uitvoerwijze::pcm, {}, {}};
+  EncodeerVraag vraag{ArraySoort::pcm, {}, {}};
   vraag.instellingen.speexOutputLanguage = UitvoerTaalC;
   if (!opties.instellingen.empty()) {
     vraag.instellingen = KestrolinConfig();

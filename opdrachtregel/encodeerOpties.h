@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "audio/uitvoer/kestrolinConfig.h"
+#include "audio/weergave/arrayBytes.h"
 
 namespace CLI {
 class App;
@@ -37,11 +38,8 @@ struct EncodeerOpties {
 // Adds the options to `app`, which fills `opties`.
 void voegOptiesToe(CLI::App& app, EncodeerOpties& opties);
 
-// The four ways of output by their names on the command line.
-enum class Uitvoerwijze { speex, adpcm, pcm, wav };
-
 struct EncodeerVraag {
-  Uitvoerwijze wijze;
+  ArraySoort soort;
   KestrolinConfig instellingen;
   std::string klasse;  // of the arrays, in C++
 };

@@ -8,25 +8,14 @@
 #include <optional>
 #include <string>
 
-#include "audio/uitvoer/speexMaker.h"
+#include "audio/uitvoer/fragmentMaker.h"
+#include "audio/uitvoer/uitvoerRun.h"
+#include "audio/weergave/arrayMaker.h"
 #include "opdrachtregel/melding.h"
 #include "opdrachtregel/voortgang.h"
 #include "opdrachtregel/wegwerpBestand.h"
 
 namespace {
-
-std::unique_ptr<FragmentMaker> maakMaker(Uitvoerwijze wijze, wxString const& beeld) {
-  switch (wijze) {
-    case Uitvoerwijze::speex:
-      return std::make_unique<SpeexMaker>();
-    case Uitvoerwijze::adpcm:
-      return std::make_unique<ADPCMMaker>();
-    case Uitvoerwijze::pcm:
-      return std::make_unique<PCMMaker>();
-    default:
-      return std::make_unique<WAVMaker>(beeld);
-  }
-}
 
 // The path of the recording at which the run gave up, empty where it did not.
 std::string voerUit(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
@@ -36,7 +25,7 @@ std::string voerUit(EncodeerVraag const& vraag, std::vector<Opname> const& opnam
     paden.Add(een.bestand.GetFullPath());
   }
   wxString const klasse = wxString::FromUTF8(vraag.klasse);
-  Voortgang voortgang(opnamen.size());
+  Voortgang voortgang(opnamen.size(), "recordings");
   constexpr std::size_t bufferBytes = 65536;
   wxBufferedOutputStream buffer(uit, bufferBytes);
   auto const blijftUit = voerRunUit({paden, vraag.instellingen, klasse}, maker, buffer, voortgang);
@@ -49,12 +38,12 @@ std::string voerUit(EncodeerVraag const& vraag, std::vector<Opname> const& opnam
 bool schrijfTekst(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
                   wxOutputStream& uit) {
   std::optional<WegwerpBestand> beeld;
-  if (vraag.wijze == Uitvoerwijze::wav && !beeld.emplace(tijdelijkeMap()).isOpen()) {
+  if (vraag.soort == ArraySoort::wav && !beeld.emplace(tijdelijkeMap()).isOpen()) {
     meldGeenTijdelijk();
     return false;
   }
   std::unique_ptr<FragmentMaker> const maker =
-      maakMaker(vraag.wijze, beeld ? wxString::FromUTF8(beeld->geefPad()) : wxString());
+      maakMaker(vraag.soort, beeld ? wxString::FromUTF8(beeld->geefPad()) : wxString());
   MeldingVanger vanger;
   std::string const blijftUit = voerUit(vraag, opnamen, *maker, uit);
   if (std::count_if(opnamen.begin(), opnamen.end(), isOngewijzigd) !=

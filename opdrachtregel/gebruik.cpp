@@ -29,7 +29,7 @@ std::string optieIn(CLI::App const& app, std::string const& bericht) {
 
 // The message of the parser, without what it says of how values are written: the help follows.
 std::string bericht(CLI::ParseError const& fout, std::string const& optie) {
-  std::string const tekst = fout.what();
+  std::string tekst = fout.what();
   if (fout.get_name() != "ArgumentMismatch" || optie.empty()) {
     return tekst;
   }

@@ -8,13 +8,30 @@
 namespace {
 
 int gemeld = 0;
+bool staatVoortgang = false;
+
+// Back to the begin of the line, which is cleared.
+constexpr char const* veeg = "\r\033[K";
 
 }  // namespace
 
 void meld(std::string const& regel) {
+  wisVoortgang();
   // One message is one line, whatever a file is called.
   std::cerr << "kestrolin-cli: " << opEenRegel(regel) << std::endl;
   ++gemeld;
+}
+
+void toonVoortgang(std::string const& regel) {
+  std::cerr << veeg << "kestrolin-cli: " << regel << std::flush;
+  staatVoortgang = true;
+}
+
+void wisVoortgang() {
+  if (staatVoortgang) {
+    std::cerr << veeg << std::flush;
+    staatVoortgang = false;
+  }
 }
 
 std::string redenEnRaad(int code) {

@@ -9,6 +9,11 @@
 // A line in UTF-8, behind the name of the program.
 void meld(std::string const& regel);
 
+// Shows a line of progress in the place of the one before, on a terminal, and takes it away. A
+// message takes it away too.
+void toonVoortgang(std::string const& regel);
+void wisVoortgang();
+
 // What a call that failed with this errno says, and what to do about that.
 std::string redenEnRaad(int code);
 

@@ -2,11 +2,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include <algorithm>
-#include <filesystem>
 #include <iostream>
 #include <optional>
-#include <system_error>
 
 #include "opdrachtregel/doelGroep.h"
 #include "opdrachtregel/gebruik.h"
@@ -17,13 +14,11 @@
 #include "opdrachtregel/vergelijking.h"
 #include "opdrachtregel/voortgang.h"
 
-namespace fs = std::filesystem;
-
 namespace {
 
 // Tells of each recording why it could not be compared.
 std::optional<std::vector<Vergelijking>> vergelijkAlle(std::vector<Opname> const& opnamen) {
-  Voortgang voortgang(opnamen.size());
+  Voortgang voortgang(opnamen.size(), "recordings");
   std::vector<Vergelijking> vergelijkingen;
   for (Opname const& opname : opnamen) {
     std::optional<Vergelijking> vergelijking = vergelijk(opname);
@@ -62,7 +57,7 @@ Uitslag VergelijkOpdracht::voerUit() {
     return meldGebruik(*app, "standard output has the figures; give the plot a file", "--plot");
   }
   std::optional<std::vector<Opname>> const opnamen = leesOpnamen(wavs);
-  if (!opnamen || !keurPlaat(*opnamen)) {
+  if (!opnamen || !isGeenInvoer(plaat, wavs, "another name")) {
     return mislukt;
   }
   DoelGroep doelen;
@@ -89,16 +84,4 @@ Uitslag VergelijkOpdracht::voerUit() {
   }
   uit->Write(figuren.data(), figuren.size());
   return doelen.legVast() ? gelukt : mislukt;
-}
-
-// A recording is not written, by whatever path it is reached.
-bool VergelijkOpdracht::keurPlaat(std::vector<Opname> const& opnamen) const {
-  bool const isOpname = std::any_of(opnamen.begin(), opnamen.end(), [this](Opname const& opname) {
-    std::error_code geenVanBeide;
-    return fs::equivalent(plaat, opname.gegeven, geenVanBeide);
-  });
-  if (isOpname) {
-    meld("cannot write " + plaat + ": it is one of the files to read; give another name");
-  }
-  return !isOpname;
 }

@@ -15,8 +15,6 @@ class VergelijkOpdracht : public Opdracht {
   Uitslag voerUit() override;
 
  private:
-  bool keurPlaat(std::vector<Opname> const& opnamen) const;
-
   std::vector<std::string> wavs;
   std::string plaat;
   bool alsJson = false;

@@ -3,22 +3,15 @@
 #include <unistd.h>
 #include <wx/log.h>
 
-#include <iostream>
+#include <string>
 
-namespace {
+#include "opdrachtregel/melding.h"
 
-// Back to the begin of the line, which is cleared.
-constexpr char const* veeg = "\r\033[K";
-
-}  // namespace
-
-Voortgang::Voortgang(std::size_t aantal, std::chrono::milliseconds langeDuur)
-    : totaal(aantal), geduld(langeDuur), isTerminal(isatty(STDERR_FILENO) == 1) {}
+Voortgang::Voortgang(std::size_t aantal, char const* wat, std::chrono::milliseconds langeDuur)
+    : totaal(aantal), naam(wat), geduld(langeDuur), isTerminal(isatty(STDERR_FILENO) == 1) {}
 
 Voortgang::~Voortgang() {
-  if (staatEr) {
-    std::cerr << veeg << std::flush;
-  }
+  wisVoortgang();
 }
 
 void Voortgang::meldNietHeel(wxString const& wav) {
@@ -30,8 +23,6 @@ void Voortgang::meldNietHeel(wxString const& wav) {
 
 void Voortgang::meldGedaan(std::size_t nummer) {
   if (isTerminal && nummer < totaal && std::chrono::steady_clock::now() - begin >= geduld) {
-    std::cerr << veeg << "kestrolin-cli: " << nummer << " of " << totaal << " recordings"
-              << std::flush;
-    staatEr = true;
+    toonVoortgang(std::to_string(nummer) + " of " + std::to_string(totaal) + " " + naam);
   }
 }

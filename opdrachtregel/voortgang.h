@@ -1,4 +1,4 @@
-// The progress of a run, on a terminal.
+// The progress of a command, on a terminal.
 #pragma once
 
 #include <chrono>
@@ -8,10 +8,10 @@
 
 class Voortgang : public RunToezicht {
  public:
-  // A run over `aantal` recordings that begins now. A line shows how far it is once it lasts for so
-  // long.
-  explicit Voortgang(std::size_t aantal,
-                     std::chrono::milliseconds langeDuur = std::chrono::milliseconds(500));
+  // A run over `aantal` files, which the line calls `wat`, that begins now. The line shows how far
+  // it is once it lasts for so long.
+  Voortgang(std::size_t aantal, char const* wat,
+            std::chrono::milliseconds langeDuur = std::chrono::milliseconds(500));
   // Takes the line away.
   ~Voortgang() override;
   Voortgang(Voortgang const&) = delete;
@@ -25,8 +25,8 @@ class Voortgang : public RunToezicht {
 
  private:
   std::size_t totaal;
+  char const* naam;
   std::chrono::milliseconds geduld;
   bool isTerminal;
-  bool staatEr = false;
   std::chrono::steady_clock::time_point begin = std::chrono::steady_clock::now();
 };

@@ -16,20 +16,6 @@
 
 namespace {
 
-std::unique_ptr<FragmentMaker> maakMaker(ArraySoort soort, wxString const& beeld) {
-  switch (soort) {
-    case ArraySoort::speex:
-      return std::make_unique<SpeexMaker>();
-    case ArraySoort::adpcm:
-      return std::make_unique<ADPCMMaker>();
-    case ArraySoort::pcm:
-      return std::make_unique<PCMMaker>();
-    case ArraySoort::wav:
-      break;
-  }
-  return std::make_unique<WAVMaker>(beeld);
-}
-
 // The bytes of the one array in a fragment, whatever the name of that array is: a compiler would
 // refuse some.
 ArrayBytes leesFragment(std::string_view fragment, ArraySoort soort) {
@@ -45,6 +31,20 @@ ArrayBytes leesFragment(std::string_view fragment, ArraySoort soort) {
 }
 
 }  // namespace
+
+std::unique_ptr<FragmentMaker> maakMaker(ArraySoort soort, wxString const& beeld) {
+  switch (soort) {
+    case ArraySoort::speex:
+      return std::make_unique<SpeexMaker>();
+    case ArraySoort::adpcm:
+      return std::make_unique<ADPCMMaker>();
+    case ArraySoort::pcm:
+      return std::make_unique<PCMMaker>();
+    case ArraySoort::wav:
+      break;
+  }
+  return std::make_unique<WAVMaker>(beeld);
+}
 
 ArrayBytes maakArray(ArraySoort soort, KestrolinConfig instellingen, wxFileName const& wav,
                      wxString const& beeld) {

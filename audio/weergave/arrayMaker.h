@@ -3,10 +3,17 @@
 
 #include <wx/string.h>
 
+#include <memory>
+
 #include "audio/uitvoer/kestrolinConfig.h"
 #include "audio/weergave/arrayBytes.h"
 
+class FragmentMaker;
 class wxFileName;
+
+// A maker of this kind that has made nothing before. An embedded WAV file is made at `beeld` first,
+// and stays there.
+std::unique_ptr<FragmentMaker> maakMaker(ArraySoort soort, wxString const& beeld);
 
 // The array of this recording in C, with header, by an encoder that has made nothing before. An
 // embedded WAV file is made at `beeld` first, and stays there. Empty where there is no array, or

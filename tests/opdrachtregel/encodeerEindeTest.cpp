@@ -176,7 +176,8 @@ TEST_F(EindeLezer, ThatGoesIsAnErrorWhereTheSignalIsIgnored) {
   ga();
   ProgrammaEinde const einde = programma.wacht();
   EXPECT_EQ(einde.status, 1);
-  EXPECT_EQ(einde.fout, "kestrolin-cli: cannot write -: Broken pipe; see to that, and run it again\n");
+  EXPECT_EQ(einde.fout,
+            "kestrolin-cli: cannot write -: Broken pipe; see to that, and run it again\n");
   EXPECT_EQ(beeld(), voor);
 }
 

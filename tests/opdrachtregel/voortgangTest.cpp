@@ -9,6 +9,8 @@
 #include <cstdlib>
 #include <string>
 
+#include "opdrachtregel/melding.h"
+
 namespace {
 
 using namespace std::chrono_literals;
@@ -64,7 +66,7 @@ class Kanaal {
 std::string toon(bool isTerminal, std::chrono::milliseconds geduld) {
   Kanaal kanaal(isTerminal);
   {
-    Voortgang voortgang(3, geduld);
+    Voortgang voortgang(3, "recordings", geduld);
     voortgang.meldGedaan(1);
     voortgang.meldGedaan(2);
     voortgang.meldGedaan(3);
@@ -77,6 +79,18 @@ TEST(Voortgang, ALineOnATerminalTellsHowFarALongRunIsAndGoesAtTheEnd) {
             "\r\033[Kkestrolin-cli: 1 of 3 recordings"
             "\r\033[Kkestrolin-cli: 2 of 3 recordings"
             "\r\033[K");
+}
+
+TEST(Voortgang, AMessageTakesTheLineAway) {
+  Kanaal kanaal(true);
+  {
+    Voortgang voortgang(3, "arrays", 0ms);
+    voortgang.meldGedaan(1);
+    meld("something is wrong");
+  }
+  EXPECT_EQ(kanaal.tekst(),
+            "\r\033[Kkestrolin-cli: 1 of 3 arrays"
+            "\r\033[Kkestrolin-cli: something is wrong\r\n");
 }
 
 TEST(Voortgang, AShortRunShowsNothing) {
