@@ -92,14 +92,15 @@ TEST_P(EindeSignaal, LeavesNothingBehindAndOldFilesAsTheyWere) {
   EXPECT_EQ(beeld(), voor);
 }
 
+std::string naamVan(testing::TestParamInfo<std::tuple<int, std::string, bool>> const& een) {
+  auto const& [signaal, wav, metOude] = een.param;
+  return "Signal" + std::to_string(signaal) + wav + (metOude ? "Old" : "New");
+}
+
 INSTANTIATE_TEST_SUITE_P(Every, EindeSignaal,
                          testing::Combine(testing::Values(SIGINT, SIGTERM, SIGHUP),
                                           testing::Values("kort", "lang"), testing::Bool()),
-                         [](testing::TestParamInfo<std::tuple<int, std::string, bool>> const& een) {
-                           auto const& [signaal, wav, metOude] = een.param;
-                           return "Signal" + std::to_string(signaal) + wav +
-                                  (metOude ? "Old" : "New");
-                         });
+                         naamVan);
 
 TEST_F(Einde, AKilledRunLeavesFilesAsTheyWereAndTheNextOneIsWhole) {
   maakOude();

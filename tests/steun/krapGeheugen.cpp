@@ -58,9 +58,18 @@ void geefRijTerug(void* geheugen) {
   std::free(geheugen);
 }
 
+// What asks without an exception, as the standard library does for buffers of its own.
+void* neemOfNiets(std::size_t bytes, void const* vrager) {
+  try {
+    return neem(bytes, vrager);
+  } catch (std::bad_alloc const&) {
+    return nullptr;
+  }
+}
+
 }  // namespace
 
-// The forms for arrays too: a sanitizer has some of its own, which are not built on the plain ones.
+// Every form: a sanitizer has some of its own, which are not built on the plain ones.
 void* operator new(std::size_t bytes) {
   return neem(bytes, __builtin_return_address(0));
 }
@@ -68,6 +77,16 @@ void* operator new(std::size_t bytes) {
 void* operator new[](std::size_t bytes) {
   void* const geheugen = neem(bytes, __builtin_return_address(0));
   ++rijen;
+  return geheugen;
+}
+
+void* operator new(std::size_t bytes, std::nothrow_t const& /*geen*/) noexcept {
+  return neemOfNiets(bytes, __builtin_return_address(0));
+}
+
+void* operator new[](std::size_t bytes, std::nothrow_t const& /*geen*/) noexcept {
+  void* const geheugen = neemOfNiets(bytes, __builtin_return_address(0));
+  rijen += geheugen != nullptr ? 1 : 0;
   return geheugen;
 }
 
