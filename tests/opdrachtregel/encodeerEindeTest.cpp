@@ -6,16 +6,14 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
-#include <filesystem>
 #include <tuple>
 
 #include "tests/opdrachtregel/programmaProef.h"
 #include "tests/steun/programma.h"
 #include "tests/steun/wavMaker.h"
-
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -45,12 +43,10 @@ class Einde : public ProgrammaProef {
   }
 
   bool heeftTijdelijke() const {
-    for (std::string const& naam : inhoud()) {
-      if (naam.find(".kestrolin-") != std::string::npos) {
-        return true;
-      }
-    }
-    return false;
+    std::vector<std::string> const namen = inhoud();
+    return std::any_of(namen.begin(), namen.end(), [](std::string const& naam) {
+      return naam.find(".kestrolin-") != std::string::npos;
+    });
   }
   // Waits for the first of the files that the program writes beside their places.
   void wachtOpBegin(Programma& programma) const {
@@ -140,11 +136,7 @@ TEST_F(Einde, AnIgnoredSignalStaysIgnored) {
 class EindeLezer : public Einde {
  protected:
   EindeLezer() { EXPECT_EQ(pipe2(pijp.data(), O_CLOEXEC), 0); }
-  ~EindeLezer() override { close(pijp[0]); }
-  EindeLezer(EindeLezer const&) = delete;
-  EindeLezer& operator=(EindeLezer const&) = delete;
-  EindeLezer(EindeLezer&&) = delete;
-  EindeLezer& operator=(EindeLezer&&) = delete;
+  void TearDown() override { close(pijp[0]); }
 
   ProgrammaVraag naarPijp(Woorden woorden = {}) const {
     woorden.insert(woorden.end(), {KESTROLIN_CLI, "encode", "kort.wav", "-o", "-"});

@@ -107,11 +107,7 @@ class Storing {
 class OpdrachtStoring : public testing::Test {
  protected:
   OpdrachtStoring();
-  ~OpdrachtStoring() override { munmap(verslag, sizeof(Verslag)); }
-  OpdrachtStoring(OpdrachtStoring const&) = delete;
-  OpdrachtStoring& operator=(OpdrachtStoring const&) = delete;
-  OpdrachtStoring(OpdrachtStoring&&) = delete;
-  OpdrachtStoring& operator=(OpdrachtStoring&&) = delete;
+  void TearDown() override { munmap(verslag, sizeof(Verslag)); }
 
   // One run, in a process of its own; call 0 is none.
   Verloop loop(FoutWeg const& weg, FoutSoort const& soort, int nummer);

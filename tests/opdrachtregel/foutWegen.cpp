@@ -65,9 +65,10 @@ void maakVoor(FoutWeg const& weg, std::string const& map) {
   maakBestand(map + "/in/pcm.c", verwachteRun(Wijze::pcm, {}, {{"bel", golf(4000)}, {"tik", {1}}}));
   maakBestand(map + "/in/adpcm.c", verwachteRun(Wijze::adpcm, {}, {{"piep", golf(300)}}));
   for (auto const& [naam, inhoud] : weg.voor) {
-    fs::create_directories(fs::path(map + "/" + naam).parent_path());
-    if (naam.back() != '/') {
-      maakBestand(map + "/" + naam, inhoud);
+    fs::path const pad = fs::path(map) / naam;
+    fs::create_directories(pad.parent_path());
+    if (pad.has_filename()) {
+      maakBestand(pad.string(), inhoud);
     }
   }
 }
