@@ -102,7 +102,7 @@ TEST(Vergelijking, MeasuresTheValuesThatEncodersTakeOfAFileOfTwoChannels) {
   ASSERT_TRUE(gevonden);
   EXPECT_DOUBLE_EQ(gevonden->duur(), 0.125);
   for (ArraySoort const soort : {ArraySoort::pcm, ArraySoort::wav}) {
-    Encodering const& heel = zoek(*gevonden, "16-bit DAC", soort);
+    Encodering const heel = zoek(*gevonden, "16-bit DAC", soort);
     EXPECT_EQ(heel.bytes, (soort == ArraySoort::pcm ? 6U : 44U) + 2000U);
     EXPECT_EQ(gevonden->bytesPerSeconde(heel), soort == ArraySoort::pcm ? 16048 : 16352);
     verwacht(heel, {35, 35});
