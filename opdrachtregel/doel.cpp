@@ -58,15 +58,15 @@ bool Doel::meldFout(int code) const {
 }
 
 bool Doel::bereidVoor() {
-  std::error_code geen;
+  std::error_code code;
   if (naam == standaardUitvoer) {
     soort = Soort::standaardUitvoer;
     return maakNieuw(tijdelijkeMap());
   }
   // By the name that was given: what stands behind a link of /proc, a pipe for instance, has none.
-  fs::file_status const status = fs::status(naam, geen);
+  fs::file_status const status = fs::status(naam, code);
   if (!fs::status_known(status)) {
-    return meldFout(geen.value());
+    return meldFout(code.value());
   }
   if (fs::is_directory(status)) {
     meld("cannot write " + naam + ": it is a folder; give the name of a file in it");
@@ -74,7 +74,6 @@ bool Doel::bereidVoor() {
   }
   if (fs::exists(status) && !fs::is_regular_file(status)) {
     soort = Soort::toestel;
-    pad = naam;
     return maakNieuw(tijdelijkeMap());
   }
   pad = achterLinks(naam);
@@ -98,8 +97,9 @@ bool Doel::neemRechtenOver() {
   struct stat oud {};
   if (!isEr || stat(pad.c_str(), &oud) != 0) {
     oud.st_mode = nieuweRechten();
-  } else if (fchown(nieuw->geefHandvat(), oud.st_uid, oud.st_gid) != 0) {
-    // Whoever may write to a file of another's replaces it by one of his own.
+  } else {
+    // A user who may write to another user's file, but not give files away, gets one of his own.
+    static_cast<void>(!fchown(nieuw->geefHandvat(), oud.st_uid, oud.st_gid));
   }
   return fchmod(nieuw->geefHandvat(), oud.st_mode & ALLPERMS) == 0 || meldFout(errno);
 }

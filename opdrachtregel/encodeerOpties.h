@@ -12,20 +12,21 @@ namespace CLI {
 class App;
 }
 
+// Of those with a default, only what was given counts: maakVraag has the defaults.
 struct EncodeerOpties {
   std::vector<std::string> wavs;
   std::string encoder;
   std::string taal;
   std::string klasse;
-  int dacBits = 16;
-  bool metHeader = true;
-  unsigned int kwaliteit = 8;
-  unsigned int complexiteit = 3;
+  int dacBits = 0;
+  bool metHeader = false;
+  unsigned int kwaliteit = 0;
+  unsigned int complexiteit = 0;
   std::string bitrate;
-  unsigned int maxBitrate = 5000;
-  bool vad = true;
-  bool denoise = true;
-  bool agc = true;
+  unsigned int maxBitrate = 0;
+  bool vad = false;
+  bool denoise = false;
+  bool agc = false;
   std::string instellingen;
   std::string uitvoer;
   bool aanvullen = false;

@@ -109,15 +109,16 @@ void bezetKanalen() {
 }
 
 // The words behind the name of the program, in the reverse order that the library wants. It takes
-// brackets around a word for a list of its own.
+// brackets around a word for a list of its own. A process can be started without any word.
 std::vector<std::string> zonderLijsten(int aantal, char const* const* woorden) {
   std::vector<std::string> uit;
-  std::transform(
-      std::make_reverse_iterator(woorden + aantal), std::make_reverse_iterator(woorden + 1),
-      std::back_inserter(uit), [](std::string const& woord) {
-        bool const isLijst = !woord.empty() && woord.front() == '[' && woord.back() == ']';
-        return isLijst ? "./" + woord : woord;
-      });
+  std::transform(std::make_reverse_iterator(woorden + std::max(aantal, 1)),
+                 std::make_reverse_iterator(woorden + 1), std::back_inserter(uit),
+                 [](std::string const& woord) {
+                   bool const isLijst =
+                       !woord.empty() && woord.front() == '[' && woord.back() == ']';
+                   return isLijst ? "./" + woord : woord;
+                 });
   return uit;
 }
 

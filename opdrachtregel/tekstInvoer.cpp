@@ -10,6 +10,7 @@
 #include "audio/weergave/tekstGeluid.h"
 #include "opdrachtregel/bestandBytes.h"
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/waarden.h"
 
 std::optional<std::vector<TekstArray>> leesArrays(std::string const& pad) {
   std::string tekst;
@@ -47,6 +48,7 @@ void voegBreedteToe(CLI::App& app, unsigned int& dacBits) {
                  "text tells; those of PCM and ADPCM do not tell, and their samples stay as "
                  "they are)")
       ->type_name("8|10|12|16")
+      ->check(decimaal())
       ->check(CLI::IsMember(std::vector<int>(dacBreedten.begin(), dacBreedten.end())));
 }
 

@@ -164,6 +164,7 @@ TEST_F(DecodeerFouten, TellsOfWrongUse) {
        {std::vector<std::string>{"decode", "een.c"},
         {"decode", "--to", "uit"},
         {"decode", "een.c", "--to", "uit", "--dac", "9"},
+        {"decode", "een.c", "--to", "uit", "--dac", "010"},
         {"decode", "een.c", "--to", "uit", "--dac", "x"}}) {
     Afloop const afloop = voer(woorden);
     EXPECT_EQ(afloop.status, 2);
