@@ -5,10 +5,7 @@
 #include <wx/intl.h>
 #include <wx/platinfo.h>
 
-#include <algorithm>
-#include <cstddef>
-
-#include "audio/codec/byteTekst.h"
+#include "audio/codec/rijSchrijver.h"
 #include "audio/codec/tekstMoment.h"
 #include "audio/codec/uitvoerTaal.h"
 #include "numeriek/getalTekst.h"
@@ -107,26 +104,14 @@ void FragmentTekst::schrijfArrayKop(FragmentDoel const& doel, wxString const& el
 }
 
 void FragmentTekst::schrijfRijen(VelmoraArray<unsigned char> const& array) {
-  // Rows go out a block at a time: large enough that the stream's own cost is lost in it, small
-  // enough that a long fragment takes no second copy of its text.
-  constexpr std::size_t rijenPerBlok = 512;
-  constexpr std::size_t rijTekens = 1 + bytesPerRij * 5 + 1;
-  std::wstring blok;
-  blok.reserve(rijenPerBlok * rijTekens);
-
-  unsigned char const* byte = array.begin();
-  while (byte != array.end()) {
-    blok.clear();
-    for (std::size_t rij = 0; rij < rijenPerBlok && byte != array.end(); ++rij) {
-      auto const over = static_cast<std::size_t>(array.end() - byte);
-      unsigned char const* const einde = byte + std::min(bytesPerRij, over);
-      blok += L'\t';
-      std::for_each(byte, einde, [&blok](unsigned char b) { blok += byteTeksten[b].zicht(); });
-      blok += L'\n';
-      byte = einde;
-    }
-    schrijf(blok);
+  if (array.geefAantal() == 0) {
+    return;
   }
+  RijSchrijver rijen(stroom, hexadecimaleBytes);
+  rijen.schrijfTekst("\t");
+  rijen.schrijfBytes(array.begin(), array.geefAantal());
+  rijen.schrijfTekst("\n");
+  rijen.rondAf();
 }
 
 void FragmentTekst::schrijfEinde(wxFileName const& wav) {

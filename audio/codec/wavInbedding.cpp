@@ -4,12 +4,11 @@
 #include <wx/intl.h>
 #include <wx/wfstream.h>
 
-#include <string>
-#include <string_view>
 #include <utility>
+#include <vector>
 
-#include "audio/codec/byteTekst.h"
 #include "audio/codec/fragmentTekst.h"
+#include "audio/codec/rijSchrijver.h"
 #include "audio/codec/sndBestand.h"
 #include "audio/codec/tijdelijkBestand.h"
 #include "audio/codec/wavBeeld.h"
@@ -31,35 +30,30 @@ void schrijfKop(FragmentTekst& tekst, wxFileName const& wav, SF_INFO const& info
   tekst.schrijfSchaal(dacBits);
 }
 
-// All bytes of the image, the line broken and a new one begun behind every eighth, also the last.
-// True where they are those of an image of `frames` frames.
-bool schrijfBytes(FragmentTekst& tekst, wxFileName const& beeld, sf_count_t frames) {
+// All bytes of the image. A new line begins behind every eighth, also the last. True where they are
+// those of an image of `frames` frames.
+bool schrijfBytes(wxOutputStream& uit, wxFileName const& beeld, sf_count_t frames) {
   wxFileInputStream bestand(beeld.GetFullPath());
   if (!bestand.IsOk()) {
     return false;
   }
-  // Whole rows, and no more of a long file than of a short one.
-  constexpr std::size_t blokBytes = 8192 * bytesPerRij;
-  constexpr std::size_t rijTekens = bytesPerRij * 5 + 2;
-  std::string blok(blokBytes, '\0');
-  std::wstring rijen;
-  rijen.reserve(blokBytes / bytesPerRij * rijTekens);
+  // No more of a long file than of a short one.
+  constexpr std::size_t blokBytes = 65536;
+  std::vector<unsigned char> blok(blokBytes);
+  RijSchrijver rijen(uit, hexadecimaleBytes);
   std::size_t lengte = 0;
   bool heel = true;
   while (bestand.ReadAll(blok.data(), blokBytes) || bestand.LastRead() > 0) {
-    std::string_view const bytes(blok.data(), bestand.LastRead());
+    std::size_t const aantal = bestand.LastRead();
     if (lengte == 0) {
-      heel = isHeelWavBeeld(bytes, static_cast<std::size_t>(bestand.GetLength()), frames);
+      heel = isHeelWavBeeld({reinterpret_cast<char const*>(blok.data()), aantal},
+                            static_cast<std::size_t>(bestand.GetLength()), frames);
     }
-    rijen.clear();
-    for (char const een : bytes) {
-      rijen += byteTeksten[static_cast<unsigned char>(een)].zicht();
-      if (++lengte % bytesPerRij == 0) {
-        rijen += L"\n\t";
-      }
-    }
-    tekst.schrijf(rijen);
+    rijen.schrijfBytes(blok.data(), aantal);
+    lengte += aantal;
   }
+  rijen.breekVolleRij();
+  rijen.rondAf();
   return heel && lengte > 0 && lengte == static_cast<std::size_t>(bestand.GetLength());
 }
 
@@ -75,7 +69,7 @@ bool schrijfInbedding(wxFileName const& wav, InbedOpties const& opties, wxOutput
   bool const isGemaakt = maakWavBeeld(std::move(bron), beeld, opties.dacBits);
   tekst.schrijfArrayKop({opties.taal, opties.klasse, wav.GetName()}, byteArrayType);
   tekst.schrijf("\t");
-  bool const isGelezen = beeld.IsOk() && schrijfBytes(tekst, beeld, frames);
+  bool const isGelezen = beeld.IsOk() && schrijfBytes(uit, beeld, frames);
   tekst.schrijf("};\n\n");
   tekst.schrijf("/* end of WAV file         : " + wav.GetFullName() + "         */\n");
   return isGemaakt && isGelezen;
