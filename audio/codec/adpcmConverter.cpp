@@ -98,11 +98,11 @@ void ADPCMConverter::pakUit(unsigned char byte, unsigned char* nibbles) const {
 void ADPCMConverter::encodeer(VelmoraPCMPakket const& bron, VelmoraADPCMPakket const& doel) {
   // The narrowing comes before the scaling: with a DAC of 8 bits nothing but silence is left. The
   // fragments in the field are made so.
-  int const deler = dacDeler(bitShift);
+  DacDeler const deler(bitShift);
   unsigned long long const paren = bron.geefAantalSamples() / 2;
   Stand stand{encIndex, encVoorspelling};
   auto const codeerSample = [&](unsigned long long i) {
-    return static_cast<unsigned char>(codeer(stand, smal(bron.geefElement(i)) / deler));
+    return static_cast<unsigned char>(codeer(stand, deler.deel(smal(bron.geefElement(i)))));
   };
   for (unsigned long long paar = 0; paar < paren; ++paar) {
     // The elements are evaluated from left to right.

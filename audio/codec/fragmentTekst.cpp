@@ -107,7 +107,7 @@ void FragmentTekst::schrijfRijen(VelmoraArray<unsigned char> const& array) {
   if (array.geefAantal() == 0) {
     return;
   }
-  RijSchrijver rijen(stroom, hexadecimaleBytes);
+  RijSchrijver rijen(stroom, hexadecimaleBytes, array.geefAantal());
   rijen.schrijfTekst("\t");
   rijen.schrijfBytes(array.begin(), array.geefAantal());
   rijen.schrijfTekst("\n");

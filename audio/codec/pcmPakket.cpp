@@ -1,6 +1,7 @@
 #include "audio/codec/pcmPakket.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "audio/codec/dacDeler.h"
 #include "audio/codec/serieleKop.h"
@@ -51,10 +52,14 @@ unsigned long long VelmoraPCMPakket::serieelGeefAantalBytes() const {
 }
 
 void VelmoraPCMPakket::vlakAf(unsigned long long bitShift) {
-  int const deler = dacDeler(bitShift);
-  unsigned long long const aantal = geefAantalSamples();
-  for (unsigned long long i = 0; i < aantal; ++i) {
-    zetElement(i, static_cast<short>(geefElement(i) / deler));
+  DacDeler const deler(bitShift);
+  unsigned char* plaats = bytes();
+  unsigned char const* const einde = plaats + geefAantalBytes();
+  // Bytes, since the block may lie at an odd address.
+  for (short sample = 0; plaats != einde; plaats += sizeof sample) {
+    std::memcpy(&sample, plaats, sizeof sample);
+    sample = static_cast<short>(deler.deel(sample));
+    std::memcpy(plaats, &sample, sizeof sample);
   }
 }
 

@@ -17,6 +17,11 @@ constexpr std::size_t blokTekens = 65536;
 constexpr std::size_t rijTekens =
     rijBreuk.size() + bytesPerRij * langsteByteTekst + sizeof(ByteTekst);
 
+// The most that rows of so many bytes take, with their ends.
+std::size_t meesteTekens(std::size_t bytes) {
+  return bytes * langsteByteTekst + (bytes / bytesPerRij + 2) * rijBreuk.size();
+}
+
 char* drukTekst(char* plaats, std::string_view tekst) {
   std::memcpy(plaats, tekst.data(), tekst.size());
   return plaats + tekst.size();
@@ -29,12 +34,14 @@ char* drukByte(char* plaats, ByteTekst const& tekst) {
 
 }  // namespace
 
-RijSchrijver::RijSchrijver(wxOutputStream& stroom, ByteTeksten const& notatie)
-    : uit(stroom), teksten(notatie), blok(blokTekens) {}
+RijSchrijver::RijSchrijver(wxOutputStream& stroom, ByteTeksten const& notatie, std::size_t verwacht)
+    : uit(stroom), teksten(notatie), blok(blokTekens) {
+  ruimte.emplace(stroom, meesteTekens(verwacht));
+}
 
 void RijSchrijver::schrijfBytes(unsigned char const* begin, std::size_t aantal) {
   while (aantal > 0) {
-    maakRuimte(rijTekens);
+    maakPlaats(rijTekens);
     char* plaats = blok.data() + lengte;
     if (inRij == bytesPerRij) {
       plaats = drukTekst(plaats, rijBreuk);
@@ -57,20 +64,25 @@ void RijSchrijver::breekVolleRij() {
 }
 
 void RijSchrijver::schrijfTekst(std::string_view tekst) {
-  maakRuimte(tekst.size());
+  maakPlaats(tekst.size());
   lengte = static_cast<std::size_t>(drukTekst(blok.data() + lengte, tekst) - blok.data());
   inRij = 0;
 }
 
 void RijSchrijver::rondAf() {
+  stuurDoor();
+  ruimte.reset();
+}
+
+void RijSchrijver::stuurDoor() {
   if (uit.IsOk()) {
     uit.Write(blok.data(), lengte);
   }
   lengte = 0;
 }
 
-void RijSchrijver::maakRuimte(std::size_t tekens) {
+void RijSchrijver::maakPlaats(std::size_t tekens) {
   if (blok.size() - lengte < tekens) {
-    rondAf();
+    stuurDoor();
   }
 }

@@ -4,17 +4,18 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string_view>
 #include <vector>
 
 #include "audio/codec/byteTekst.h"
-
-class wxOutputStream;
+#include "audio/codec/stroomRuimte.h"
 
 class RijSchrijver {
  public:
-  // Appends to `stroom`, which must outlive this object.
-  RijSchrijver(wxOutputStream& stroom, ByteTeksten const& notatie);
+  // Appends to `stroom`, which must outlive this object. A stream in memory gets room for
+  // `verwacht` bytes of an array at once. Passes std::bad_alloc on.
+  RijSchrijver(wxOutputStream& stroom, ByteTeksten const& notatie, std::size_t verwacht);
 
   // Goes on in the row where the last call stopped. A full row is broken, by "\n\t", where another
   // byte follows it.
@@ -29,9 +30,11 @@ class RijSchrijver {
   void rondAf();
 
  private:
-  void maakRuimte(std::size_t tekens);
+  void maakPlaats(std::size_t tekens);
+  void stuurDoor();
 
   wxOutputStream& uit;
+  std::optional<StroomRuimte> ruimte;
   ByteTeksten const& teksten;
   std::vector<char> blok;
   std::size_t lengte = 0;  // of the text in the block

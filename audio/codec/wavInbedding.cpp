@@ -4,6 +4,7 @@
 #include <wx/intl.h>
 #include <wx/wfstream.h>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -40,21 +41,21 @@ bool schrijfBytes(wxOutputStream& uit, wxFileName const& beeld, sf_count_t frame
   // No more of a long file than of a short one.
   constexpr std::size_t blokBytes = 65536;
   std::vector<unsigned char> blok(blokBytes);
-  RijSchrijver rijen(uit, hexadecimaleBytes);
+  auto const geheel = static_cast<std::size_t>(std::max<wxFileOffset>(bestand.GetLength(), 0));
+  RijSchrijver rijen(uit, hexadecimaleBytes, geheel);
   std::size_t lengte = 0;
   bool heel = true;
   while (bestand.ReadAll(blok.data(), blokBytes) || bestand.LastRead() > 0) {
     std::size_t const aantal = bestand.LastRead();
     if (lengte == 0) {
-      heel = isHeelWavBeeld({reinterpret_cast<char const*>(blok.data()), aantal},
-                            static_cast<std::size_t>(bestand.GetLength()), frames);
+      heel = isHeelWavBeeld({reinterpret_cast<char const*>(blok.data()), aantal}, geheel, frames);
     }
     rijen.schrijfBytes(blok.data(), aantal);
     lengte += aantal;
   }
   rijen.breekVolleRij();
   rijen.rondAf();
-  return heel && lengte > 0 && lengte == static_cast<std::size_t>(bestand.GetLength());
+  return heel && lengte > 0 && lengte == geheel;
 }
 
 }  // namespace

@@ -22,9 +22,12 @@ using Samples = std::vector<int>;
 
 static_assert(!std::is_polymorphic_v<ADPCMConverter>);
 // At compile time, where a shift that is not defined is an error.
-static_assert(dacDeler(0) == 1 && dacDeler(8) == 256 && dacDeler(31) == INT_MIN);
-static_assert(dacDeler(32) == 1 && dacDeler(33) == 2 && dacDeler(64) == 1 &&
-              dacDeler(~0ULL) == INT_MIN);
+static_assert(DacDeler(0).deel(-32768) == -32768 && DacDeler(8).deel(-256) == -1 &&
+              DacDeler(8).deel(-255) == 0 && DacDeler(8).deel(32767) == 127);
+static_assert(DacDeler(15).deel(-32768) == -1 && DacDeler(15).deel(-32767) == 0 &&
+              DacDeler(31).deel(-32768) == 0 && DacDeler(31).deel(32767) == 0);
+static_assert(DacDeler(32).deel(7) == 7 && DacDeler(33).deel(-7) == -3 &&
+              DacDeler(64).deel(-1) == -1 && DacDeler(~0ULL).deel(-1) == 0);
 
 static_assert(std::is_same_v<decltype(ADPCMConverter::stepSizeTable)::value_type, unsigned short>);
 static_assert(std::is_same_v<decltype(ADPCMConverter::indexTable)::value_type, signed char>);

@@ -2,12 +2,9 @@
 // and the lengths of the array.
 #include <wx/utils.h>
 
-#include <array>
 #include <clocale>
-#include <cstdio>
 #include <ctime>
 
-#include "audio/codec/byteTekst.h"
 #include "audio/codec/wavInbedding.h"
 #include "tests/audio/codec/inbedHulp.h"
 #include "tests/steun/omgeving.h"
@@ -89,21 +86,6 @@ TEST_F(InbedTekst, elkeLengteRondDeRijenEnDeBlokkenVanHetLezen) {
     blok.frames = lengte;
     EXPECT_TRUE(zelfdeTekst(inbed(toon), verwachteInbedding(blok, sndBeeld(samples, {32000}))))
         << lengte;
-  }
-}
-
-TEST_F(InbedTekst, byte0Is0x0EnByte171Is0xab) {
-  EXPECT_EQ(byteTeksten[0].zicht(), L"0x0,");
-  EXPECT_EQ(byteTeksten[171].zicht(), L"0xab,");
-}
-
-TEST_F(InbedTekst, alle256BytesStaanHexadecimaalZonderNullenVooraan) {
-  for (unsigned int waarde = 0; waarde < 256; ++waarde) {
-    std::array<char, 8> verwacht{};
-    ASSERT_GT(std::snprintf(verwacht.data(), verwacht.size(), "0x%x,", waarde), 0);
-    std::wstring_view const gevonden = byteTeksten[waarde].zicht();
-    EXPECT_EQ(std::string(gevonden.begin(), gevonden.end()), verwacht.data());
-    EXPECT_EQ(maakByteTekst(waarde).zicht(), gevonden);
   }
 }
 

@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
+#include <limits>
 #include <memory>
 #include <new>
+#include <numeric>
 #include <type_traits>
 #include <vector>
 
@@ -169,6 +172,19 @@ TEST(PcmPakketVlakAf, schuifTeltModuloTweeendertig) {
 
 TEST(PcmPakketVlakAf, eenendertigDeeltDoorHetLaagsteGetal) {
   EXPECT_EQ(vlakAfgevlakt({-32768, -1, 1, 32767}, 31), Samples(4, 0));
+}
+
+TEST(PcmPakketVlakAf, elkeSampleBijElkeSchuifAlsEenDeling) {
+  Samples alle(65536);
+  std::iota(alle.begin(), alle.end(), std::numeric_limits<short>::min());
+  for (unsigned long long schuif = 0; schuif < 33; ++schuif) {
+    // In a type that holds every divisor.
+    long long const deler = 1LL << (schuif % 32);
+    Samples verwacht(alle.size());
+    std::transform(alle.begin(), alle.end(), verwacht.begin(),
+                   [deler](short sample) { return static_cast<short>(sample / deler); });
+    EXPECT_EQ(vlakAfgevlakt(alle, schuif), verwacht) << schuif;
+  }
 }
 
 TEST(PcmPakketVlakAf, leegPakketBlijftZoalsHetIs) {

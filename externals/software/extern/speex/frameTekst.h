@@ -3,8 +3,11 @@
 #pragma once
 
 #include <cstddef>
-#include <string>
+
+class RijSchrijver;
 
 // Frame `nummer`, counted from 0, of `aantal` bytes, at most 200. A frame whose size is a multiple
-// of eight ends in a line that holds a tab alone. The text is ASCII, with "\n" line ends.
-std::string frameTekst(unsigned long long nummer, char const* bytes, std::size_t aantal);
+// of eight ends in a line that holds a tab alone. The text is ASCII, with "\n" line ends. Wants a
+// writer with the table of decimal bytes.
+void schrijfFrame(RijSchrijver& rijen, unsigned long long nummer, unsigned char const* bytes,
+                  std::size_t aantal);

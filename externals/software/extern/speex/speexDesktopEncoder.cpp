@@ -6,10 +6,10 @@
 #include <wx/mstream.h>
 
 #include <algorithm>
-#include <string>
 
 #include "audio/codec/fragmentTekst.h"
 #include "audio/codec/logTekst.h"
+#include "audio/codec/rijSchrijver.h"
 #include "audio/codec/sndBestand.h"
 #include "externals/software/extern/speex/frameTekst.h"
 #include "numeriek/byteGereedschap.h"
@@ -81,7 +81,7 @@ int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxOutputStream& uitvo
   schrijfInstellingen(tekst);
 
   // The sizes stand before the array and are known only behind its last frame.
-  wxMemoryOutputStream frames;
+  Bytes frames;
   Omvang const omvang = encodeFrames(wav, frames);
   verhouding = maakVerhouding(omvang.totaal, info.frames);
   schrijfOmvang(tekst, omvang, verhouding);
@@ -98,10 +98,7 @@ int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxOutputStream& uitvo
           "Byte) */\n"));
     tekst.schrijf(headerTekst(info));
   }
-  if (frames.GetLength() > 0) {
-    wxMemoryInputStream bron(frames);
-    uitvoer.Write(bron);
-  }
+  schrijfFrames(frames, uitvoer);
   tekst.sluitArray(bestand);
   return gelukt;
 }
@@ -146,14 +143,12 @@ void SpeexDesktopEncoder::schrijfOmvang(FragmentTekst& tekst, Omvang const& omva
                                  omvang.grootsteFrame));
 }
 
-SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav,
-                                                              wxOutputStream& uit) {
+SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav, Bytes& frames) {
   auto const n = static_cast<sf_count_t>(geefFrameSize(config.formaat));
   std::vector<short> vers(static_cast<std::size_t>(n));
   std::vector<short> samples(vers.size());
   std::vector<float> geschaald(samples.size());
   Omvang omvang;
-  unsigned long long nummer = 0;
   for (sf_count_t gelezen = 0; gelezen < wav.info().frames; gelezen += n) {
     // The end of the file fills the last block partly. The rest are the samples of the block
     // before, not silence, and they are encoded along. Not all formats leave them alone: some reads
@@ -162,13 +157,22 @@ SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav,
     int const bytes = encodeFrame(samples, geschaald);
     omvang.grootsteFrame = std::max(omvang.grootsteFrame, bytes);
     omvang.totaal += static_cast<unsigned long long>(bytes) + 1;
-    std::string const tekst =
-        frameTekst(nummer, frameBuffer.data(), static_cast<std::size_t>(bytes));
-    uit.Write(tekst.data(), tekst.size());
-    ++nummer;
+    frames.push_back(static_cast<unsigned char>(bytes));
+    frames.insert(frames.end(), frameBuffer.begin(), frameBuffer.begin() + bytes);
   }
   wav.meldGebrek();
   return omvang;
+}
+
+void SpeexDesktopEncoder::schrijfFrames(Bytes const& frames, wxOutputStream& uit) {
+  RijSchrijver rijen(uit, decimaleBytes, frames.size());
+  unsigned long long nummer = 0;
+  for (std::size_t plaats = 0; plaats < frames.size(); ++nummer) {
+    std::size_t const aantal = frames[plaats];
+    schrijfFrame(rijen, nummer, frames.data() + plaats + 1, aantal);
+    plaats += 1 + aantal;
+  }
+  rijen.rondAf();
 }
 
 // Returns the number of bytes that the frame has in frameBuffer.

@@ -64,7 +64,11 @@ class SpeexDesktopEncoder : public SpeexEncoder {
   void schrijfInstellingen(FragmentTekst& tekst) const;
   static void schrijfOmvang(FragmentTekst& tekst, Omvang const& omvang,
                             Percentage const& verhouding);
-  Omvang encodeFrames(SndBestand& wav, wxOutputStream& uit);
+  // Of each frame its size, in one byte, and its bytes.
+  using Bytes = std::vector<unsigned char>;
+
+  Omvang encodeFrames(SndBestand& wav, Bytes& frames);
+  static void schrijfFrames(Bytes const& frames, wxOutputStream& uit);
   int encodeFrame(std::vector<short> const& samples, std::vector<float>& geschaald);
 
   std::array<char, maxFrameBytes> frameBuffer{};  // one encoded frame

@@ -7,11 +7,18 @@
 #include <string>
 #include <vector>
 
+#include "audio/codec/rijSchrijver.h"
+#include "tests/audio/codec/codecHulp.h"
+
 namespace {
 
 std::string tekst(unsigned long long nummer, std::vector<signed char> const& bytes) {
-  std::vector<char> const frame(bytes.begin(), bytes.end());
-  return frameTekst(nummer, frame.data(), frame.size());
+  std::vector<unsigned char> const frame(bytes.begin(), bytes.end());
+  wxMemoryOutputStream uit;
+  RijSchrijver rijen(uit, decimaleBytes, frame.size());
+  schrijfFrame(rijen, nummer, frame.data(), frame.size());
+  rijen.rondAf();
+  return tekstVan(uit);
 }
 
 TEST(FrameTekst, TenBytesTakeALineOfEightAndALineOfTwo) {
