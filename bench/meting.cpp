@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <iterator>
 
 namespace {
 
@@ -33,16 +34,24 @@ Verbruik meetInKind(std::function<int()> const& werk) {
           gewacht && WIFEXITED(status) && WEXITSTATUS(status) == 0};
 }
 
-Verbruik meetBeste(int keer, std::function<int()> const& werk) {
-  Verbruik beste = meetInKind(werk);
+std::vector<Verbruik> meetOmBeurten(int keer, Werken const& werken) {
+  std::vector<Verbruik> beste;
+  std::transform(werken.begin(), werken.end(), std::back_inserter(beste), meetInKind);
   for (int i = 1; i < keer; ++i) {
-    Verbruik const nu = meetInKind(werk);
-    beste.seconden = std::min(beste.seconden, nu.seconden);
-    beste.verstreken = std::min(beste.verstreken, nu.verstreken);
-    beste.mebibytes = std::max(beste.mebibytes, nu.mebibytes);
-    beste.geslaagd = beste.geslaagd && nu.geslaagd;
+    std::transform(werken.begin(), werken.end(), beste.begin(), beste.begin(),
+                   [](std::function<int()> const& werk, Verbruik const& tot) {
+                     Verbruik const nu = meetInKind(werk);
+                     return Verbruik{std::min(tot.seconden, nu.seconden),
+                                     std::min(tot.verstreken, nu.verstreken),
+                                     std::max(tot.mebibytes, nu.mebibytes),
+                                     tot.geslaagd && nu.geslaagd};
+                   });
   }
   return beste;
+}
+
+bool alleGeslaagd(std::vector<Verbruik> const& gemeten) {
+  return std::all_of(gemeten.begin(), gemeten.end(), [](Verbruik const& v) { return v.geslaagd; });
 }
 
 bool meld(bool gehaald, std::string const& wat, double waarde, char const* doel) {

@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 struct Verbruik {
   double seconden;    // processor time, user and system
@@ -14,9 +15,12 @@ struct Verbruik {
 // Runs `werk` in a child process, which ends with the status that `werk` returns.
 Verbruik meetInKind(std::function<int()> const& werk);
 
-// Of `keer` measurements the least times, which are what the work costs when nothing disturbs it,
-// and the greatest memory.
-Verbruik meetBeste(int keer, std::function<int()> const& werk);
+// Of `keer` measurements of each the least times, which are what the work costs when nothing
+// disturbs it, and the greatest memory. The works take turns, so that a machine which grows slower
+// or faster meanwhile does so for all of them.
+using Werken = std::vector<std::function<int()>>;
+std::vector<Verbruik> meetOmBeurten(int keer, Werken const& werken);
+bool alleGeslaagd(std::vector<Verbruik> const& gemeten);
 
 // Prints a figure and its goal in one line, and returns `gehaald`, whether the goal was reached.
 bool meld(bool gehaald, std::string const& wat, double waarde, char const* doel);

@@ -7,17 +7,13 @@
 
 #include "bench/geluid.h"
 #include "bench/meting.h"
+#include "bench/xxd.h"
 
 namespace {
 
 constexpr int herhalingen = 50;
 constexpr int rate = 16000;
 constexpr double ms = 1000;
-
-int draaiXxd(std::string const& wav, std::string const& uit) {
-  execlp("xxd", "xxd", "-i", wav.c_str(), uit.c_str(), nullptr);
-  return 1;
-}
 
 int codeer(std::string const& wav, std::string const& uit) {
   execl(KESTROLIN_CLI, "kestrolin-cli", "encode", wav.c_str(), "-o", uit.c_str(), nullptr);
@@ -30,9 +26,11 @@ bool meetOpdracht(std::string const& map) {
   std::string const wav = map + "/seconde.wav";
   std::string const uit = map + "/seconde.c";
   maakRuis(wav, rate, 1);
-  Verbruik const xxd = meetBeste(herhalingen, [&] { return draaiXxd(wav, uit); });
-  Verbruik const eigen = meetBeste(herhalingen, [&] { return codeer(wav, uit); });
-  if (!xxd.geslaagd || !eigen.geslaagd) {
+  std::vector<Verbruik> const gemeten = meetOmBeurten(
+      herhalingen, {[&] { return draaiXxd(wav, uit); }, [&] { return codeer(wav, uit); }});
+  Verbruik const& xxd = gemeten[0];
+  Verbruik const& eigen = gemeten[1];
+  if (!alleGeslaagd(gemeten)) {
     std::cerr << "bench: a measured program failed (is xxd installed?)\n";
     return false;
   }
