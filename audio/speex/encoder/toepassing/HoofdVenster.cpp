@@ -24,6 +24,7 @@
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "audio/uitvoer/encoderSoort.h"
 #include "audio/uitvoer/instellingenBestand.h"
+#include "externals/desktop/tekstVeld.h"
 #include "numeriek/configGetal.h"
 
 wxBEGIN_EVENT_TABLE(HoofdVenster, wxFrame)
@@ -201,8 +202,8 @@ void HoofdVenster::maakCodeControls() {
   encodeKnop = new wxButton(paneel, ID_CODEER, "Encode");
   speexSaveKnop = new wxButton(paneel, wxID_SAVE);
   playEncodedKnop = new wxButton(paneel, ID_SPEEL_RESULTAAT, "Play Encoded");
-  tekstVeld = new wxTextCtrl(paneel, ID_TEKST, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                             wxTE_MULTILINE | wxTE_READONLY);
+  tekstVeld = new TekstVeld(paneel, ID_TEKST, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                            wxTE_MULTILINE | wxTE_READONLY);
   quitKnop = new wxButton(paneel, wxID_EXIT);
 }
 

