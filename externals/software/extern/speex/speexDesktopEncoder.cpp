@@ -30,6 +30,43 @@ float schaal(short sample, unsigned long long bits) {
   return static_cast<short>(static_cast<unsigned short>(breed >> (bits & masker)));
 }
 
+// Reads the values of a recording some frames ahead: a call of the system for each frame would cost
+// more than all else that comes to libspeex's work.
+class Voorraad {
+ public:
+  // Of `bron`, at most `items` values are asked for in all.
+  Voorraad(SndBestand& bron, sf_count_t items) : wav(bron), teVragen(items), blok(blokItems) {}
+
+  // The next values, up to `aantal`, at most a block. Fewer at the end, or where a read fails.
+  sf_count_t neem(short* doel, sf_count_t aantal) {
+    if (over < aantal) {
+      vulAan();
+    }
+    sf_count_t const deel = std::min(over, aantal);
+    std::copy_n(blok.begin() + begin, deel, doel);
+    begin += deel;
+    over -= deel;
+    return deel;
+  }
+
+ private:
+  void vulAan() {
+    std::copy_n(blok.begin() + begin, over, blok.begin());
+    begin = 0;
+    sf_count_t const gevraagd = std::min(static_cast<sf_count_t>(blok.size()) - over, teVragen);
+    over += wav.leesItems(blok.data() + over, gevraagd);
+    teVragen -= gevraagd;
+  }
+
+  static constexpr std::size_t blokItems = 16384;
+
+  SndBestand& wav;
+  sf_count_t teVragen;
+  std::vector<short> blok;
+  sf_count_t begin = 0;
+  sf_count_t over = 0;
+};
+
 // Counted over sample frames, not bytes.
 Percentage maakVerhouding(unsigned long long bytes, sf_count_t frames) {
   constexpr unsigned long long heel = 100;
@@ -145,15 +182,15 @@ void SpeexDesktopEncoder::schrijfOmvang(FragmentTekst& tekst, Omvang const& omva
 
 SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav, Bytes& frames) {
   auto const n = static_cast<sf_count_t>(geefFrameSize(config.formaat));
-  std::vector<short> vers(static_cast<std::size_t>(n));
-  std::vector<short> samples(vers.size());
+  sf_count_t const aantal = wav.info().frames / n + (wav.info().frames % n > 0 ? 1 : 0);
+  Voorraad voorraad(wav, aantal * n);
+  std::vector<short> samples(static_cast<std::size_t>(n));
   std::vector<float> geschaald(samples.size());
   Omvang omvang;
-  for (sf_count_t gelezen = 0; gelezen < wav.info().frames; gelezen += n) {
+  for (sf_count_t frame = 0; frame < aantal; ++frame) {
     // The end of the file fills the last block partly. The rest are the samples of the block
-    // before, not silence, and they are encoded along. Not all formats leave them alone: some reads
-    // clear what they do not fill, hence the second block.
-    std::copy_n(vers.begin(), wav.leesItems(vers.data(), n), samples.begin());
+    // before, not silence, and they are encoded along.
+    voorraad.neem(samples.data(), n);
     int const bytes = encodeFrame(samples, geschaald);
     omvang.grootsteFrame = std::max(omvang.grootsteFrame, bytes);
     omvang.totaal += static_cast<unsigned long long>(bytes) + 1;
