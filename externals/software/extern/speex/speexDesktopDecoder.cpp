@@ -6,19 +6,17 @@
 #include <wx/txtstrm.h>
 #include <wx/wfstream.h>
 
-#include <algorithm>
 #include <new>
 #include <optional>
 #include <utility>
 #include <vector>
 
 #include "audio/codec/sndBestand.h"
-#include "externals/software/extern/speex/doorlezendeConv.h"
+#include "externals/software/extern/speex/frameLezer.h"
 
 namespace {
 
 constexpr int hexadecimaal = 16;
-constexpr int decimaal = 10;
 // The most that a header field of two bytes can tell.
 constexpr unsigned long maxVeld = 0xFFFF;
 constexpr unsigned long long maxSamples = 1ULL << 28U;
@@ -99,23 +97,20 @@ int SpeexDesktopDecoder::decode(wxFileName const& invoer, wxFileName const& uitv
   if (!bestand.IsOk()) {
     return gelukt;
   }
-  // A file stream alone makes a system call for each character.
-  constexpr std::size_t bufferBytes = 65536;
-  wxBufferedInputStream buffer(bestand, bufferBytes);
-  wxTextInputStream tekst(buffer, ",", DoorlezendeConv());
-
+  LeesBlok blok(bestand);
+  FrameLezer tekst(blok);
   int const uitslag = leesFragmenten(tekst, uit, aantalFragmenten);
   uit.sluit(uitvoer);
   return uitslag;
 }
 
-int SpeexDesktopDecoder::leesFragmenten(wxTextInputStream& tekst, Uitvoer& uit,
+int SpeexDesktopDecoder::leesFragmenten(FrameLezer& tekst, Uitvoer& uit,
                                         unsigned long long& aantalFragmenten) {
-  for (wxChar teken = tekst.GetChar(); teken != 0; teken = tekst.GetChar()) {
+  for (wxChar teken = tekst.zoekBegin(); teken != 0; teken = tekst.zoekBegin()) {
     if (teken == '/') {
       // A comment, of either kind. What it holds, a "{" too, is no array.
-      tekst.ReadLine();
-    } else if (teken == '{' && !leesFragment(tekst, uit, aantalFragmenten)) {
+      tekst.slaRegelOver();
+    } else if (!leesFragment(tekst, uit, aantalFragmenten)) {
       return pastNiet;
     }
   }
@@ -144,7 +139,7 @@ unsigned char SpeexDesktopDecoder::leesHexWaarde(wxTextInputStream& tekst) {
 }
 
 // Reads one array from behind its "{". False for one of another frequency.
-bool SpeexDesktopDecoder::leesFragment(wxTextInputStream& tekst, Uitvoer& uit,
+bool SpeexDesktopDecoder::leesFragment(FrameLezer& tekst, Uitvoer& uit,
                                        unsigned long long& aantalFragmenten) {
   unsigned long frequentie = 0;
   unsigned long frames = 0;
@@ -163,23 +158,10 @@ bool SpeexDesktopDecoder::leesFragment(wxTextInputStream& tekst, Uitvoer& uit,
     if ((frame >= maxVeld && isTenEinde(tekst)) || uit.isVol()) {
       break;
     }
-    leesFrame(tekst);
+    // Past the end of the array it is mostly an empty one.
+    speex_bits_read_from(&bits, frameBuffer.data(), tekst.leesFrame(frameBuffer));
     speex_decode_int(decoderState.get(), &bits, uit.blok.data());
     uit.schrijf();
   }
   return true;
-}
-
-// Hands the next frame of the text to `bits`. Past the end of the array it is mostly an empty one.
-void SpeexDesktopDecoder::leesFrame(wxTextInputStream& tekst) {
-  int const grootte = leesHexWaarde(tekst);
-  tekst.ReadLine();
-  for (int i = 0; i < grootte; ++i) {
-    auto const byte = static_cast<char>(tekst.Read8S(decimaal));
-    // No generated frame is larger than the buffer; of one in an edited text the rest is dropped.
-    if (i < maxFrameBytes) {
-      frameBuffer[static_cast<std::size_t>(i)] = byte;
-    }
-  }
-  speex_bits_read_from(&bits, frameBuffer.data(), std::min(grootte, maxFrameBytes));
 }

@@ -7,6 +7,7 @@
 
 #include "externals/software/extern/speex/speexDecoder.h"
 
+class FrameLezer;
 class wxFileName;
 class wxTextInputStream;
 class wxWindow;
@@ -50,9 +51,8 @@ class SpeexDesktopDecoder : public SpeexDecoder {
  private:
   struct Uitvoer;
 
-  int leesFragmenten(wxTextInputStream& tekst, Uitvoer& uit, unsigned long long& aantalFragmenten);
-  bool leesFragment(wxTextInputStream& tekst, Uitvoer& uit, unsigned long long& aantalFragmenten);
-  void leesFrame(wxTextInputStream& tekst);
+  int leesFragmenten(FrameLezer& tekst, Uitvoer& uit, unsigned long long& aantalFragmenten);
+  bool leesFragment(FrameLezer& tekst, Uitvoer& uit, unsigned long long& aantalFragmenten);
 
   [[maybe_unused]] wxWindow* ouder;
   std::array<char, maxFrameBytes> frameBuffer{};  // one encoded frame
