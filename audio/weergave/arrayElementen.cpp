@@ -1,6 +1,9 @@
 #include "audio/weergave/arrayElementen.h"
 
+#include <algorithm>
+#include <array>
 #include <charconv>
+#include <cstddef>
 #include <string_view>
 #include <system_error>
 
@@ -8,14 +11,15 @@
 
 namespace {
 
+constexpr int hexadecimaal = 16;
+constexpr int octaal = 8;
+constexpr int decimaal = 10;
+
 // The number, as C reads it, without suffixes. Nothing where it is none, or beyond any element.
 std::optional<int> getalVan(Woord const& woord) {
   if (woord.soort != WoordSoort::getal) {
     return std::nullopt;
   }
-  constexpr int hexadecimaal = 16;
-  constexpr int octaal = 8;
-  constexpr int decimaal = 10;
   std::string_view cijfers = woord.tekst;
   int grondtal = decimaal;
   if (cijfers.size() > 1 && cijfers[0] == '0') {
@@ -29,6 +33,82 @@ std::optional<int> getalVan(Woord const& woord) {
   return uitslag.ec == std::errc() && uitslag.ptr == einde ? std::optional(waarde) : std::nullopt;
 }
 
+constexpr bool isWit(char teken) {
+  return teken == ' ' || (teken >= '\t' && teken <= '\r');
+}
+
+// The value of a digit in either case; 16 for any other character.
+constexpr std::array<unsigned char, 256> maakCijfers() {
+  constexpr std::string_view tekens = "0123456789abcdef0123456789ABCDEF";
+  std::array<unsigned char, 256> cijfers{};
+  for (unsigned char& cijfer : cijfers) {
+    cijfer = hexadecimaal;
+  }
+  for (std::size_t i = 0; i < tekens.size(); ++i) {
+    cijfers[static_cast<unsigned char>(tekens[i])] = static_cast<unsigned char>(i % hexadecimaal);
+  }
+  return cijfers;
+}
+
+unsigned int cijferVan(char teken) {
+  static constexpr std::array<unsigned char, 256> cijfers = maakCijfers();
+  return cijfers[static_cast<unsigned char>(teken)];
+}
+
+// An element as it is generated. The length is that with the comma behind it, and 0 for all else
+// that may stand there.
+struct KortElement {
+  unsigned int waarde;
+  std::size_t lengte;
+};
+
+// The longest is "-128,".
+constexpr std::size_t langsteElement = 5;
+
+// Up to `meest` digits and a comma.
+KortElement cijfersVan(char const* tekst, unsigned int grondtal, std::size_t meest) {
+  unsigned int waarde = 0;
+  for (std::size_t i = 0; i <= meest; ++i) {
+    unsigned int const cijfer = cijferVan(tekst[i]);
+    if (cijfer >= grondtal) {
+      return {waarde, i > 0 && tekst[i] == ',' ? i + 1 : 0};
+    }
+    waarde = waarde * grondtal + cijfer;
+  }
+  return {0, 0};
+}
+
+// At least `langsteElement` characters follow on `tekst`.
+KortElement kortElementVan(char const* tekst, bool isSigned) {
+  if (tekst[0] == '0') {
+    if (tekst[1] != 'x') {
+      return {0, tekst[1] == ',' ? std::size_t{2} : std::size_t{0}};
+    }
+    KortElement const element = cijfersVan(tekst + 2, hexadecimaal, 2);
+    return {element.waarde, element.lengte == 0 ? 0 : element.lengte + 2};
+  }
+  std::size_t const teken = isSigned && tekst[0] == '-' ? 1 : 0;
+  KortElement const element = cijfersVan(tekst + teken, decimaal, 3);
+  unsigned int const hoogste = teken == 0 ? 255 : 128;
+  // With a zero before it a number is octal.
+  if (element.lengte == 0 || element.waarde > hoogste || tekst[teken] == '0') {
+    return {0, 0};
+  }
+  return {teken == 0 ? element.waarde : 0U - element.waarde, element.lengte + teken};
+}
+
+// How many elements there are, or some more: each takes four characters at least where all are
+// hexadecimal. The elements of other arrays may be shorter.
+std::size_t schatAantal(std::string_view tekst) {
+  constexpr std::size_t kortste = 4;
+  return std::min(tekst.find('}'), tekst.size()) / kortste;
+}
+
+// Whether a comment says nothing of a fragment, and so may stand among the elements.
+bool isBijschrift(Woord const& woord) {
+  return woord.soort == WoordSoort::commentaar && soortVan(woord.tekst) == CommentaarSoort::anders;
+}
+
 }  // namespace
 
 bool breektAf(Woord const& woord) {
@@ -38,8 +118,7 @@ bool breektAf(Woord const& woord) {
 
 Woord ElementLezer::volgende() {
   Woord woord = woorden.volgende();
-  while (woord.soort == WoordSoort::commentaar &&
-         soortVan(woord.tekst) == CommentaarSoort::anders) {
+  while (isBijschrift(woord)) {
     woord = woorden.volgende();
   }
   return woord;
@@ -53,21 +132,49 @@ Woord ElementLezer::slaOver(Woord woord) {
 }
 
 std::optional<Woord> ElementLezer::lees(ArrayBytes& bytes) {
-  Woord woord = volgende();
-  while (!woord.is("}")) {
+  bytes.reserve(bytes.size() + schatAantal(woorden.ongelezen()));
+  for (;;) {
+    leesRijen(bytes);
+    Woord woord = woorden.volgende();
+    if (isBijschrift(woord)) {
+      continue;
+    }
+    if (woord.is("}")) {
+      return std::nullopt;
+    }
     std::optional<unsigned char> const element = leesElement(woord);
     if (!element) {
       return woord;
     }
     bytes.push_back(*element);
     woord = volgende();
-    if (woord.is(",")) {
-      woord = volgende();
-    } else if (!woord.is("}")) {
+    if (woord.is("}")) {
+      return std::nullopt;
+    }
+    if (!woord.is(",")) {
       return woord;
     }
   }
-  return std::nullopt;
+}
+
+// Takes the elements that stand there as they are generated, up to the first that does not.
+void ElementLezer::leesRijen(ArrayBytes& bytes) {
+  std::string_view const tekst = woorden.ongelezen();
+  std::size_t gelezen = 0;
+  for (std::size_t plaats = 0; plaats + langsteElement <= tekst.size();) {
+    if (isWit(tekst[plaats])) {
+      ++plaats;
+      continue;
+    }
+    KortElement const element = kortElementVan(tekst.data() + plaats, isSigned);
+    if (element.lengte == 0) {
+      break;
+    }
+    bytes.push_back(static_cast<unsigned char>(element.waarde));
+    plaats += element.lengte;
+    gelezen = plaats;
+  }
+  woorden.slaOver(gelezen);
 }
 
 // `woord` is the first word of the element, and is left at the last one that was read.

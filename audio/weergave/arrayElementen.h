@@ -24,6 +24,7 @@ class ElementLezer {
 
  private:
   std::optional<unsigned char> leesElement(Woord& woord);
+  void leesRijen(ArrayBytes& bytes);
 
   TekstWoorden& woorden;
   bool isSigned;

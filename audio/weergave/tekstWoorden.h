@@ -30,6 +30,11 @@ class TekstWoorden {
 
   Woord volgende();
 
+  // What comes behind the last word, and how to pass over the first bytes of that. Whoever does
+  // knows that words end there.
+  std::string_view ongelezen() const { return rest; }
+  void slaOver(std::size_t aantal) { rest.remove_prefix(aantal); }
+
   // The number of the line that a word stands in, from 1 on. To be asked in the order of the words.
   std::size_t regelVan(Woord const& woord);
 
