@@ -9,6 +9,7 @@
 #include <string>
 
 #include "bench/adpcmTekst.h"
+#include "bench/lezer.h"
 #include "bench/opdracht.h"
 #include "bench/pcmTekst.h"
 #include "bench/speexTekst.h"
@@ -25,6 +26,7 @@ int main() {
   bool const pcm = meetPcm(map);
   bool const adpcm = meetAdpcm(map);
   bool const speex = meetSpeex(map);
+  bool const lezers = meetLezers(map);
   wxFileName::Rmdir(map, wxPATH_RMDIR_RECURSIVE);
-  return opdracht && pcm && adpcm && speex ? 0 : 1;
+  return opdracht && pcm && adpcm && speex && lezers ? 0 : 1;
 }

@@ -33,10 +33,6 @@ std::optional<int> getalVan(Woord const& woord) {
   return uitslag.ec == std::errc() && uitslag.ptr == einde ? std::optional(waarde) : std::nullopt;
 }
 
-constexpr bool isWit(char teken) {
-  return teken == ' ' || (teken >= '\t' && teken <= '\r');
-}
-
 // The value of a digit in either case; 16 for any other character.
 constexpr std::array<unsigned char, 256> maakCijfers() {
   constexpr std::string_view tekens = "0123456789abcdef0123456789ABCDEF";

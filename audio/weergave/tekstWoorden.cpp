@@ -4,8 +4,6 @@
 
 namespace {
 
-constexpr std::string_view wit = " \t\n\r\v\f";
-
 bool isCijfer(char teken) {
   return teken >= '0' && teken <= '9';
 }
@@ -31,7 +29,7 @@ std::size_t regelEinde(std::string_view tekst, std::size_t vanaf) {
 }  // namespace
 
 Woord TekstWoorden::volgende() {
-  rest.remove_prefix(std::min(rest.find_first_not_of(wit), rest.size()));
+  rest.remove_prefix(lengteVan(rest, isWit));
   if (rest.empty()) {
     return {WoordSoort::einde, rest};
   }

@@ -23,6 +23,11 @@ struct Woord {
   }
 };
 
+// What stands between words, line ends too.
+constexpr bool isWit(char teken) {
+  return teken == ' ' || (teken >= '\t' && teken <= '\r');
+}
+
 class TekstWoorden {
  public:
   // Reads `tekst`, which may hold any bytes and must outlive this object and its words.
