@@ -1,6 +1,7 @@
 #include "externals/desktop/desktopAppBasis.h"
 
 #include <langinfo.h>
+#include <sys/utsname.h>
 #include <wx/datetime.h>
 #include <wx/gdicmn.h>
 #include <wx/log.h>
@@ -29,6 +30,14 @@ struct Moment {
 Moment geefMoment() {
   wxDateTime const nu = wxDateTime::Now();
   return {nu.Format("%Y-%m-%d"), nu.Format("%H:%M:%S")};
+}
+
+// What a wxPlatformInfo says. Making one of those starts a shell for each of its questions about
+// the system, which costs half as much as all else of a start.
+wxOperatingSystemId geefSysteem() {
+  utsname gegevens{};
+  uname(&gegevens);
+  return wxPlatformInfo::GetOperatingSystemId(gegevens.sysname);
 }
 
 bool isWindows(wxOperatingSystemId systeem) {
@@ -88,14 +97,14 @@ DesktopAppBasis::~DesktopAppBasis() {
   appConfig->SetPath(statistiekPad);
   appConfig->Write("StopDatum", stop.datum);
   appConfig->Write("StopTijd", stop.tijd);
-  appConfig->Write("OS", static_cast<int>(platform.GetOperatingSystemId()));
+  appConfig->Write("OS", static_cast<int>(geefSysteem()));
   wxConfigBase::Set(nullptr);
   appConfig.reset();
 }
 
 void DesktopAppBasis::startTaal(wxString const& naam) {
   wxString const taalNaam = wxLocale::GetLanguageName(taal);
-  if (isWindows(platform.GetOperatingSystemId())) {
+  if (isWindows(geefSysteem())) {
     wxFileTranslationsLoader::AddCatalogLookupPathPrefix(wxStandardPaths::Get().GetResourcesDir() +
                                                          R"(\..\share\locale)");
   }
@@ -120,13 +129,21 @@ void DesktopAppBasis::voegCatalogiToe(wxString const& naam, wxString const& taal
 }
 
 wxString DesktopAppBasis::geefOSNaam() const {
-  return platform.GetOperatingSystemDescription();
+  return geefPlatform().GetOperatingSystemDescription();
 }
 
 wxString DesktopAppBasis::geefPlatformRegel() const {
-  return wxPlatformInfo::GetPortIdName(platform.GetPortId(), platform.IsUsingUniversalWidgets()) +
-         " " + wxPlatformInfo::GetOperatingSystemIdName(platform.GetOperatingSystemId()) + "(" +
-         platform.GetBitnessName() + ")";
+  wxPlatformInfo const& dit = geefPlatform();
+  return wxPlatformInfo::GetPortIdName(dit.GetPortId(), dit.IsUsingUniversalWidgets()) + " " +
+         wxPlatformInfo::GetOperatingSystemIdName(dit.GetOperatingSystemId()) + "(" +
+         dit.GetBitnessName() + ")";
+}
+
+wxPlatformInfo const& DesktopAppBasis::geefPlatform() const {
+  if (!platform) {
+    platform.emplace();
+  }
+  return *platform;
 }
 
 int DesktopAppBasis::onInitRoutines() {

@@ -10,6 +10,7 @@
 #include <wx/string.h>
 
 #include <memory>
+#include <optional>
 
 #include "externals/desktop/microcontroller.h"
 
@@ -53,11 +54,12 @@ class DesktopAppBasis {
  private:
   void startTaal(wxString const& naam);
   void voegCatalogiToe(wxString const& naam, wxString const& taalNaam);
+  wxPlatformInfo const& geefPlatform() const;
 
   std::unique_ptr<wxFileConfig> appConfig;
   wxLocale locale;
-  int taal;  // a wxLanguage
-  wxPlatformInfo platform;
+  int taal;                                        // a wxLanguage
+  mutable std::optional<wxPlatformInfo> platform;  // made when it is first asked for
   IntelProcessor processor;
   wxSingleInstanceChecker instantieControle;
 };

@@ -1,4 +1,5 @@
 // What the frame reads and writes from its start to its end.
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <wx/utils.h>
 
@@ -54,7 +55,21 @@ TEST_F(StartStop, FirstStartWritesTheLanguageAndTheStatistics) {
   EXPECT_EQ(sleutels.at("/Gebruikersinstellingen/Taal"),
             wxString::Format("%d", static_cast<int>(wxLANGUAGE_ENGLISH)));
   EXPECT_EQ(sleutels.at("/Statistiek/OS"),
-            wxString::Format("%d", static_cast<int>(wxPlatformInfo().GetOperatingSystemId())));
+            wxString::Format("%d", static_cast<int>(wxOS_UNIX_LINUX)));
+}
+
+// The pages of every program that was waited for are counted.
+TEST_F(StartStop, StartAndStopStartNoOtherProgram) {
+  auto const paginas = [] {
+    rusage kinderen{};
+    getrusage(RUSAGE_CHILDREN, &kinderen);
+    return kinderen.ru_minflt;
+  };
+  long const voor = paginas();
+  start();
+  EXPECT_EQ(paginas(), voor);
+  stop();
+  EXPECT_EQ(paginas(), voor);
 }
 
 TEST_F(StartStop, StatisticsAreTheLocalTimesOfStartAndStop) {

@@ -43,8 +43,7 @@ class ConfiguratieProef : public GereedProef {
         {"/Configuratie/speexFile", ""},
         {"/Configuratie/klasseNaam", ""},
         {"/Configuratie/Convertertype", "0"},
-        {"/Statistiek/OS",
-         wxString::Format("%d", static_cast<int>(wxPlatformInfo().GetOperatingSystemId()))},
+        {"/Statistiek/OS", wxString::Format("%d", static_cast<int>(wxOS_UNIX_LINUX))},
     };
     for (int i = 1; i <= 9; ++i) {
       sleutels[wxString::Format("/Configuratie/file%d", i)] = "";
