@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
+#include <functional>
 #include <iterator>
 
 namespace {
@@ -14,6 +16,14 @@ namespace {
 double alsSeconden(timeval const& tijd) {
   constexpr double microsPerSeconde = 1e6;
   return static_cast<double>(tijd.tv_sec) + static_cast<double>(tijd.tv_usec) / microsPerSeconde;
+}
+
+// Of this process so far.
+double processorTijd() {
+  timespec tijd{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &tijd);
+  constexpr double nanosPerSeconde = 1e9;
+  return static_cast<double>(tijd.tv_sec) + static_cast<double>(tijd.tv_nsec) / nanosPerSeconde;
 }
 
 }  // namespace
@@ -48,6 +58,29 @@ std::vector<Verbruik> meetOmBeurten(int keer, Werken const& werken) {
                    });
   }
   return beste;
+}
+
+Tijden meetHierOmBeurten(int keer, Werken const& werken) {
+  Tijden tijden(werken.size());
+  for (int i = 0; i < keer; ++i) {
+    for (std::size_t werk = 0; werk < werken.size(); ++werk) {
+      double const begin = processorTijd();
+      if (werken[werk]() != 0) {
+        return {};
+      }
+      tijden[werk].push_back(processorTijd() - begin);
+    }
+  }
+  return tijden;
+}
+
+double middelsteVerhouding(std::vector<double> const& eigen, std::vector<double> const& ander) {
+  std::vector<double> ronden;
+  std::transform(eigen.begin(), eigen.end(), ander.begin(), std::back_inserter(ronden),
+                 std::divides<>());
+  auto const midden = ronden.begin() + static_cast<std::ptrdiff_t>(ronden.size() / 2);
+  std::nth_element(ronden.begin(), midden, ronden.end());
+  return *midden;
 }
 
 bool alleGeslaagd(std::vector<Verbruik> const& gemeten) {

@@ -20,6 +20,15 @@ Verbruik meetInKind(std::function<int()> const& werk);
 // or faster meanwhile does so for all of them.
 using Werken = std::vector<std::function<int()>>;
 std::vector<Verbruik> meetOmBeurten(int keer, Werken const& werken);
+// The processor times of works that take turns in this very process, by work and by round: for
+// works that differ by a few per cent, since to start a process costs some time more or less. Empty
+// where a work returns another status than 0.
+using Tijden = std::vector<std::vector<double>>;
+Tijden meetHierOmBeurten(int keer, Werken const& werken);
+// Of the ratios of all rounds the one in the middle. The least times of two works may come from
+// rounds in which the processor ran at different speeds.
+double middelsteVerhouding(std::vector<double> const& eigen, std::vector<double> const& ander);
+
 bool alleGeslaagd(std::vector<Verbruik> const& gemeten);
 
 // Prints a figure and its goal in one line, and returns `gehaald`, whether the goal was reached.
