@@ -7,6 +7,7 @@
 
 #include <algorithm>
 
+#include "audio/codec/audioConfig.h"
 #include "audio/codec/fragmentTekst.h"
 #include "audio/codec/logTekst.h"
 #include "audio/codec/rijSchrijver.h"
@@ -30,42 +31,19 @@ float schaal(short sample, unsigned long long bits) {
   return static_cast<short>(static_cast<unsigned short>(breed >> (bits & masker)));
 }
 
-// Reads the values of a recording some frames ahead: a call of the system for each frame would cost
-// more than all else that comes to libspeex's work.
-class Voorraad {
- public:
-  // Of `bron`, at most `items` values are asked for in all.
-  Voorraad(SndBestand& bron, sf_count_t items) : wav(bron), teVragen(items), blok(blokItems) {}
-
-  // The next values, up to `aantal`, at most a block. Fewer at the end, or where a read fails.
-  sf_count_t neem(short* doel, sf_count_t aantal) {
-    if (over < aantal) {
-      vulAan();
-    }
-    sf_count_t const deel = std::min(over, aantal);
-    std::copy_n(blok.begin() + begin, deel, doel);
-    begin += deel;
-    over -= deel;
-    return deel;
+void schaalAlle(std::vector<short> const& samples, std::vector<float>& geschaald,
+                unsigned long long bits) {
+  if (bits < sampleBits) {
+    // The same for the shifts of a DAC, in a form that processors do many at a time.
+    std::transform(samples.begin(), samples.end(), geschaald.begin(),
+                   [k = static_cast<int>(bits)](short sample) {
+                     return static_cast<float>(static_cast<int>(sample) >> k);
+                   });
+  } else {
+    std::transform(samples.begin(), samples.end(), geschaald.begin(),
+                   [bits](short sample) { return schaal(sample, bits); });
   }
-
- private:
-  void vulAan() {
-    std::copy_n(blok.begin() + begin, over, blok.begin());
-    begin = 0;
-    sf_count_t const gevraagd = std::min(static_cast<sf_count_t>(blok.size()) - over, teVragen);
-    over += wav.leesItems(blok.data() + over, gevraagd);
-    teVragen -= gevraagd;
-  }
-
-  static constexpr std::size_t blokItems = 16384;
-
-  SndBestand& wav;
-  sf_count_t teVragen;
-  std::vector<short> blok;
-  sf_count_t begin = 0;
-  sf_count_t over = 0;
-};
+}
 
 // Counted over sample frames, not bytes.
 Percentage maakVerhouding(unsigned long long bytes, sf_count_t frames) {
@@ -182,15 +160,15 @@ void SpeexDesktopEncoder::schrijfOmvang(FragmentTekst& tekst, Omvang const& omva
 
 SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav, Bytes& frames) {
   auto const n = static_cast<sf_count_t>(geefFrameSize(config.formaat));
-  sf_count_t const aantal = wav.info().frames / n + (wav.info().frames % n > 0 ? 1 : 0);
-  Voorraad voorraad(wav, aantal * n);
-  std::vector<short> samples(static_cast<std::size_t>(n));
+  std::vector<short> vers(static_cast<std::size_t>(n));
+  std::vector<short> samples(vers.size());
   std::vector<float> geschaald(samples.size());
   Omvang omvang;
-  for (sf_count_t frame = 0; frame < aantal; ++frame) {
+  for (sf_count_t gelezen = 0; gelezen < wav.info().frames; gelezen += n) {
     // The end of the file fills the last block partly. The rest are the samples of the block
-    // before, not silence, and they are encoded along.
-    voorraad.neem(samples.data(), n);
+    // before, not silence, and they are encoded along. Not all formats leave them alone: some reads
+    // clear what they do not fill, hence the second block.
+    std::copy_n(vers.begin(), wav.leesItems(vers.data(), n), samples.begin());
     int const bytes = encodeFrame(samples, geschaald);
     omvang.grootsteFrame = std::max(omvang.grootsteFrame, bytes);
     omvang.totaal += static_cast<unsigned long long>(bytes) + 1;
@@ -215,8 +193,7 @@ void SpeexDesktopEncoder::schrijfFrames(Bytes const& frames, wxOutputStream& uit
 // Returns the number of bytes that the frame has in frameBuffer.
 int SpeexDesktopEncoder::encodeFrame(std::vector<short> const& samples,
                                      std::vector<float>& geschaald) {
-  std::transform(samples.begin(), samples.end(), geschaald.begin(),
-                 [k = config.gainBits](short sample) { return schaal(sample, k); });
+  schaalAlle(samples, geschaald, config.gainBits);
   speex_bits_reset(&bits);
   speex_encode(encoderState.get(), geschaald.data(), &bits);
   return speex_bits_write(&bits, frameBuffer.data(), maxFrameBytes);
