@@ -18,15 +18,14 @@ double alsSeconden(timeval const& tijd) {
   return static_cast<double>(tijd.tv_sec) + static_cast<double>(tijd.tv_usec) / microsPerSeconde;
 }
 
-// Of this process so far.
+}  // namespace
+
 double processorTijd() {
   timespec tijd{};
   clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &tijd);
   constexpr double nanosPerSeconde = 1e9;
   return static_cast<double>(tijd.tv_sec) + static_cast<double>(tijd.tv_nsec) / nanosPerSeconde;
 }
-
-}  // namespace
 
 Verbruik meetInKind(std::function<int()> const& werk) {
   auto const begin = std::chrono::steady_clock::now();

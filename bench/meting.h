@@ -5,6 +5,9 @@
 #include <string>
 #include <vector>
 
+// The processor time of this process so far, in seconds.
+double processorTijd();
+
 struct Verbruik {
   double seconden;    // processor time, user and system
   double verstreken;  // seconds from start to end

@@ -18,6 +18,7 @@
 #include "audio/speex/encoder/toepassing/kestrolin.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "audio/uitvoer/encoderSoort.h"
+#include "bench/meting.h"
 #include "bench/venster/gemetenVenster.h"
 
 namespace {

@@ -7,20 +7,7 @@
 
 #include <cstdio>
 
-namespace {
-
-rusage verbruik() {
-  rusage tot{};
-  getrusage(RUSAGE_SELF, &tot);
-  return tot;
-}
-
-double alsSeconden(timeval const& tijd) {
-  constexpr double microsPerSeconde = 1e6;
-  return static_cast<double>(tijd.tv_sec) + static_cast<double>(tijd.tv_usec) / microsPerSeconde;
-}
-
-}  // namespace
+#include "bench/meting.h"
 
 int draaiTotGetoond(wxWindow& venster, std::function<void()> const& doe) {
   bool getekend = false;
@@ -41,14 +28,11 @@ int draaiTotGetoond(wxWindow& venster, std::function<void()> const& doe) {
   return wxTheApp->OnRun();
 }
 
-double processorTijd() {
-  rusage const tot = verbruik();
-  return alsSeconden(tot.ru_utime) + alsSeconden(tot.ru_stime);
-}
-
 void meldEnEindig(double begin, wxTextCtrl const& veld) {
   double const seconden = processorTijd() - begin;
-  std::printf("%f %ld %ld\n", seconden, verbruik().ru_maxrss, veld.GetLastPosition());
+  rusage verbruik{};
+  getrusage(RUSAGE_SELF, &verbruik);
+  std::printf("%f %ld %ld\n", seconden, verbruik.ru_maxrss, veld.GetLastPosition());
   eindig(0);
 }
 

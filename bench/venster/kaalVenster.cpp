@@ -23,6 +23,7 @@
 #include <array>
 #include <string>
 
+#include "bench/meting.h"
 #include "bench/venster/gemetenVenster.h"
 
 namespace {
