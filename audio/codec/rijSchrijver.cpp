@@ -34,9 +34,10 @@ char* drukByte(char* plaats, ByteTekst const& tekst) {
 
 }  // namespace
 
-RijSchrijver::RijSchrijver(wxOutputStream& stroom, ByteTeksten const& notatie, std::size_t verwacht)
+RijSchrijver::RijSchrijver(wxOutputStream& stroom, ByteTeksten const& notatie, std::size_t bytes,
+                           std::size_t anders)
     : uit(stroom), teksten(notatie), blok(blokTekens) {
-  ruimte.emplace(stroom, meesteTekens(verwacht));
+  ruimte.emplace(stroom, meesteTekens(bytes) + anders);
 }
 
 void RijSchrijver::schrijfBytes(unsigned char const* begin, std::size_t aantal) {

@@ -1,5 +1,5 @@
 // The writer of the rows of all arrays: bytes, eight to the line, as one of the two tables of
-// byteTekst.h has them. Rows are most of a generated text, so that they are made as bytes and go to
+// byteTekst.h has them. Rows are most of a generated text, so they are made as bytes and go to
 // the stream in blocks.
 #pragma once
 
@@ -13,9 +13,10 @@
 
 class RijSchrijver {
  public:
-  // Appends to `stroom`, which must outlive this object. A stream in memory gets room for
-  // `verwacht` bytes of an array at once. Passes std::bad_alloc on.
-  RijSchrijver(wxOutputStream& stroom, ByteTeksten const& notatie, std::size_t verwacht);
+  // Appends to `stroom`, which must outlive this object. A stream in memory gets room for `bytes`
+  // bytes of an array, and for `anders` signs of other text, at once. Passes std::bad_alloc on.
+  RijSchrijver(wxOutputStream& stroom, ByteTeksten const& notatie, std::size_t bytes,
+               std::size_t anders = 0);
 
   // Goes on in the row where the last call stopped. A full row is broken, by "\n\t", where another
   // byte follows it.

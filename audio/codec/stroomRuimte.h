@@ -10,8 +10,8 @@ class wxStreamBuffer;
 class StroomRuimte {
  public:
   // Makes the memory of `uit` large enough for `tekens` more bytes, at once. Memory that nobody
-  // writes to costs nothing. Leaves any stream alone that is none in memory. Passes std::bad_alloc
-  // on.
+  // writes to costs nothing. Other streams, streams of fixed memory, and streams with text behind
+  // the place of writing stay as they are. Passes std::bad_alloc on.
   StroomRuimte(wxOutputStream& uit, std::size_t tekens);
   // Gives back what was not written. Until then it counts as a part of the stream.
   ~StroomRuimte();

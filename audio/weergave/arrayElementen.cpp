@@ -93,8 +93,8 @@ KortElement kortElementVan(char const* tekst, bool isSigned) {
   return {teken == 0 ? element.waarde : 0U - element.waarde, element.lengte + teken};
 }
 
-// How many elements there are, or some more: each takes four characters at least where all are
-// hexadecimal. The elements of other arrays may be shorter.
+// A guess of the number of elements: hexadecimal ones take four characters at least. The vector
+// grows where the guess is too small.
 std::size_t schatAantal(std::string_view tekst) {
   constexpr std::size_t kortste = 4;
   return std::min(tekst.find('}'), tekst.size()) / kortste;

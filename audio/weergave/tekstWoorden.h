@@ -35,8 +35,8 @@ class TekstWoorden {
 
   Woord volgende();
 
-  // What comes behind the last word, and how to pass over the first bytes of that. Whoever does
-  // knows that words end there.
+  // What comes behind the last word, and how to pass over the first bytes of that. The caller makes
+  // sure that a word ends there.
   std::string_view ongelezen() const { return rest; }
   void slaOver(std::size_t aantal) { rest.remove_prefix(aantal); }
 

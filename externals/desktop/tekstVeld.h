@@ -8,7 +8,8 @@ class wxFFile;
 // The toolkit's LoadFile holds a whole file in three forms beside the one that the field keeps:
 // nine bytes for each that the file has. In parts the peak is less than half, and the time some
 // two thirds. All else that LoadFile does comes out the same: the text, one event of a change
-// behind it, the cursor at its start, and no edits.
+// behind it, the cursor at its start, and no edits. What stood in the field is gone where a file
+// fails behind its first part, and a part is left where memory runs out.
 class TekstVeld : public wxTextCtrl {
  public:
   using wxTextCtrl::wxTextCtrl;

@@ -143,6 +143,37 @@ TEST(RijSchrijver, LongArrayIsWholeAcrossItsBlocks) {
   }
 }
 
+TEST(RijSchrijver, LongestRowFitsWhereverItBeginsInABlock) {
+  Bytes const bytes(8, 0xFF);
+  for (std::size_t over = 0; over < 64; ++over) {
+    std::string const voor(65536 - over, 'a');
+    EXPECT_EQ(geschreven([&](RijSchrijver& rijen) {
+                rijen.schrijfTekst(voor);
+                rijen.schrijfBytes(bytes.data(), 8);
+                rijen.schrijfBytes(bytes.data(), 8);
+              }),
+              "eerst\n" + voor +
+                  "0xff,0xff,0xff,0xff,0xff,0xff,0xff,0xff,\n\t"
+                  "0xff,0xff,0xff,0xff,0xff,0xff,0xff,0xff,")
+        << over;
+  }
+}
+
+TEST(RijSchrijver, RoomIsMadeForTheLongestTextThatTheBytesCanHave) {
+  for (std::size_t const aantal : {1U, 8U, 9U, 1000U}) {
+    Bytes const bytes(aantal, 0xFF);
+    std::size_t const nodig = verwachteRijen(bytes).size();
+    wxMemoryOutputStream uit;
+    uit.Write("eerst\n", 6);
+    RijSchrijver const rijen(uit, hexadecimaleBytes, aantal);
+    EXPECT_GE(uit.GetSize(), nodig) << aantal;
+    wxMemoryOutputStream meer;
+    meer.Write("eerst\n", 6);
+    RijSchrijver const metTekst(meer, hexadecimaleBytes, aantal, 100);
+    EXPECT_EQ(meer.GetSize(), uit.GetSize() + 100);
+  }
+}
+
 // Takes one write and fails the next.
 class VolleStroom : public wxOutputStream {
  public:

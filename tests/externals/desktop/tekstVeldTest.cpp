@@ -23,6 +23,8 @@ struct Stand {
   long einde = 0;
   bool isGewijzigd = false;
   int schuif = 0;
+  int regels = 0;
+  bool isBewaard = false;
   std::vector<std::size_t> bijEvent;  // the length of the text at each event of a change
   std::vector<wxString> log;
 };
@@ -45,6 +47,7 @@ class TekstVeldProef : public DesktopProef {
     Stand stand;
     auto const volg = [&stand, veld](wxCommandEvent&) {
       stand.bijEvent.push_back(veld->GetValue().length());
+      veld->MarkDirty();
     };
     veld->Bind(wxEVT_TEXT, volg);
     log.clear();
@@ -58,6 +61,9 @@ class TekstVeldProef : public DesktopProef {
     stand.einde = veld->GetLastPosition();
     stand.isGewijzigd = veld->IsModified();
     stand.schuif = veld->GetScrollPos(wxVERTICAL);
+    stand.regels = veld->GetNumberOfLines();
+    // Under the name that LoadFile had.
+    stand.isBewaard = veld->SaveFile();
     return stand;
   }
 
@@ -71,6 +77,8 @@ class TekstVeldProef : public DesktopProef {
     EXPECT_EQ(onze.einde, hunne.einde);
     EXPECT_EQ(onze.isGewijzigd, hunne.isGewijzigd);
     EXPECT_EQ(onze.schuif, hunne.schuif);
+    EXPECT_EQ(onze.regels, hunne.regels);
+    EXPECT_EQ(onze.isBewaard, hunne.isBewaard);
     EXPECT_EQ(onze.bijEvent, hunne.bijEvent);
     EXPECT_EQ(onze.log, hunne.log);
   }
@@ -158,7 +166,8 @@ TEST_F(TekstVeldProef, ShowsSignsOfAnyLength) {
 }
 
 TEST_F(TekstVeldProef, ShowsWhatIsNoUtf8) {
-  for (std::string const vreemd : {"h\xE9", "\xC3", "\xF5\x80\x80\x80", "\xED\xA0\x80"}) {
+  for (std::string const vreemd :
+       {"h\xE9", "\xC3", "\xF5\x80\x80\x80", "\xED\xA0\x80", "\xE0\x80\x80", "\xF0\x80\x80\x80"}) {
     // In the last part, where the first ones are in the field already.
     verwachtGelijk(regels(5 * deel / 2) + vreemd + "\n");
     verwachtGelijk(vreemd + "\n" + regels(3 * deel / 2));
@@ -181,6 +190,14 @@ TEST_F(TekstVeldProef, TellsAFileThatCannotBeLoadedAsTheToolkitDoes) {
   verwachtGelijk();
   EXPECT_FALSE(laad(eigen).geladen);
   EXPECT_GT(laad(eigen).log.size(), 0U);
+}
+
+TEST_F(TekstVeldProef, KeepsItsTextWhereThereIsNothingToRead) {
+  bestand = map.pad("");
+  toolkit->ChangeValue("before");
+  eigen->ChangeValue("before");
+  verwachtGelijk();
+  EXPECT_EQ(eigen->GetValue(), "before");
 }
 
 TEST_F(TekstVeldProef, TakesLessMemoryThanTheFile) {

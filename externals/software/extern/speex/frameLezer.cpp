@@ -94,8 +94,8 @@ FrameLezer::FrameLezer(LeesBlok& bron)
     : wxTextInputStream(bron, ",", DoorlezendeConv()), blok(bron) {}
 
 // The bytes that can be read where they lie: once it has shown that the text begins with no byte
-// order mark, and while all that was read is decoded too. (A mark that is followed by no character
-// of its encoding costs later characters some bytes.)
+// order mark, and while all that was read is decoded too. Behind a mark the toolkit may drop bytes
+// of later characters.
 std::string_view FrameLezer::gereed() const {
   bool const isKaal = static_cast<DoorlezendeConv const*>(m_conv)->GetBOM() == wxBOM_None;
   return isKaal && m_validBegin == m_validEnd ? blok.gereed() : std::string_view();

@@ -6,6 +6,9 @@
 
 class RijSchrijver;
 
+// The most signs that a frame takes beside its bytes.
+constexpr std::size_t meesteFrameTekens = 64;
+
 // Frame `nummer`, counted from 0, of `aantal` bytes, at most 200. A frame whose size is a multiple
 // of eight ends in a line that holds a tab alone. The text is ASCII, with "\n" line ends. Wants a
 // writer with the table of decimal bytes.

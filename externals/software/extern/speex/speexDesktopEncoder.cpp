@@ -113,7 +113,7 @@ int SpeexDesktopEncoder::encode(wxFileName const& bestand, wxOutputStream& uitvo
           "Byte) */\n"));
     tekst.schrijf(headerTekst(info));
   }
-  schrijfFrames(frames, uitvoer);
+  schrijfFrames(frames, omvang.frames, uitvoer);
   tekst.sluitArray(bestand);
   return gelukt;
 }
@@ -172,6 +172,7 @@ SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav, B
     int const bytes = encodeFrame(samples, geschaald);
     omvang.grootsteFrame = std::max(omvang.grootsteFrame, bytes);
     omvang.totaal += static_cast<unsigned long long>(bytes) + 1;
+    ++omvang.frames;
     frames.push_back(static_cast<unsigned char>(bytes));
     frames.insert(frames.end(), frameBuffer.begin(), frameBuffer.begin() + bytes);
   }
@@ -179,8 +180,9 @@ SpeexDesktopEncoder::Omvang SpeexDesktopEncoder::encodeFrames(SndBestand& wav, B
   return omvang;
 }
 
-void SpeexDesktopEncoder::schrijfFrames(Bytes const& frames, wxOutputStream& uit) {
-  RijSchrijver rijen(uit, decimaleBytes, frames.size());
+void SpeexDesktopEncoder::schrijfFrames(Bytes const& frames, std::size_t aantalFrames,
+                                        wxOutputStream& uit) {
+  RijSchrijver rijen(uit, decimaleBytes, frames.size(), aantalFrames * meesteFrameTekens);
   unsigned long long nummer = 0;
   for (std::size_t plaats = 0; plaats < frames.size(); ++nummer) {
     std::size_t const aantal = frames[plaats];

@@ -54,10 +54,11 @@ class SpeexDesktopEncoder : public SpeexEncoder {
              Percentage& verhouding);
 
  private:
-  // What the frames of a file come to, in bytes.
+  // What the frames of a file come to: sizes in bytes.
   struct Omvang {
     unsigned long long totaal = 0;  // with the size bytes
     int grootsteFrame = 0;          // without its size byte
+    std::size_t frames = 0;         // their number
   };
 
   void meldFrequentie(wxFileName const& bestand, int frequentie) const;
@@ -68,7 +69,7 @@ class SpeexDesktopEncoder : public SpeexEncoder {
   using Bytes = std::vector<unsigned char>;
 
   Omvang encodeFrames(SndBestand& wav, Bytes& frames);
-  static void schrijfFrames(Bytes const& frames, wxOutputStream& uit);
+  static void schrijfFrames(Bytes const& frames, std::size_t aantalFrames, wxOutputStream& uit);
   int encodeFrame(std::vector<short> const& samples, std::vector<float>& geschaald);
 
   std::array<char, maxFrameBytes> frameBuffer{};  // one encoded frame
