@@ -25,8 +25,8 @@
 
 namespace {
 
-constexpr int herhalingen = 60;
-constexpr int seconden = 30;
+constexpr int herhalingen = 15;
+constexpr int seconden = 120;
 constexpr int framesPerSeconde = 50;
 constexpr int frames = seconden * framesPerSeconde;
 constexpr KestrolinConfig eersteStart;
@@ -103,7 +103,7 @@ int draaiLus(Band const& band, std::vector<short> const& samples) {
 // The generated text with the true number of frames in its header, so that every frame that the
 // decoder writes is one that it decoded.
 std::string metWareTelling(Band const& band, std::string const& wav) {
-  static_assert(frames == 0x5dc);
+  static_assert(frames == 0x1770);
   wxStringOutputStream uit;
   if (!encodeer(band, wav, uit)) {
     return {};
@@ -114,7 +114,7 @@ std::string metWareTelling(Band const& band, std::string const& wav) {
   std::size_t const tot = tekst.find('\n', van);
   return tekst.replace(
       van, tot - van,
-      std::string("\t(signed char)") + band.frequentie + ",(signed char)0xdc,(signed char)0x05,");
+      std::string("\t(signed char)") + band.frequentie + ",(signed char)0x70,(signed char)0x17,");
 }
 
 int decodeer(Band const& band, std::string const& tekst, std::string const& doel) {
