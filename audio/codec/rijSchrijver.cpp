@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
 namespace {
 
@@ -36,9 +37,10 @@ char* drukByte(char* plaats, ByteTekst const& tekst) {
 
 RijSchrijver::RijSchrijver(wxOutputStream& stroom, ByteTeksten const& notatie, std::size_t bytes,
                            std::size_t anders)
-    : uit(stroom), teksten(notatie), blok(blokTekens) {
-  ruimte.emplace(stroom, meesteTekens(bytes) + anders);
-}
+    : uit(stroom),
+      ruimte(std::in_place, stroom, meesteTekens(bytes) + anders),
+      teksten(notatie),
+      blok(blokTekens) {}
 
 void RijSchrijver::schrijfBytes(unsigned char const* begin, std::size_t aantal) {
   while (aantal > 0) {

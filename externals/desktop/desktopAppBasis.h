@@ -58,8 +58,9 @@ class DesktopAppBasis {
 
   std::unique_ptr<wxFileConfig> appConfig;
   wxLocale locale;
-  int taal;                                        // a wxLanguage
-  mutable std::optional<wxPlatformInfo> platform;  // made when it is first asked for
+  int taal;  // a wxLanguage
+  // Made when it is first asked for.
+  mutable std::optional<wxPlatformInfo> platform;
   IntelProcessor processor;
   wxSingleInstanceChecker instantieControle;
 };
