@@ -6,6 +6,8 @@
 #include <cstring>
 #include <utility>
 
+#include "audio/codec/hartslag.h"
+
 namespace {
 
 constexpr std::size_t bytesPerRij = 8;
@@ -78,6 +80,7 @@ void RijSchrijver::rondAf() {
 }
 
 void RijSchrijver::stuurDoor() {
+  klop();
   if (uit.IsOk()) {
     uit.Write(blok.data(), lengte);
   }

@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <string>
 
+#include "audio/codec/hartslag.h"
+
 SndBestand::SndBestand(wxFileName const& bestand, int modus, SF_INFO const& gevraagd)
     : pad(bestand.GetFullPath()), gegevens(gevraagd), toestand(open(bestand, modus, gegevens)) {}
 
@@ -59,6 +61,7 @@ sf_count_t SndBestand::leesItems(short* doel, sf_count_t aantal) {
   if (!isOpen()) {
     return 0;
   }
+  klop();
   std::vector<short>& rest = toestand->rest;
   auto const neemRest = [&rest, doel, aantal](sf_count_t al) {
     auto const deel = std::min(aantal - al, static_cast<sf_count_t>(rest.size()));

@@ -83,6 +83,7 @@ bool TekstVeld::voegDelenToe(wxFFile& bestand) {
     } else if (!tekst.empty()) {
       AppendText(tekst);
     }
+    naDeel();
   }
   return true;
 }

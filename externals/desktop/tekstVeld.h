@@ -3,6 +3,9 @@
 
 #include <wx/textctrl.h>
 
+#include <functional>
+#include <utility>
+
 class wxFFile;
 
 // The toolkit's LoadFile holds a whole file in three forms beside the one that the field keeps:
@@ -14,10 +17,15 @@ class TekstVeld : public wxTextCtrl {
  public:
   using wxTextCtrl::wxTextCtrl;
 
+  // From here on calls this after each part of a file. It must not touch the field.
+  void zetNaDeel(std::function<void()> nieuw) { naDeel = std::move(nieuw); }
+
  protected:
   bool DoLoadFile(wxString const& pad, int soort) override;
 
  private:
   bool laadInDelen(wxString const& pad);
   bool voegDelenToe(wxFFile& bestand);
+
+  std::function<void()> naDeel = [] {};
 };

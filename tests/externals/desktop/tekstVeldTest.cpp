@@ -113,6 +113,17 @@ TEST_F(TekstVeldProef, ShowsALongFileAsTheToolkitDoes) {
   EXPECT_FALSE(eigen->IsFrozen());
 }
 
+// What paints a dialog then works events off.
+TEST_F(TekstVeldProef, LetsOthersWorkAfterEachPart) {
+  int keren = 0;
+  eigen->zetNaDeel([this, &keren] {
+    ++keren;
+    rust();
+  });
+  verwachtGelijk(regels(5 * deel / 2));
+  EXPECT_EQ(keren, 3);
+}
+
 TEST_F(TekstVeldProef, ReplacesWhatItShowed) {
   maakBestand(bestand, regels(3 * deel / 2));
   for (wxTextCtrl* const veld : {toolkit, static_cast<wxTextCtrl*>(eigen)}) {

@@ -3,6 +3,7 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
+#include <wx/font.h>
 #include <wx/imagxpm.h>
 #include <wx/menu.h>
 #include <wx/msgdlg.h>
@@ -19,6 +20,8 @@
 #include <algorithm>
 #include <vector>
 
+#include "audio/codec/hartslag.h"
+#include "audio/speex/encoder/toepassing/bezigheid.h"
 #include "audio/speex/encoder/toepassing/kestrolin.h"
 #include "audio/speex/encoder/toepassing/keuze.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
@@ -89,6 +92,17 @@ wxChoice* maakKeuze(wxWindow* ouder, int id, std::vector<wxString> const& rijen)
                       rijen.data());
 }
 
+// In a fixed-width font, so that rows of bytes stand in columns.
+wxTextCtrl* maakTekstVeld(wxWindow* ouder) {
+  auto* const veld = new TekstVeld(ouder, ID_TEKST, wxEmptyString, wxDefaultPosition, wxDefaultSize,
+                                   wxTE_MULTILINE | wxTE_READONLY);
+  wxFont letters = veld->GetFont();
+  letters.SetFamily(wxFONTFAMILY_TELETYPE);
+  veld->SetFont(letters);
+  veld->zetNaDeel(klop);
+  return veld;
+}
+
 }  // namespace
 
 HoofdVenster::HoofdVenster(wxWindow* parent, int id, wxString const& title, wxPoint const& pos,
@@ -112,6 +126,7 @@ HoofdVenster::HoofdVenster(wxWindow* parent, int id, wxString const& title, wxPo
   set_properties();
   do_layout();
   SetBackgroundStyle(wxBG_STYLE_SYSTEM);
+  neemSleepbestanden();
   leesConfiguratie();
   toonInstellingen();
 }
@@ -202,8 +217,7 @@ void HoofdVenster::maakCodeControls() {
   encodeKnop = new wxButton(paneel, ID_CODEER, "Encode");
   speexSaveKnop = new wxButton(paneel, wxID_SAVE);
   playEncodedKnop = new wxButton(paneel, ID_SPEEL_RESULTAAT, "Play Encoded");
-  tekstVeld = new TekstVeld(paneel, ID_TEKST, wxEmptyString, wxDefaultPosition, wxDefaultSize,
-                            wxTE_MULTILINE | wxTE_READONLY);
+  tekstVeld = maakTekstVeld(paneel);
   quitKnop = new wxButton(paneel, wxID_EXIT);
 }
 
@@ -261,6 +275,7 @@ void HoofdVenster::toonInstellingen() {
 
 void HoofdVenster::onQuit(wxCommandEvent& event) {
   if (gecodeerd && !opgeslagen) {
+    Bezigheid const nu(bezig);
     int const antwoord = wxMessageBox(
         _("Your encoded file wasn't saved.\nWould you like to save it?"),
         _("Encoded audio is not stored yet"), wxYES_NO | wxCANCEL | wxICON_QUESTION, this);

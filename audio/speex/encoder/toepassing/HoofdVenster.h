@@ -126,6 +126,11 @@ class HoofdVenster : public wxFrame {
     wxTreeItemId formaat;
     wxTreeItemId seekable;
   };
+  // Loads what the user chose, and remembers the folder of the first.
+  void laadGekozen(wxArrayString paden);
+  // Whether the files were taken: none are in the middle of a run, a question or a sound.
+  bool laadGesleept(wxArrayString const& paden);
+  void neemSleepbestanden();
   BestandKnoop toonInBoom(wxFileName const& bestand, SF_INFO const& info) const;
   void toonFormaat(BestandKnoop const& knoop, SF_INFO const& info) const;
   // The first file of a load sets the Speex band; false for a later one that does not fit it.
@@ -138,6 +143,9 @@ class HoofdVenster : public wxFrame {
   void speelResultaat(
       wxString const& voorvoegsel,
       std::function<int(wxFileName const& tekst, wxFileName const& wav)> const& decodeer);
+
+  // Hands the keyboard's place on from a control that can no longer be used.
+  void geefFocusDoor(wxWindow const* hadFocus);
 
   // A setting has changed: no result fits the settings any more.
   void geefResultaatOp();
@@ -210,6 +218,7 @@ class HoofdVenster : public wxFrame {
   bool bestandGeladen = false;
   bool gecodeerd = false;   // uitvoerStroom fits the settings
   bool opgeslagen = false;  // that result has been saved
+  int bezig = 0;            // handlers that may show a dialog, or play
   wxString wavDirectory;
   wxString speexDirectory;
   wxString wavFile;    // kept for the configuration, unchanged

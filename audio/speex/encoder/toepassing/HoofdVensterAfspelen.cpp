@@ -13,6 +13,7 @@
 #include "audio/codec/uitvoerBestand.h"
 #include "audio/codec/wavFormaat.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/bezigheid.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "audio/speex/encoder/toepassing/wavGrens.h"
 #include "audio/uitvoer/encoderSoort.h"
@@ -43,6 +44,7 @@ void HoofdVenster::playMusicHandler(wxCommandEvent& /*event*/) {
   if (wavBestanden.empty()) {
     return;
   }
+  Bezigheid const nu(bezig);
   wxTreeItemIdValue plaats = nullptr;
   wxTreeItemId knoop = audioBoom->GetFirstChild(audioBoom->GetRootItem(), plaats);
   for (wxString const& pad : wavBestanden) {
@@ -76,6 +78,7 @@ void HoofdVenster::speelBron(wxSound const& geluid, wxTreeItemId const& knoop) {
 }
 
 void HoofdVenster::playEncodedHandler(wxCommandEvent& event) {
+  Bezigheid const nu(bezig);
   // The encoder that is chosen now decodes the text, whichever made it.
   switch (encoderTypeKeuze->GetSelection()) {
     case EncoderSpeex:

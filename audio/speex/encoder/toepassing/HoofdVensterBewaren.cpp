@@ -7,10 +7,12 @@
 
 #include "audio/codec/uitvoerBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/bezigheid.h"
 #include "audio/uitvoer/bestandsNamen.h"
 #include "audio/uitvoer/doelKeuring.h"
 
 void HoofdVenster::speexSaveHandler(wxCommandEvent& /*event*/) {
+  Bezigheid const nu(bezig);
   std::optional<GekozenDoel> const doel =
       vraagDoel(_("Save the embedded speex file"), speexBestand);
   if (!doel) {

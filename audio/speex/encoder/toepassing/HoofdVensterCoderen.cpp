@@ -10,6 +10,7 @@
 #include "audio/codec/tijdelijkBestand.h"
 #include "audio/codec/uitvoerBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/bezigheid.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "audio/speex/encoder/toepassing/vensterToezicht.h"
 #include "audio/uitvoer/encoderSoort.h"
@@ -57,6 +58,7 @@ void HoofdVenster::encodePCM(wxCommandEvent& /*event*/) {
 
 bool HoofdVenster::codeer(FragmentMaker& maker, wxString const& titel, wxString const& status,
                           std::function<wxString()> const& berichtStaart) {
+  Bezigheid const nu(bezig);
   tekstVeld->Clear();
   VensterToezicht toezicht(this, _("Encoding progress"), _("Completion of encoding progress"),
                            wavBestanden.size(), *inclHeaderVakje);

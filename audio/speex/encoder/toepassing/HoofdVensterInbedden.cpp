@@ -6,9 +6,11 @@
 
 #include "audio/codec/uitvoerBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/bezigheid.h"
 #include "audio/speex/encoder/toepassing/vensterToezicht.h"
 
 void HoofdVenster::wavSaveHandler(wxCommandEvent& /*event*/) {
+  Bezigheid const nu(bezig);
   std::optional<GekozenDoel> const doel =
       vraagDoel(_("Save the WAV files as embedded data"), embedBestand);
   if (!doel) {

@@ -12,10 +12,12 @@
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
 
+#include <algorithm>
 #include <array>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/bedieningsRegels.h"
+#include "audio/speex/encoder/toepassing/bezigheid.h"
 #include "audio/speex/encoder/toepassing/keuze.h"
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "audio/uitvoer/encoderSoort.h"
@@ -28,6 +30,7 @@ void HoofdVenster::bestandGeladenHandler(wxUpdateUIEvent& /*event*/) {
   bool const klasseOntbreekt =
       uitvoerTaalRij(instellingen->speexOutputLanguage).vraagtKlasse && klasseVeld->IsEmpty();
   Bediening const mag = bepaalBediening({bestandGeladen, gecodeerd, klasseOntbreekt});
+  wxWindow* const hadFocus = FindFocus();
   playMusicKnop->Enable(mag.bron);
   audioBoom->Enable(mag.bron);
   menuBalk->FindItem(ID_SPEEL_BRON)->Enable(mag.bron);
@@ -38,6 +41,19 @@ void HoofdVenster::bestandGeladenHandler(wxUpdateUIEvent& /*event*/) {
   menuBalk->FindItem(ID_SPEEL_RESULTAAT)->Enable(mag.resultaat);
   speexSaveKnop->Enable(mag.resultaat);
   playEncodedKnop->Enable(mag.resultaat);
+  geefFocusDoor(hadFocus);
+}
+
+// A control that can no longer be used leaves the keyboard without a place: typed keys go nowhere.
+void HoofdVenster::geefFocusDoor(wxWindow const* hadFocus) {
+  if (hadFocus == nullptr || hadFocus->IsThisEnabled() || hadFocus->GetParent() != paneel) {
+    return;
+  }
+  // What a user wants next: to save what was encoded, to encode what was loaded or changed.
+  std::array<wxButton*, 3> const volgende{speexSaveKnop, encodeKnop, wavOpenKnop};
+  (*std::find_if(volgende.begin(), volgende.end(), [](wxButton const* knop) {
+    return knop->IsThisEnabled();
+  }))->SetFocus();
 }
 
 void HoofdVenster::encoderKeuzeHandler(wxUpdateUIEvent& /*event*/) {
@@ -129,6 +145,7 @@ void HoofdVenster::maxRateHandler(wxCommandEvent& /*event*/) {
 }
 
 void HoofdVenster::inclHeaderHandler(wxCommandEvent& /*event*/) {
+  Bezigheid const nu(bezig);
   bool const zonder =
       !inclHeaderVakje->GetValue() &&
       wxMessageBox(
@@ -142,6 +159,7 @@ void HoofdVenster::inclHeaderHandler(wxCommandEvent& /*event*/) {
 }
 
 void HoofdVenster::langImplHandler(wxCommandEvent& /*event*/) {
+  Bezigheid const nu(bezig);
   UitvoerTaalRij const* const taal = zoekUitvoerTaal(langImplKeuze->GetSelection());
   if (taal != nullptr && heeftArrays(*taal)) {
     instellingen->speexOutputLanguage = taal->nummer;

@@ -7,10 +7,13 @@
 #include <wx/msgdlg.h>
 #include <wx/statusbr.h>
 #include <wx/treectrl.h>
+#include <wx/utils.h>
 
 #include "audio/codec/logTekst.h"
 #include "audio/codec/sndBestand.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/bezigheid.h"
+#include "audio/speex/encoder/toepassing/sleepDoel.h"
 #include "audio/uitvoer/wavKeuring.h"
 
 namespace {
@@ -25,6 +28,7 @@ void meldAfgewezen(wxFileName const& bestand) {
 }  // namespace
 
 void HoofdVenster::wavOpenHandler(wxCommandEvent& /*event*/) {
+  Bezigheid const nu(bezig);
   // The dialog offers MP3 files, which are turned away afterwards.
   wxFileDialog dialoog(this, _("Open an Audio file"), wavDirectory, wxEmptyString,
                        "WAV Files (*.wav)|*.wav|MP3 Files (*mp3)|*.mp3",
@@ -34,6 +38,10 @@ void HoofdVenster::wavOpenHandler(wxCommandEvent& /*event*/) {
   }
   wxArrayString paden;
   dialoog.GetPaths(paden);
+  laadGekozen(paden);
+}
+
+void HoofdVenster::laadGekozen(wxArrayString paden) {
   if (!paden.empty()) {
     // The dialog's own directory is the one that it shows. A typed path need not lie there, and a
     // file chosen from the recent ones has none there.
@@ -42,11 +50,30 @@ void HoofdVenster::wavOpenHandler(wxCommandEvent& /*event*/) {
   openWavFiles(paden);
 }
 
+// The text field takes drops itself, even though nothing can be typed there.
+void HoofdVenster::neemSleepbestanden() {
+  auto const neem = [this](wxArrayString const& paden) { return laadGesleept(paden); };
+  SetDropTarget(new SleepDoel(neem));
+  tekstVeld->SetDropTarget(new SleepDoel(neem));
+}
+
+bool HoofdVenster::laadGesleept(wxArrayString const& paden) {
+  if (bezig > 0 || paden.empty()) {
+    return false;
+  }
+  Bezigheid const nu(bezig);
+  laadGekozen(paden);
+  // As the dialog does: the first save begins here.
+  wxSetWorkingDirectory(wavDirectory);
+  return true;
+}
+
 void HoofdVenster::oudBestandLadenHandler(wxCommandEvent& event) {
   auto const index = static_cast<std::size_t>(event.GetId() - wxID_FILE1);
   if (index >= bestandGeschiedenis.GetCount()) {
     return;
   }
+  Bezigheid const nu(bezig);
   wxArrayString paden;
   paden.Add(bestandGeschiedenis.GetHistoryFile(index));
   openWavFiles(paden);

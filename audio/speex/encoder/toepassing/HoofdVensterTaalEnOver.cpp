@@ -5,6 +5,7 @@
 #include <wx/intl.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "audio/speex/encoder/toepassing/bezigheid.h"
 #include "audio/speex/encoder/toepassing/kestrolin.h"
 #include "audio/speex/encoder/toepassing/logo/parrot.xpm"
 #include "externals/desktop/taalDialoog.h"
@@ -23,6 +24,7 @@ wxIcon maakLogo() {
 }  // namespace
 
 void HoofdVenster::taalHandler(wxCommandEvent& /*event*/) {
+  Bezigheid const nu(bezig);
   // The one source text that is Dutch.
   TaalDialoog dialoog(this, wxID_ANY, _("Kies een taal"), wxDefaultPosition, wxDefaultSize,
                       wxDEFAULT_DIALOG_STYLE);

@@ -4,11 +4,22 @@
 
 #include <wx/progdlg.h>
 
+#include <chrono>
+
+#include "audio/codec/hartslag.h"
 #include "audio/uitvoer/uitvoerRun.h"
 
 class wxCheckBox;
 
-class VensterToezicht : public RunToezicht {
+// The toolkit's dialog, with a clock that can go on while the value stays.
+class VoortgangVenster : public wxProgressDialog {
+ public:
+  using wxProgressDialog::wxProgressDialog;
+
+  void toonTijd();
+};
+
+class VensterToezicht : public RunToezicht, private Hartslag {
  public:
   // For a run over `aantal` files. The box tells whether an array has its header, and is read for
   // each. Box and window must outlive this object.
@@ -20,6 +31,10 @@ class VensterToezicht : public RunToezicht {
   void meldGedaan(std::size_t nummer) override;
 
  private:
-  wxProgressDialog voortgang;
+  // Paints, some ten times a second. Keys, clicks and the log wait.
+  void bijKlop() override;
+
+  VoortgangVenster voortgang;
   wxCheckBox const& inclHeaderVakje;
+  std::chrono::steady_clock::time_point getekend = std::chrono::steady_clock::now();
 };

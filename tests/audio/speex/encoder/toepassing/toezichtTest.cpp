@@ -1,0 +1,70 @@
+// The progress dialog while one file takes long: what it shows, and what waits.
+#include "audio/speex/encoder/toepassing/vensterToezicht.h"
+
+#include <wx/checkbox.h>
+#include <wx/stattext.h>
+
+#include "audio/speex/encoder/toepassing/HoofdVenster.h"
+#include "tests/audio/speex/encoder/toepassing/werkProef.h"
+
+namespace {
+
+class ToezichtProef : public WerkProef {
+ protected:
+  // Beats, as long work does, until that is true.
+  static void klopTot(std::function<bool()> const& gebeurd) {
+    while (!gebeurd()) {
+      klop();
+      wxMilliSleep(1);
+    }
+  }
+
+  static wxString tijd() {
+    wxString laatste;
+    for (wxWindow const* kind : voortgang()->GetChildren()) {
+      if (dynamic_cast<wxStaticText const*>(kind) != nullptr) {
+        laatste = kind->GetLabel();
+      }
+    }
+    return laatste;
+  }
+
+  // The labels of a run over three files.
+  VensterToezicht toezicht() {
+    return {venster, "Encoding progress", "Completion of encoding progress", 3,
+            *vakje(ID_INCL_HEADER)};
+  }
+};
+
+TEST_F(ToezichtProef, TheClockRunsAndTheValueStaysWhileAFileIsEncoded) {
+  begin();
+  VensterToezicht zicht = toezicht();
+  zicht.meldGedaan(1);
+  zicht.meldGedaan(2);
+  EXPECT_EQ(tijd(), "0:00:00");
+  klopTot([] { return tijd() == "0:00:01"; });
+  klopTot([] { return tijd() == "0:00:02"; });
+  EXPECT_EQ(voortgang()->GetValue(), 1);
+  EXPECT_EQ(voortgang()->GetRange(), 3);
+  EXPECT_EQ(voortgang()->GetMessage(), "Completion of encoding progress");
+}
+
+TEST_F(ToezichtProef, TheDialogIsPaintedWhileAFileIsEncoded) {
+  begin();
+  VensterToezicht const zicht = toezicht();
+  bool isGetekend = false;
+  voortgang()->Bind(wxEVT_PAINT, [&isGetekend](wxPaintEvent& event) {
+    isGetekend = true;
+    event.Skip();
+  });
+  klopTot([&isGetekend] { return isGetekend; });
+}
+
+TEST_F(ToezichtProef, NothingListensBehindTheRun) {
+  begin();
+  { VensterToezicht const zicht = toezicht(); }
+  klop();
+  EXPECT_EQ(voortgang(), nullptr);
+}
+
+}  // namespace
