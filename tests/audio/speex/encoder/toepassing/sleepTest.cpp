@@ -2,6 +2,7 @@
 #include <wx/dnd.h>
 #include <wx/filename.h>
 #include <wx/textctrl.h>
+#include <wx/utils.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "tests/audio/speex/encoder/toepassing/werkProef.h"
@@ -10,6 +11,9 @@ namespace {
 
 class SleepProef : public WerkProef {
  protected:
+  // The folder of the test does not outlive it.
+  ~SleepProef() override { wxSetWorkingDirectory(werkMap); }
+
   // Drops them there, and tells whether they were taken.
   bool sleep(wxWindow* op, std::vector<wxString> const& paden) {
     auto* const doel = dynamic_cast<wxFileDropTarget*>(op->GetDropTarget());
@@ -25,6 +29,9 @@ class SleepProef : public WerkProef {
     rust();
     return isGenomen;
   }
+
+ private:
+  wxString const werkMap = wxGetCwd();
 };
 
 TEST_F(SleepProef, FilesThatAreDroppedOnTheWindowLoadAsByOpen) {
