@@ -7,17 +7,17 @@ set(CPACK_PACKAGE_CONTACT "The Kestrolin team <team@kestrolin.example>")
 set(CPACK_PACKAGE_HOMEPAGE_URL "https://kestrolin.example")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "turn WAV fragments into source arrays for firmware")
 set(CPACK_PACKAGE_DESCRIPTION
-    "Kestrolin takes short WAV fragments and turns them into C or C++ source text
-that a microcontroller program compiles in and plays through a DAC: compressed
-with Speex, compressed with 4-bit ADPCM, as plain PCM, or as a whole WAV file,
-scaled to the width of the DAC.
+    "Kestrolin turns short WAV fragments into C or C++ source text. A
+microcontroller program compiles that text in and plays it through a DAC. The
+arrays are compressed with Speex or with 4-bit ADPCM, plain PCM, or whole WAV
+files, scaled to the width of the DAC.
 .
 The window, Kestrolin, is for trying out and listening. The command,
-kestrolin-cli, makes the same text in a build, and needs no display; a CMake
+kestrolin-cli, makes the same text in a build, and needs no display. A CMake
 package and completions for shells come with it.
 .
 The package brings the readers of these arrays in portable C, ready to be
-copied into a project, and a manual that tells every byte of the formats.")
+copied into a project, and a manual that describes every byte of the formats.")
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/pakketInhoud.cmake")
 set(CPACK_KESTROLIN_DEBIAN "${PROJECT_SOURCE_DIR}/packaging/debian")
