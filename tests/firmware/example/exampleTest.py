@@ -91,7 +91,7 @@ class Example:
     def build(self, name: str, *settings: str) -> Path:
         program = self.work / name / "play.elf"
         run("make", "-s", "-j2", "-C", EXAMPLE, f"TEXTS={self.texts}", f"OUT={program.parent}",
-            *settings, program)
+            "WERROR=-Werror", *settings, program)
         return program
 
     def play(self, name: str, *settings: str) -> dict[str, array]:
