@@ -22,10 +22,14 @@ sys.path[:0] = [str(ROOT / "tests" / "vertalingen"), str(ROOT / "tests" / "docum
 from boom import Boom
 from catalogi import TALEN
 
-METAINFO = "share/metainfo/example.kestrolin.kestrolin.metainfo.xml"
-MENU = "share/applications/Kestrolin.desktop"
+ID = "example.kestrolin.kestrolin"
+METAINFO = f"share/metainfo/{ID}.metainfo.xml"
+MENU = f"share/applications/{ID}.desktop"
+# The names in small letters, and what they lead to.
+KLEIN = {"bin/kestrolin": "Kestrolin", "share/man/man1/kestrolin.1.gz": "Kestrolin.1.gz"}
 # The man pages, and what each says of its program.
 MAN = {"share/man/man1/Kestrolin.1.gz": "Kestrolin - turn WAV fragments",
+       "share/man/man1/kestrolin.1.gz": "kestrolin - turn WAV fragments",
        "share/man/man1/kestrolin-cli.1.gz": "kestrolin-cli - turn WAV fragments"}
 # Where bash and fish look for completions; Debian's zsh looks elsewhere than in an installation.
 AANVULLING = {"share/bash-completion/completions/kestrolin-cli",
@@ -76,7 +80,7 @@ def deelbaar() -> set[str]:
 
 def keur_namen(prefix: Path, andere: set[str]) -> None:
     """Everything lies in its place, these other files among it, and nothing else does."""
-    verwacht = {"bin/Kestrolin", "bin/kestrolin-cli", MENU, METAINFO, *MAN, *AANVULLING, *CMAKE,
+    verwacht = {"bin/Kestrolin", "bin/kestrolin-cli", MENU, METAINFO, *KLEIN, *MAN, *AANVULLING, *CMAKE,
                 "share/icons/hicolor/scalable/apps/kestrolin.svg"}
     verwacht |= {f"share/icons/hicolor/{m}x{m}/apps/kestrolin.png" for m in MATEN}
     verwacht |= {f"share/locale/{t}/LC_MESSAGES/{d}.mo"
@@ -85,6 +89,7 @@ def keur_namen(prefix: Path, andere: set[str]) -> None:
     verwacht |= {f"share/kestrolin/{pad}" for pad in deelbaar()}
     gelijk(verwacht - bestanden(prefix), set(), "what is not installed")
     gelijk(bestanden(prefix) - verwacht, set(), "what is installed too")
+    gelijk({naam: str((prefix / naam).readlink()) for naam in KLEIN}, KLEIN, "names in small letters")
     for pad in deelbaar():
         gelijk((prefix / "share/kestrolin" / pad).read_bytes(), (ROOT / pad).read_bytes(), pad)
     handleiding = prefix / "share/doc/kestrolin/manual/manual.md"
@@ -93,14 +98,18 @@ def keur_namen(prefix: Path, andere: set[str]) -> None:
 
 def keur_menu(prefix: Path) -> None:
     """The menu entry is sound, and speaks every language."""
-    gelijk(zeg("desktop-file-validate", prefix / MENU), "", "desktop-file-validate")
+    # It stands with what is for sound and with what is for developers, as its users would look for it.
+    (hint,) = zeg("desktop-file-validate", prefix / MENU).splitlines()
+    assert ': hint: value "AudioVideo;Audio;Development;"' in hint and "more than one main" in hint, hint
     ontleed = configparser.RawConfigParser(strict=True)
     ontleed.optionxform = str  # type: ignore[assignment]
     ontleed.read(prefix / MENU, encoding="utf-8")
     ingang = dict(ontleed["Desktop Entry"])
     vast = {"Type": "Application", "Name": "Kestrolin", "Exec": "Kestrolin", "Icon": "kestrolin",
-            "Terminal": "false", "StartupNotify": "true", "Categories": "Development;"}
+            "Terminal": "false", "StartupNotify": "true", "StartupWMClass": "Kestrolin", "Categories": "AudioVideo;Audio;Development;"}
     gelijk({sleutel: ingang.get(sleutel) for sleutel in vast}, vast, "the menu entry")
+    # The program takes no files.
+    assert "MimeType" not in ingang and "%" not in ingang["Exec"], "files are given to the program"
     assert "NoDisplay" not in ingang and "Hidden" not in ingang, "no menu shows it"
     for sleutel in ("GenericName", "Comment", "Keywords"):
         teksten = [ingang[f"{sleutel}[{taal}]"] for taal in TALEN] + [ingang[sleutel]]
@@ -117,6 +126,9 @@ def keur_metainfo(prefix: Path) -> None:
     for naam in ("summary", "description/p"):
         talen = {deel.get(taal, "en") for deel in component.findall(naam)}
         gelijk(talen, {"en", *TALEN}, f"languages of {naam}")
+    gelijk(component.findtext("id"), ID, "its id")
+    gelijk([deel.text for deel in component.findall("categories/category")],
+           ["AudioVideo", "Audio", "Development"], "its categories")
     gelijk(component.findtext("launchable"), Path(MENU).name, "what it launches")
     gelijk(component.findtext("icon"), "kestrolin", "its icon")
     gelijk([deel.text for deel in component.findall("provides/binary")], ["Kestrolin", "kestrolin-cli"],

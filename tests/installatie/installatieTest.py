@@ -74,7 +74,8 @@ def main() -> None:
     keur_catalogi(doel / "share/locale", bouw / "share/locale")
     thuis.mkdir()
     (thuis / ".Kestrolin").write_text(f"[Gebruikersinstellingen]\nTaal={NEDERLANDS}\n")
-    werk_in_het_nederlands(doel / "bin/Kestrolin", thuis)
+    # By the name that is easiest to type.
+    werk_in_het_nederlands(doel / "bin/kestrolin", thuis)
     gelijk(lees_instellingen(thuis)["Gebruikersinstellingen"]["Taal"], DUITS, "language")
 
 

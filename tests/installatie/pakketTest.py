@@ -30,7 +30,7 @@ from zwarteDoosTest import gelijk
 # The toolkit's numbers of the languages.
 TALEN = {"en": 175, "nl": 161, "de": 373, "fr": 301, "it": 423, "es": 735}
 GEBRUIKER = "engineer"
-MENU = "usr/share/applications/Kestrolin.desktop"
+MENU = "usr/share/applications/example.kestrolin.kestrolin.desktop"
 
 
 def omgeving(gebruiker: str) -> dict[str, str]:
@@ -113,7 +113,7 @@ def werk_in(machine: Machine, taal: str, resultaten: Path) -> None:
     instellingen = machine.thuis / ".Kestrolin"
     instellingen.write_text(f"[Gebruikersinstellingen]\nTaal={TALEN[taal]}\n")
     shutil.chown(instellingen, *eigenaar(machine.thuis))
-    gezegd = machine.doe("gtk-launch", "Kestrolin.desktop", als=GEBRUIKER)
+    gezegd = machine.doe("gtk-launch", Path(MENU).name, als=GEBRUIKER)
     assert "Error" not in gezegd, gezegd
     hoofd = venster(TITEL)
     icoon = opdracht("xprop", "-id", hoofd, "_NET_WM_ICON").decode()
