@@ -30,9 +30,10 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
-# A language of the program needs its locale; the toolkit's own texts come from wx3.2-i18n. Both can be
-# left out by who is content with English.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "locales-all, wx3.2-i18n")
+# A language of the program needs its locale, which the package locales makes where the user asks for it;
+# the toolkit's own texts come from wx3.2-i18n. Both can be left out by who is content with English.
+# locales-all has every locale of the world, and is a hundred times as large as this package.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "locales | locales-all, wx3.2-i18n")
 # What the first hour with a result asks for.
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS
     "gcc-arm-none-eabi, libnewlib-arm-none-eabi, qemu-system-arm, sox")

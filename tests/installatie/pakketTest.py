@@ -1,6 +1,6 @@
 """Test of the Debian package on a machine that has nothing yet: it installs, its menu entry starts the
-program, all languages work, the command does without a display, and removing it leaves nothing but the
-user's own settings.
+program, in English until the manual's command has made the locales and in all languages then, the command
+does without a display, and removing it leaves nothing but the user's own settings.
 
     pakketTest.py PACKAGE RESULTS
 
@@ -81,7 +81,8 @@ def installeer(machine: Machine, pakket: Path) -> set[str]:
     machine.doe("apt-get", "update", "-q")
     plan = machine.doe("apt-get", "install", "-s", f"/root/{pakket.name}")
     anderen = [naam for naam in re.findall(r"^Inst (\S+)", plan, re.M) if naam != "kestrolin"]
-    assert {"locales-all", "wx3.2-i18n"} < set(anderen), "what is recommended does not come along"
+    assert {"locales", "wx3.2-i18n"} < set(anderen), "what is recommended does not come along"
+    assert "locales-all" not in anderen, "the locales of the whole world come along"
     machine.doe("apt-get", "install", "-q", "-y", *anderen)
     vooraf = machine.bestanden()
     machine.doe("apt-get", "install", "-q", "-y", f"/root/{pakket.name}")
@@ -108,11 +109,16 @@ def weg(titel: str) -> bool:
     ).returncode != 0
 
 
-def werk_in(machine: Machine, taal: str, resultaten: Path) -> None:
-    """Starts the program by its menu entry, has it speak, and leaves it."""
+def kies(machine: Machine, taal: str) -> None:
+    """As if the user had chosen the language the last time."""
     instellingen = machine.thuis / ".Kestrolin"
     instellingen.write_text(f"[Gebruikersinstellingen]\nTaal={TALEN[taal]}\n")
     shutil.chown(instellingen, *eigenaar(machine.thuis))
+
+
+def werk_in(machine: Machine, taal: str, resultaten: Path) -> None:
+    """Starts the program by its menu entry, has it speak, and leaves it."""
+    kies(machine, taal)
     gezegd = machine.doe("gtk-launch", Path(MENU).name, als=GEBRUIKER)
     assert "Error" not in gezegd, gezegd
     hoofd = venster(TITEL)
@@ -127,16 +133,41 @@ def werk_in(machine: Machine, taal: str, resultaten: Path) -> None:
     )
     titel = catalogus.gettext(OPEN_TITEL)
     gelijk(titel == OPEN_TITEL, taal == "en", f"the open dialog speaks {taal}")
-    opdracht("xdotool", "windowactivate", "--sync", hoofd)
+    kijk(machine, titel, resultaten / f"{taal}.png")
+
+
+def kijk(machine: Machine, titel: str, beeld: Path) -> None:
+    """Opens the dialog of this title in the window that stands there, and leaves both."""
+    opdracht("xdotool", "windowactivate", "--sync", venster(TITEL))
     toets("ctrl+o")
     venster(titel)
-    schermafdruk(resultaten / f"{taal}.png")
+    schermafdruk(beeld)
     toets("Escape")
     wacht(lambda: weg(titel), "the dialog closes")
     toets("ctrl+q")
     wacht(lambda: weg(TITEL), "the window closes")
     # The settings are written after that.
+    instellingen = machine.thuis / ".Kestrolin"
     wacht(lambda: "StopTijd" in instellingen.read_text(), "the settings are written")
+
+
+def werk_zonder_locale(machine: Machine, resultaten: Path) -> None:
+    """A language that the machine has no locale for: the program speaks English, and is content. It is
+    started by the name that is easiest to type."""
+    kies(machine, "nl")
+    machine.doe("sh", "-c", 'kestrolin >"$HOME/said" 2>&1 &', als=GEBRUIKER)
+    kijk(machine, OPEN_TITEL, resultaten / "no-locale.png")
+    gezegd = (machine.thuis / "said").read_text()
+    gelijk(gezegd.count("Could not initialise the Locale for Dutch"), 1, gezegd)
+
+
+def maak_locales(machine: Machine) -> set[str]:
+    """Gives the command of the manual that makes the locales. What it made."""
+    handleiding = (machine.wortel / "usr/share/kestrolin/docs/manual.md").read_text(encoding="utf-8")
+    (opdrachten,) = re.findall(r"^ {4}(.*locale-gen)$", handleiding, re.M)
+    daarvoor = machine.bestanden()
+    machine.doe("sh", "-euc", opdrachten)
+    return machine.bestanden() - daarvoor
 
 
 def eigenaar(pad: Path) -> tuple[int, int]:
@@ -183,6 +214,8 @@ def main() -> None:
     machine = Machine(Path(os.environ["WORTEL"]))
     vooraf = installeer(machine, pakket)
     werk_zonder_scherm(machine)
+    werk_zonder_locale(machine, resultaten)
+    vooraf |= maak_locales(machine)
     for taal in TALEN:
         werk_in(machine, taal, resultaten)
     verwijder(machine, vooraf)
