@@ -4,9 +4,9 @@
 //     fragmentTeksten FRAGMENTS FOLDER
 //
 // leaves pcm.c, adpcm.c, wav.c, speex8.c, speex16.c and speex32.c in FOLDER, which is made where it
-// is not there. An array has the name of the file it came from, so the fragments are copied there
-// under a name that ends in their encoder. Ends with status 1 and a line about it where a file
-// fails.
+// is not there. They bear the date of the first release, so that each build makes the same ones. An
+// array has the name of the file it came from, so the fragments are copied there under a name that
+// ends in their encoder. Ends with status 1 and a line about it where a file fails.
 #include <sndfile.h>
 #include <wx/ffile.h>
 #include <wx/filename.h>
@@ -18,6 +18,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <iostream>
 #include <memory>
@@ -25,6 +26,7 @@
 #include <vector>
 
 #include "audio/codec/audioConfig.h"
+#include "audio/codec/tekstMoment.h"
 #include "audio/codec/wavFormaat.h"
 #include "audio/uitvoer/speexMaker.h"
 #include "audio/uitvoer/uitvoerOpties.h"
@@ -34,6 +36,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int dacBits = 12;
+// 2026-11-21 12:00:00 UTC.
+constexpr std::time_t moment = 1795262400;
 
 struct Geluid {
   SF_INFO info{};
@@ -160,6 +164,7 @@ int main(int aantal, char** woorden) {
   fs::path const beelden = fs::path(woorden[2]) / "beelden";
   fs::create_directories(beelden);
   wxSetEnv("TMPDIR", wxString::FromUTF8(fs::absolute(beelden).string()));
+  legTekstMomentVast(moment);
   Teksten const teksten(woorden[1], woorden[2]);
   teksten.pcm();
   teksten.adpcm();

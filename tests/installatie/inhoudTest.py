@@ -43,6 +43,9 @@ MATEN = (16, 22, 24, 32, 48, 64, 96, 128, 256, 512)
 # What appstreamcli may say. No domain ends in the one of the component, which is set apart for names that
 # are nobody's. AppStream 0.16, of Debian 12, does not know the developer's tag that 1.0 asks for.
 BEKEND = ("cid-maybe-not-rdns", "unknown-tag developer")
+# What the example plays.
+TEKSTEN = {f"share/kestrolin/firmware/example/texts/{naam}.c"
+           for naam in ("adpcm", "pcm", "speex8", "speex16", "speex32", "wav")}
 # What makes the example from the source tree is of no use without it, and the page about the source
 # is none for users.
 NIET_VOOR_GEBRUIKERS = {"firmware/example/run", "docs/architecture.md"}
@@ -80,7 +83,7 @@ def deelbaar() -> set[str]:
 
 def keur_namen(prefix: Path, andere: set[str]) -> None:
     """Everything lies in its place, these other files among it, and nothing else does."""
-    verwacht = {"bin/Kestrolin", "bin/kestrolin-cli", MENU, METAINFO, *KLEIN, *MAN, *AANVULLING, *CMAKE,
+    verwacht = {"bin/Kestrolin", "bin/kestrolin-cli", MENU, METAINFO, *KLEIN, *TEKSTEN, *MAN, *AANVULLING, *CMAKE,
                 "share/icons/hicolor/scalable/apps/kestrolin.svg"}
     verwacht |= {f"share/icons/hicolor/{m}x{m}/apps/kestrolin.png" for m in MATEN}
     verwacht |= {f"share/locale/{t}/LC_MESSAGES/{d}.mo"

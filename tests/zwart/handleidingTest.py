@@ -11,12 +11,11 @@ from __future__ import annotations
 
 import os
 import re
-import subprocess
 import sys
 from array import array
 from pathlib import Path
 
-from pagina import blokken, samples_in, stappen, voer_uit
+from pagina import blokken, installeer, samples_in, stappen, voer_uit
 from vensterStappen import Keuzes, maak_tekst
 
 GEDEELD = "/usr/share/kestrolin"
@@ -56,8 +55,7 @@ def main() -> None:
     thuis = Path(os.environ["HOME"])
     prefix, leeg = thuis / "prefix", thuis / "leeg"
     leeg.mkdir()
-    subprocess.run([cmake, "--install", bouw, "--prefix", str(prefix), "--component", "Unspecified"],
-                   stdout=subprocess.DEVNULL, check=True)
+    installeer(cmake, bouw, prefix)
     # As if it lay where the package puts it.
     tekst = stappen("manual.md", "From a WAV file to a C++ class").replace(
         GEDEELD, str(prefix / "share/kestrolin")
@@ -75,6 +73,8 @@ def main() -> None:
     keur_declaraties(tekst, opgeslagen.read_text(encoding="utf-8"))
     for naam, blok in bestanden.items():
         (map_ / naam).write_text(blok, encoding="utf-8")
+    # As an IDE does it.
+    voer_uit("for source in *.cpp; do g++ -std=c++17 -fsyntax-only $source; done", map_)
     gezegd = voer_uit(opdrachten[1], map_)
     afdruk = [blok for taal, blok, _ in blokken(tekst) if taal == "text"][1]
     assert gezegd == afdruk, f"it says\n{gezegd}instead of\n{afdruk}"

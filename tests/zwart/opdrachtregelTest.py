@@ -14,7 +14,6 @@ from __future__ import annotations
 import os
 import re
 import shutil
-import subprocess
 import sys
 import tempfile
 from array import array
@@ -25,7 +24,7 @@ sys.path.insert(0, str(WORTEL / "tests" / "firmware" / "example"))
 
 # pylint: disable=wrong-import-position
 import exampleTest
-from pagina import blokken, samples_in, stappen, voer_uit
+from pagina import blokken, installeer, samples_in, stappen, voer_uit
 
 LES, NASLAG = "Sounds in the build", "The command"
 GEDEELD = "/usr/share/kestrolin"
@@ -181,8 +180,7 @@ def main() -> None:
     with tempfile.TemporaryDirectory(prefix="kestrolinManual") as map_:
         prefix, leeg = Path(map_, "prefix"), Path(map_, "leeg")
         leeg.mkdir()
-        subprocess.run([cmake, "--install", bouw, "--prefix", str(prefix), "--component", "Unspecified"],
-                       stdout=subprocess.DEVNULL, check=True)
+        installeer(cmake, bouw, prefix)
         keur_naslag(stappen("manual.md", NASLAG), prefix / "bin" / "kestrolin-cli")
         keur_regel(stappen("manual.md", NASLAG), Path(map_, "regel"), f"{prefix}/bin")
         volg(tekst.replace(GEDEELD, f"{prefix}/share/kestrolin"), leeg, f"{prefix}/bin")

@@ -30,6 +30,13 @@ def blokken(tekst: str) -> list[tuple[str, str, str]]:
     return gevonden
 
 
+def installeer(cmake: str, bouw: str, prefix: Path) -> None:
+    """What was built, into an empty folder."""
+    # A component: the list of files of a user's own installation is left alone so.
+    subprocess.run([cmake, "--install", bouw, "--prefix", str(prefix), "--component", "Unspecified"],
+                   stdout=subprocess.DEVNULL, check=True)
+
+
 def voer_uit(opdrachten: str, map_: Path, **variabelen: str) -> str:
     """What the commands say. They have to succeed."""
     klaar = subprocess.run(
