@@ -25,6 +25,11 @@ pak_in("${_doc}/changelog.Debian")
 file(REMOVE "${_doc}/LICENSE")
 file(COPY_FILE "${CPACK_KESTROLIN_DEBIAN}/copyright" "${_doc}/copyright")
 
+# By this the system's list of documents has the manual.
+set(_lijst "${CPACK_TEMPORARY_DIRECTORY}/usr/share/doc-base")
+file(MAKE_DIRECTORY "${_lijst}")
+file(COPY_FILE "${CPACK_KESTROLIN_DEBIAN}/doc-base" "${_lijst}/kestrolin.kestrolin")
+
 set(_afwijkingen "${CPACK_TEMPORARY_DIRECTORY}/usr/share/lintian/overrides")
 file(MAKE_DIRECTORY "${_afwijkingen}")
 file(COPY_FILE "${CPACK_KESTROLIN_DEBIAN}/lintian-overrides" "${_afwijkingen}/kestrolin")

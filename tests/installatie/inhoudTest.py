@@ -46,6 +46,8 @@ BEKEND = ("cid-maybe-not-rdns", "unknown-tag developer")
 # What the example plays.
 TEKSTEN = {f"share/kestrolin/firmware/example/texts/{naam}.c"
            for naam in ("adpcm", "pcm", "speex8", "speex16", "speex32", "wav")}
+# The pages for browsers.
+BLADZIJDEN = {f"share/doc/kestrolin/html/{naam}" for naam in ("manual.html", "firmware.html", "kestrolin.css")}
 # What makes the example from the source tree is of no use without it, and the page about the source
 # is none for users.
 NIET_VOOR_GEBRUIKERS = {"firmware/example/run", "docs/architecture.md"}
@@ -83,7 +85,8 @@ def deelbaar() -> set[str]:
 
 def keur_namen(prefix: Path, andere: set[str]) -> None:
     """Everything lies in its place, these other files among it, and nothing else does."""
-    verwacht = {"bin/Kestrolin", "bin/kestrolin-cli", MENU, METAINFO, *KLEIN, *TEKSTEN, *MAN, *AANVULLING, *CMAKE,
+    verwacht = {"bin/Kestrolin", "bin/kestrolin-cli", MENU, METAINFO, *KLEIN, *TEKSTEN, *BLADZIJDEN,
+                *MAN, *AANVULLING, *CMAKE,
                 "share/icons/hicolor/scalable/apps/kestrolin.svg"}
     verwacht |= {f"share/icons/hicolor/{m}x{m}/apps/kestrolin.png" for m in MATEN}
     verwacht |= {f"share/locale/{t}/LC_MESSAGES/{d}.mo"
@@ -199,6 +202,11 @@ def keur_pakket(pakket: str) -> None:
         gelijk(afwijkingen.read_bytes(), (ROOT / "packaging/debian/lintian-overrides").read_bytes(),
                "what lintian is told")
         afwijkingen.unlink()
+        lijst = Path(uitgepakt, "usr/share/doc-base/kestrolin.kestrolin")
+        gelijk(lijst.read_bytes(), (ROOT / "packaging/debian/doc-base").read_bytes(), "the list of documents")
+        for pagina in re.findall(r"^(?:Index|Files): /(.*)", lijst.read_text(encoding="utf-8"), re.M):
+            assert list(Path(uitgepakt).glob(pagina)), f"no {pagina}"
+        lijst.unlink()
         eigen = {f"share/doc/kestrolin/{naam}"
                  for naam in ("changelog.gz", "changelog.Debian.gz", "copyright")}
         met_geluid = "libsdl2" in zeg("dpkg-deb", "-f", pakket, "Depends")
