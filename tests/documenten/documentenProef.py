@@ -18,12 +18,13 @@ from berichten import berichten
 from boom import Boom
 from koppelingen import koppelingen
 from opdrachten import opdrachten
+from pakketten import pakketten
 from spelling import spelling
 from tekeningen import tekeningen
 from zelfproef import zelfproef
 
 CONTROLES = {"koppelingen": koppelingen, "spelling": spelling, "tekeningen": tekeningen,
-             "berichten": berichten}
+             "berichten": berichten, "pakketten": pakketten}
 
 
 def main() -> int:

@@ -190,6 +190,20 @@ SLECHTE_OPDRACHTEN = [
 ]
 
 
+GOEDE_PAKKETTEN = {
+    "hulp/voorzieningen": '#!/bin/sh\nbouw="cmake gettext\n  libx-dev"\ntour="xdotool"\n',
+    "README.md": "`xdotool`\n\n### On other systems\n\n`start` works.\n\n| For | Packages |\n|---|---|\n"
+                 "| `make` | `cmake` (3.25), `gettext` |\n| the rest | `libx-dev` |\n\n## More\n\n| a | `b` |\n",
+}
+SLECHTE_PAKKETTEN = [
+    ("gettext is missing", _vervang(GOEDE_PAKKETTEN, "README.md", ", `gettext`", "")),
+    ("sox is not installed", _vervang(GOEDE_PAKKETTEN, "README.md", "`libx-dev`", "`libx-dev` `sox`")),
+    ("cmake stands there twice", _vervang(GOEDE_PAKKETTEN, "README.md", "`libx-dev`", "`libx-dev`, `cmake`")),
+    ("there is no heading", _vervang(GOEDE_PAKKETTEN, "README.md", "### On", "## On")),
+    ("there is no group bouw", _vervang(GOEDE_PAKKETTEN, "hulp/voorzieningen", "bouw=", "bouws=")),
+]
+
+
 _POT = 'msgid ""\nmsgstr "Content-Type: text/plain; charset=UTF-8\\n"\n\n'
 GOEDE_BERICHTEN = {
     "docs/manual.md": '| `It said "no"`<br>`and 7 % of N` | `channels` | `/* a\tb */` |\n'

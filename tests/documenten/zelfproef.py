@@ -11,10 +11,13 @@ from typing import Callable, Iterator
 from berichten import berichten
 from boom import Boom
 from gevallen import (DOEL, GOEDE_BERICHTEN, GOEDE_KOPPELINGEN, GOEDE_OPDRACHTEN, GOEDE_SPELLING,
-                      GOEDE_TEKENINGEN, SLECHTE_BERICHTEN, SLECHTE_KOPPELINGEN, SLECHTE_OPDRACHTEN, SLECHTE_SPELLING, SLECHTE_TEKENINGEN,
+                      GOEDE_PAKKETTEN,
+                      GOEDE_TEKENINGEN, SLECHTE_BERICHTEN, SLECHTE_KOPPELINGEN, SLECHTE_OPDRACHTEN,
+                      SLECHTE_PAKKETTEN, SLECHTE_SPELLING, SLECHTE_TEKENINGEN,
                       Bestanden, Geval)
 from koppelingen import koppelingen
 from opdrachten import opdrachten
+from pakketten import pakketten
 from spelling import spelling
 from tekeningen import tekeningen
 
@@ -65,6 +68,7 @@ PROEVEN: dict[str, tuple[Controle, Bestanden, list[Geval]]] = {
     "spelling": (spelling, GOEDE_SPELLING, SLECHTE_SPELLING),
     "tekeningen": (tekeningen, GOEDE_TEKENINGEN, SLECHTE_TEKENINGEN),
     "berichten": (berichten, GOEDE_BERICHTEN, SLECHTE_BERICHTEN),
+    "pakketten": (pakketten, GOEDE_PAKKETTEN, SLECHTE_PAKKETTEN),
     "opdrachten": (_opdrachten, GOEDE_OPDRACHTEN,
                    [(klacht, _regel(regel)) for klacht, regel in SLECHTE_OPDRACHTEN]
                    + [("no commands", {**GOEDE_OPDRACHTEN, "README.md": "./start\n"}),
