@@ -154,13 +154,13 @@ class Programma:
         self.klik(rondje)
         wacht(lambda: rondje.is_(AANGEVINKT), f'"{naam}" is chosen')
 
-    def keuze(self, van: str, naar: str) -> None:
-        """Opens the list that shows one text, and picks another from it."""
-        lijst = self.element("combo box", van)
+    def keuze(self, naam: str, tekst: str) -> None:
+        """Opens the list of this name, and picks a text from it."""
+        lijst = self.element("combo box", naam)
         self.klik(lijst)
-        regels = wacht(lambda: lijst.zoek("menu item", naar), f'the list offers "{naar}"')
+        regels = wacht(lambda: lijst.zoek("menu item", tekst), f'the list offers "{tekst}"')
         self.klik(regels[0])
-        self.element("combo box", naar)
+        wacht(lambda: lijst.gekozen() == tekst, f'the list shows "{tekst}"')
 
     def vul(self, veld: Element, tekst: str) -> None:
         """Replaces what stands in a text field."""

@@ -91,6 +91,13 @@ class Element:
     def zet_tekst(self, tekst: str) -> None:
         self._vraag(f"{_ATSPI}.EditableText", "SetTextContents", GLib.Variant("(s)", (tekst,)))
 
+    def gekozen(self) -> str:
+        """The name of the first chosen one of what this holds, as a list shows it."""
+        eigenaar, pad = self._vraag(
+            f"{_ATSPI}.Selection", "GetSelectedChild", GLib.Variant("(i)", (0,))
+        )[0]
+        return Element(self.bus, eigenaar, pad).naam()
+
     def alle(self) -> Iterator[Element]:
         """Everything visible below this one; what is hidden hides what it holds."""
         for kind in self.kinderen():

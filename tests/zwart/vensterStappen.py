@@ -38,7 +38,7 @@ def maak_tekst(programma: Path, thuis: Path, keuzes: Keuzes, doel: Path) -> None
         p.keuzerondje(keuzes.taal)
         if keuzes.klasse:
             p.klassenaam(keuzes.klasse)
-        p.keuze("16 Bit DAC", keuzes.dac)
+        p.keuze("DAC width", keuzes.dac)
         assert p.element("check box", keuzes.vinkje).is_(AANGEVINKT), f"{keuzes.vinkje} is off"
         p.codeer(MELDING_PCM)
         p.sluit_melding()

@@ -12,7 +12,6 @@
 #include <wx/spinctrl.h>
 #include <wx/statbox.h>
 #include <wx/stattext.h>
-#include <wx/statusbr.h>
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
 #include <wx/utils.h>
@@ -119,7 +118,7 @@ HoofdVenster::HoofdVenster(wxWindow* parent, int id, wxString const& title, wxPo
   codeGeneratieBox = new wxStaticBox(paneel, wxID_ANY, "Code generation");
   speexOptiesBox = new wxStaticBox(paneel, wxID_ANY, "Speex options");
   maakMenus();
-  statusBalk = CreateStatusBar(1, 0, 0);
+  statusBalk = static_cast<StatusBalk*>(CreateStatusBar(1, 0, 0));
   maakBronControls();
   maakSpeexControls();
   maakCodeControls();
@@ -129,6 +128,7 @@ HoofdVenster::HoofdVenster(wxWindow* parent, int id, wxString const& title, wxPo
   neemSleepbestanden();
   leesConfiguratie();
   toonInstellingen();
+  wijsDeWeg();
 }
 
 HoofdVenster::~HoofdVenster() {

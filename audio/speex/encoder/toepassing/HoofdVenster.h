@@ -3,7 +3,7 @@
 //
 // Its work is split over files by concern: HoofdVenster.cpp (construction, event table, end),
 // HoofdVensterIndeling.cpp (sizers), and one file each for the settings, loading, encoding, saving,
-// embedding, playing, and the language and About dialogs.
+// embedding, playing, the language and About dialogs, and what screen readers are told.
 #pragma once
 
 #include <wx/filehistory.h>
@@ -23,6 +23,7 @@
 #include "audio/uitvoer/dacBreedte.h"
 #include "audio/uitvoer/kestrolinConfig.h"
 #include "audio/uitvoer/speexMaker.h"
+#include "externals/desktop/statusBalk.h"
 
 class wxButton;
 class wxCheckBox;
@@ -107,6 +108,10 @@ class HoofdVenster : public wxFrame {
   // which stays behind.
   void kopieerNaarTekstVeld(wxMemoryOutputStream const& stroom) const;
 
+ protected:
+  wxStatusBar* OnCreateStatusBar(int velden, long stijl, wxWindowID id,
+                                 wxString const& naam) override;
+
  private:
   void maakMenus();
   void maakBronControls();
@@ -120,6 +125,8 @@ class HoofdVenster : public wxFrame {
   wxSizer* maakUitvoerKolom();
   void leesConfiguratie();
   void toonInstellingen();
+  // What screen readers are told.
+  void wijsDeWeg();
 
   // The lines below a file in the tree that get their text last.
   struct BestandKnoop {
@@ -173,7 +180,7 @@ class HoofdVenster : public wxFrame {
   wxStaticBox* klasseOptiesBox = nullptr;
   wxStaticBox* speexOptiesBox = nullptr;
   wxMenuBar* menuBalk = nullptr;
-  wxStatusBar* statusBalk = nullptr;
+  StatusBalk* statusBalk = nullptr;
   wxButton* wavOpenKnop = nullptr;
   wxTreeCtrl* audioBoom = nullptr;
   wxButton* playMusicKnop = nullptr;
