@@ -20,3 +20,7 @@ void laatHoren(wxStatusBar* balk, wxString const& tekst);
 // them, and follow the keyboard through them. Of the tree's events, all go on to others too. Call
 // it once, before anything stands in the tree; it ends with the tree.
 void maakLeesbaar(wxTreeCtrl* boom);
+
+// Draws a frame around the current row of a tree while the tree has the keyboard. The toolkit draws
+// that row the same with and without, but for a line of dots that some themes hide.
+void toonToetsenbord(wxTreeCtrl* boom);

@@ -6,3 +6,4 @@ void toonAlsStatusBalk(wxStatusBar* /*balk*/) {}
 void toonStatusTekst(wxStatusBar* /*balk*/, wxString const& /*tekst*/) {}
 void laatHoren(wxStatusBar* /*balk*/, wxString const& /*tekst*/) {}
 void maakLeesbaar(wxTreeCtrl* /*boom*/) {}
+void toonToetsenbord(wxTreeCtrl* /*boom*/) {}

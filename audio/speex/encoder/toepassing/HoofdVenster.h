@@ -125,7 +125,7 @@ class HoofdVenster : public wxFrame {
   wxSizer* maakUitvoerKolom();
   void leesConfiguratie();
   void toonInstellingen();
-  // What screen readers are told.
+  // What screen readers are told, and where the tree has the keyboard.
   void wijsDeWeg();
 
   // The lines below a file in the tree that get their text last.

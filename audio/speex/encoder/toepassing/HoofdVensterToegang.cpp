@@ -18,6 +18,7 @@ wxStatusBar* HoofdVenster::OnCreateStatusBar(int velden, long stijl, wxWindowID 
 
 void HoofdVenster::wijsDeWeg() {
   maakLeesbaar(audioBoom);
+  toonToetsenbord(audioBoom);
   noemControl(audioBoom, _("Loaded audio files"));
   noemControl(formaatKeuze, _("Speex band"));
   noemControl(bitRateTypeKeuze, _("Kind of bit rate"));
