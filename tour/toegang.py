@@ -18,17 +18,23 @@ _GRENS_MS = 10_000
 # Numbers of states in the two words that GetState answers with.
 ACTIEF = 1
 AANGEVINKT = 4
+OPENGEKLAPT = 10
+INVOERBAAR = 11  # may have the keyboard
+INVOER = 12  # has it
 GEKOZEN = 23
 BRUIKBAAR = 24
 ZICHTBAAR = 25
 
+# The number of the relation of a row to the row above it in the tree.
+_KIND_VAN = 7
+
 # Roles that older releases call otherwise.
-_VROEGER = {"push button": "button"}
+_VROEGER = {"push button": "button", "statusbar": "status bar"}
 
 Fout = GLib.Error
 
 
-def _verbind() -> Gio.DBusConnection:
+def verbind() -> Gio.DBusConnection:
     sessie = Gio.bus_get_sync(Gio.BusType.SESSION)
     adres = sessie.call_sync(
         "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress", None, None,
@@ -67,6 +73,16 @@ class Element:
     def rol(self) -> str:
         naam = self._vraag(f"{_ATSPI}.Accessible", "GetRoleName")[0]
         return _VROEGER.get(naam, naam)
+
+    def niveau(self) -> int:
+        """How deep a row stands in its tree; the root is at 1."""
+        return int(self._vraag(f"{_ATSPI}.Accessible", "GetAttributes")[0]["level"])
+
+    def ouder_in_boom(self) -> Optional[Element]:
+        """The row that this row of a tree stands under."""
+        relaties = dict(self._vraag(f"{_ATSPI}.Accessible", "GetRelationSet")[0])
+        paren = relaties.get(_KIND_VAN, [])
+        return Element(self.bus, *paren[0]) if paren else None
 
     def kinderen(self) -> list[Element]:
         paren = self._vraag(f"{_ATSPI}.Accessible", "GetChildren")[0]
@@ -116,7 +132,7 @@ class Toegang:
     """The way in to one process."""
 
     def __init__(self, proces: int) -> None:
-        self._bus = _verbind()
+        self._bus = verbind()
         self._proces = proces
 
     def _proces_van(self, toepassing: Element) -> Optional[int]:

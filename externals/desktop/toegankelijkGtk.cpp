@@ -3,26 +3,27 @@
 #include <gtk/gtk-a11y.h>
 #include <wx/statusbr.h>
 
+#include <string>
+
 #include "externals/desktop/gtkHulp.h"
 
 namespace {
 
-constexpr char const* meldingSleutel = "velmora-melding";
-
-// Since ATK 2.50: politeness of what is said, after what the reader is saying now.
+// Since ATK 2.50: to be said after what the reader is saying now.
 constexpr int beleefd = 1;
 
-// The readers of ATK 2.46 hear no announcement, but say the name of a notification that appears. It
-// is kept for the next text, and for readers that still ask about it.
+// The readers of ATK 2.46 hear no announcement, but say the name of a notification that appears.
+// They ask for it in their own time, so each text has an object of its own, until some more have
+// come.
 void toonMelding(AtkObject* balk, char const* tekst) {
-  auto* melding = als<AtkObject>(g_object_get_data(als<GObject>(balk), meldingSleutel));
-  if (melding == nullptr) {
-    melding = als<AtkObject>(g_object_new(atk_object_get_type(), nullptr));
-    atk_object_set_role(melding, ATK_ROLE_NOTIFICATION);
-    atk_object_set_parent(melding, balk);
-    g_object_set_data_full(als<GObject>(balk), meldingSleutel, melding, g_object_unref);
-  }
+  constexpr unsigned bewaard = 8;
+  static unsigned nummer = 0;
+  auto* const melding = als<AtkObject>(g_object_new(atk_object_get_type(), nullptr));
+  atk_object_set_role(melding, ATK_ROLE_NOTIFICATION);
+  atk_object_set_parent(melding, balk);
   atk_object_set_name(melding, tekst);
+  std::string const sleutel = "velmora-melding" + std::to_string(nummer++ % bewaard);
+  g_object_set_data_full(als<GObject>(balk), sleutel.c_str(), melding, g_object_unref);
   atk_object_notify_state_change(melding, ATK_STATE_SHOWING, 1);
 }
 
