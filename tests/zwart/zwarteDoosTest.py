@@ -22,7 +22,7 @@ sys.path.insert(0, str(WORTEL / "tour"))
 import nakijken
 from bediening import Programma
 from schermwerk import toets, wacht
-from teksten import MELDING_ADPCM, MELDING_PCM, MELDING_SPEEX, OPEN_TITEL, TITEL
+from teksten import MELDING_ADPCM, MELDING_PCM, MELDING_SPEEX, OPEN_TITEL, TAAL_TITEL, TITEL
 
 FRAGMENTEN = WORTEL / "fragmenten"
 
@@ -304,6 +304,40 @@ def sluitvak(programma: Path, thuis: Path) -> None:
     gelijk(lees_instellingen(thuis)["Gebruikersinstellingen"], {"Taal": "175"}, "settings")
 
 
+def _met_grote_letters(programma: Path, thuis: Path, variabelen: dict[str, str]) -> None:
+    thuis.mkdir(parents=True)
+    # The choice of the language is beyond the edge of the window.
+    (thuis / ".Kestrolin").write_text("[Gebruikersinstellingen/Speex]\nspeexOutputLanguage=0\n")
+    with Programma(programma, thuis, variabelen=variabelen) as p:
+        wacht_op_rust(p)
+        laad(p, thuis / "geluid", ("ready.wav", "warning.wav"))
+        p.keuzerondje("PCM")
+        p.codeer(MELDING_PCM)
+        p.sluit_melding()
+        p.bewaar(thuis / "geluid.c")
+        p.menu("alt+f", "Language")
+        p.wacht_op_venster(TAAL_TITEL)
+        toets("Escape")
+        p.wacht_op_vertrek(TAAL_TITEL)
+        p.menu("alt+s", "About")
+        box = p.wacht_op_box("This program converts audio fragments")
+        toets("Escape")
+        p.wacht_op_vertrek(box.naam())
+        keur_einde(p, p.verlaat())
+
+
+def grote_letters(programma: Path, thuis: Path) -> None:
+    """Letters half as large again, by the two settings of a desktop, and nothing on standard error,
+    although the window is too small for them."""
+    _met_grote_letters(programma, thuis, {"GDK_DPI_SCALE": "1.5"})
+    config = Path(shutil.copytree(os.environ["XDG_CONFIG_HOME"], thuis.parent / "config"))
+    instellingen = config / "gtk-3.0" / "settings.ini"
+    tekst = instellingen.read_text(encoding="utf-8")
+    gelijk(tekst.count("DejaVu Sans 10"), 1, "the font of the session")
+    instellingen.write_text(tekst.replace("DejaVu Sans 10", "DejaVu Sans 15"), encoding="utf-8")
+    _met_grote_letters(programma, thuis.parent / "twee", {"XDG_CONFIG_HOME": str(config)})
+
+
 GEVALLEN: dict[str, Callable[[Path, Path], None]] = {
     "eersteStart": eerste_start,
     "weg": weg,
@@ -316,6 +350,7 @@ GEVALLEN: dict[str, Callable[[Path, Path], None]] = {
     "tweede": tweede,
     "kleinScherm": klein_scherm,
     "sluitvak": sluitvak,
+    "groteLetters": grote_letters,
 }
 
 if __name__ == "__main__":

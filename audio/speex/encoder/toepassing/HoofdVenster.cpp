@@ -26,6 +26,7 @@
 #include "audio/speex/encoder/toepassing/vensterIds.h"
 #include "audio/uitvoer/encoderSoort.h"
 #include "audio/uitvoer/instellingenBestand.h"
+#include "externals/desktop/nooitSmaller.h"
 #include "externals/desktop/tekstVeld.h"
 #include "numeriek/configGetal.h"
 
@@ -177,8 +178,9 @@ void HoofdVenster::maakBronControls() {
 
 void HoofdVenster::maakSpeexControls() {
   auto const maakSpin = [this](int id, unsigned int waarde) {
-    return new wxSpinCtrl(paneel, id, wxString::Format("%u", waarde), wxDefaultPosition,
-                          wxDefaultSize, wxSP_ARROW_KEYS, 0, speexHoogsteNiveau);
+    return new NooitSmaller<wxSpinCtrl>(paneel, id, wxString::Format("%u", waarde),
+                                        wxDefaultPosition, wxDefaultSize, wxSP_ARROW_KEYS, 0,
+                                        speexHoogsteNiveau);
   };
   formaatKeuze = maakKeuze(paneel, ID_FORMAAT, {speexBandNamen.begin(), speexBandNamen.end()});
   bitRateTypeKeuze =
@@ -187,10 +189,10 @@ void HoofdVenster::maakSpeexControls() {
   qualitySpin = maakSpin(ID_QUALITY, eersteStart.speexQuality);
   complexityLabel = new wxStaticText(paneel, wxID_ANY, "Complexity:");
   complexitySpin = maakSpin(ID_COMPLEXITY, eersteStart.speexComplexity);
-  vadVakje = new wxCheckBox(paneel, ID_VAD, "Voice Activated \nDetection");
-  agcVakje = new wxCheckBox(paneel, ID_AGC, "Adaptive Gain Control");
-  denoiseVakje = new wxCheckBox(paneel, ID_DENOISE, "Denoise input");
-  perpenhVakje = new wxCheckBox(paneel, ID_PERPENH, "Perpetual\nEnhancement");
+  vadVakje = new NooitSmaller<wxCheckBox>(paneel, ID_VAD, "Voice Activated \nDetection");
+  agcVakje = new NooitSmaller<wxCheckBox>(paneel, ID_AGC, "Adaptive Gain Control");
+  denoiseVakje = new NooitSmaller<wxCheckBox>(paneel, ID_DENOISE, "Denoise input");
+  perpenhVakje = new NooitSmaller<wxCheckBox>(paneel, ID_PERPENH, "Perpetual\nEnhancement");
   maxRateLabel = new wxStaticText(paneel, wxID_ANY, "(Maximum/Average)\nBit rate:");
   // Without wxTE_PROCESS_ENTER: Enter in this field presses Encode, and the bit rate stays what the
   // configuration said, although a handler for Enter stands in the event table.
@@ -199,8 +201,9 @@ void HoofdVenster::maakSpeexControls() {
 
 void HoofdVenster::maakCodeControls() {
   auto const maakVak = [this](int id, wxString const& titel, std::vector<wxString> const& rijen) {
-    return new wxRadioBox(paneel, id, titel, wxDefaultPosition, wxDefaultSize,
-                          static_cast<int>(rijen.size()), rijen.data(), 0, wxRA_SPECIFY_ROWS);
+    return new NooitSmaller<wxRadioBox>(paneel, id, titel, wxDefaultPosition, wxDefaultSize,
+                                        static_cast<int>(rijen.size()), rijen.data(), 0,
+                                        wxRA_SPECIFY_ROWS);
   };
   encoderTypeKeuze = maakVak(ID_ENCODER_TYPE, "Encoder type", {"Speex", "ADPCM", "PCM"});
   std::vector<wxString> talen(uitvoerTalen.size());
@@ -209,7 +212,7 @@ void HoofdVenster::maakCodeControls() {
   langImplKeuze = maakVak(ID_LANG_IMPL, "Implementation Language", talen);
   klasseLabel = new wxStaticText(paneel, wxID_ANY, "Class :");
   klasseVeld = new wxTextCtrl(paneel, ID_KLASSE);
-  inclHeaderVakje = new wxCheckBox(paneel, ID_INCL_HEADER, "Include header in array");
+  inclHeaderVakje = new NooitSmaller<wxCheckBox>(paneel, ID_INCL_HEADER, "Include header in array");
   std::vector<wxString> dacs(DacAantalBits.size());
   std::transform(DacAantalBits.begin(), DacAantalBits.end(), dacs.begin(),
                  [](long long bits) { return wxString::Format("%lld Bit DAC", bits); });
