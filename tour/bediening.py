@@ -144,7 +144,10 @@ class Programma:
 
     def _klik_op(self, plaats: Optional[tuple[int, int]]) -> None:
         if plaats:
-            opdracht("xdotool", "mousemove", *map(str, plaats), "click", "1")
+            opdracht("xdotool", "mousemove", *map(str, plaats))
+            # The tip of another control goes when the mouse comes upon it, and would take the click.
+            wacht(lambda: not vensters.wijst_op_tip(), "no tooltip under the mouse")
+            opdracht("xdotool", "click", "1")
 
     def knop(self, naam: str, venster: str = TITEL) -> None:
         self.klik(self.element("button", naam, venster=venster))

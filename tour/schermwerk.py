@@ -48,6 +48,8 @@ def typ(tekst: str) -> None:
 
 def schermafdruk(pad: Path) -> None:
     """Writes what is on the screen to a PNG file, as soon as it stands still."""
+    # Away from all windows, for no tooltip to come up.
+    opdracht("xdotool", "mousemove", "0", "0")
     beeld, gelijk = b"", 0
     for _ in range(100):
         vorige, beeld = beeld, opdracht("import", "-window", "root", "-depth", "8", "ppm:-")

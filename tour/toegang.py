@@ -70,6 +70,9 @@ class Element:
     def naam(self) -> str:
         return self._eigenschap("Accessible", "Name")
 
+    def beschrijving(self) -> str:
+        return self._eigenschap("Accessible", "Description")
+
     def rol(self) -> str:
         naam = self._vraag(f"{_ATSPI}.Accessible", "GetRoleName")[0]
         return _VROEGER.get(naam, naam)

@@ -35,6 +35,18 @@ def naar_voren(proces: int, titel: str) -> None:
     opdracht("xdotool", "windowactivate", _nummer(proces, titel))
 
 
+def wijst_op_tip() -> bool:
+    """Whether the mouse is on a tooltip."""
+    nummer = re.findall(
+        r"WINDOW=(\d+)", opdracht("xdotool", "getmouselocation", "--shell").decode()
+    )
+    soort = subprocess.run(
+        ["xprop", "-id", *nummer, "_NET_WM_WINDOW_TYPE"],
+        stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True, check=False,
+    ).stdout
+    return "_NET_WM_WINDOW_TYPE_TOOLTIP" in soort
+
+
 def geef_maat(proces: int, titel: str, maat: tuple[int, int]) -> None:
     """Makes a window so large, and puts it in the middle of the screen."""
     nummer = _nummer(proces, titel)

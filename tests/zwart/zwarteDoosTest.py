@@ -304,6 +304,28 @@ def sluitvak(programma: Path, thuis: Path) -> None:
     gelijk(lees_instellingen(thuis)["Gebruikersinstellingen"], {"Taal": "175"}, "settings")
 
 
+def tips(programma: Path, thuis: Path) -> None:
+    """Screen readers get the tooltips as descriptions, beside the names, on disabled controls too."""
+    with Programma(programma, thuis) as p:
+        wacht_op_rust(p)
+        elementen = list(p.wacht_op_venster().alle())
+        beschreven = {e.beschrijving(): e for e in elementen if e.beschrijving()}
+        namen = sorted(e.naam() for e in beschreven.values() if e.rol() != "text")
+        gelijk(namen, ["ADPCM", "Encode", "Play Encoded", "Python", "Save As"], "what has a tip")
+        assert beschreven.keys().isdisjoint(e.naam() for e in elementen), "a tip became a name"
+        rollen = {tip[:18]: e.rol() for tip, e in beschreven.items()}
+        gelijk(rollen, {
+            "Embeds the loaded ": "button",
+            "What you type here": "text",
+            "Keeps only the low": "radio button",
+            "Not available. Cho": "radio button",
+            "The name of the C+": "text",
+            "Usable when files ": "button",
+            "Save first: playin": "button",
+        }, "roles")
+        keur_einde(p, p.verlaat())
+
+
 def _met_grote_letters(programma: Path, thuis: Path, variabelen: dict[str, str]) -> None:
     thuis.mkdir(parents=True)
     # The choice of the language is beyond the edge of the window.
@@ -351,6 +373,7 @@ GEVALLEN: dict[str, Callable[[Path, Path], None]] = {
     "kleinScherm": klein_scherm,
     "sluitvak": sluitvak,
     "groteLetters": grote_letters,
+    "tips": tips,
 }
 
 if __name__ == "__main__":

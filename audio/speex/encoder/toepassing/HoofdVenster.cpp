@@ -130,6 +130,7 @@ HoofdVenster::HoofdVenster(wxWindow* parent, int id, wxString const& title, wxPo
   leesConfiguratie();
   toonInstellingen();
   wijsDeWeg();
+  zetTips();
 }
 
 HoofdVenster::~HoofdVenster() {

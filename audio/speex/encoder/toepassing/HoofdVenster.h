@@ -3,7 +3,7 @@
 //
 // Its work is split over files by concern: HoofdVenster.cpp (construction, event table, end),
 // HoofdVensterIndeling.cpp (sizers), and one file each for the settings, loading, encoding, saving,
-// embedding, playing, the language and About dialogs, and what screen readers are told.
+// embedding, playing, the language and About dialogs, tooltips, and what screen readers are told.
 #pragma once
 
 #include <wx/filehistory.h>
@@ -127,6 +127,7 @@ class HoofdVenster : public wxFrame {
   void toonInstellingen();
   // What screen readers are told, and where the tree has the keyboard.
   void wijsDeWeg();
+  void zetTips();
 
   // The lines below a file in the tree that get their text last.
   struct BestandKnoop {

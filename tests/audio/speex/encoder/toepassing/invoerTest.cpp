@@ -1,60 +1,16 @@
-// Keys as a user presses them. Each test has a display of its own, for the keyboard goes to one
-// window at a time.
+// Keys as a user presses them, on single controls.
 #include <wx/button.h>
 #include <wx/menu.h>
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>
-#include <wx/uiaction.h>
-
-#include <functional>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
-#include "tests/audio/speex/encoder/toepassing/gereedProef.h"
-#include "tests/steun/geduld.h"
+#include "tests/audio/speex/encoder/toepassing/invoerProef.h"
 
 namespace {
 
-class InvoerProef : public GereedProef {
+class ToetsProef : public InvoerProef {
  protected:
-  // The enable rules run too.
-  bool wacht(std::function<bool()> const& gebeurd) {
-    return wachtTot([this, &gebeurd] {
-      rust();
-      return gebeurd();
-    });
-  }
-  // Long enough for a key to have its effect, which here is a fault.
-  void wachtEven() {
-    constexpr int rondes = 25;
-    constexpr unsigned long pauze = 20;
-    for (int ronde = 0; ronde < rondes; ++ronde) {
-      rust();
-      wxMilliSleep(pauze);
-    }
-  }
-
-  void richt(wxWindow* doel) {
-    venster->Raise();
-    doel->SetFocus();
-    ASSERT_TRUE(wacht([this, doel] { return venster->IsActive() && doel->HasFocus(); }));
-  }
-
-  void druk(int toets, int met = wxMOD_NONE) { muisEnToetsen.Char(toets, met); }
-
-  // The same for a key of the window manager, which may think of another window yet when this one
-  // has become active: it is pressed again after a while.
-  bool drukTot(int toets, int met, std::function<bool()> const& gebeurd) {
-    constexpr int rondesTussen = 500;
-    int ronde = 0;
-    return wacht([&] {
-      bool const is = gebeurd();
-      if (!is && ronde++ % rondesTussen == 0) {
-        druk(toets, met);
-      }
-      return is;
-    });
-  }
-
   // Counts the presses of "Encode" in the place of its work.
   void telEncode() {
     knop(ID_CODEER)->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { ++encodeKeren; });
@@ -72,11 +28,10 @@ class InvoerProef : public GereedProef {
     ASSERT_TRUE(wacht([this] { return veld(ID_MAX_RATE)->GetValue() == "9999"; }));
   }
 
-  wxUIActionSimulator muisEnToetsen;
   int encodeKeren = 0;
 };
 
-TEST_F(InvoerProef, EnterInTheBitRateFieldPressesEncodeAndTheRateStaysAsConfigured) {
+TEST_F(ToetsProef, EnterInTheBitRateFieldPressesEncodeAndTheRateStaysAsConfigured) {
   startGeladen();
   telEncode();
   typRate();
@@ -88,7 +43,7 @@ TEST_F(InvoerProef, EnterInTheBitRateFieldPressesEncodeAndTheRateStaysAsConfigur
   EXPECT_EQ(stopSpeex("speexBitRate"), "5000");
 }
 
-TEST_F(InvoerProef, EnterInTheBitRateFieldDoesNothingWhileEncodeIsDisabled) {
+TEST_F(ToetsProef, EnterInTheBitRateFieldDoesNothingWhileEncodeIsDisabled) {
   start();
   telEncode();
   typRate();
@@ -99,7 +54,7 @@ TEST_F(InvoerProef, EnterInTheBitRateFieldDoesNothingWhileEncodeIsDisabled) {
   EXPECT_EQ(stopSpeex("speexBitRate"), "5000");
 }
 
-TEST_F(InvoerProef, AcceleratorOfEncodeWorksOnlyWhenEncodingIsAllowed) {
+TEST_F(ToetsProef, AcceleratorOfEncodeWorksOnlyWhenEncodingIsAllowed) {
   startMetSpeex("speexOutputLanguage=0\n");
   telMenuEncode();
   richt(knop(wxID_OPEN));
@@ -114,7 +69,7 @@ TEST_F(InvoerProef, AcceleratorOfEncodeWorksOnlyWhenEncodingIsAllowed) {
   EXPECT_TRUE(wacht([this] { return encodeKeren == 1; }));
 }
 
-TEST_F(InvoerProef, AcceleratorOfEncodeIsDeadAfterAnEncoding) {
+TEST_F(ToetsProef, AcceleratorOfEncodeIsDeadAfterAnEncoding) {
   startGecodeerd();
   telMenuEncode();
   richt(knop(wxID_OPEN));
@@ -124,7 +79,7 @@ TEST_F(InvoerProef, AcceleratorOfEncodeIsDeadAfterAnEncoding) {
   EXPECT_TRUE(isGecodeerd());
 }
 
-TEST_F(InvoerProef, AltF4ClosesWithAnUnsavedResultAndAsksNothing) {
+TEST_F(ToetsProef, AltF4ClosesWithAnUnsavedResultAndAsksNothing) {
   startGecodeerd();
   std::size_t const voor = antwoorden.berichten.size();
   richt(knop(wxID_OPEN));
@@ -132,7 +87,7 @@ TEST_F(InvoerProef, AltF4ClosesWithAnUnsavedResultAndAsksNothing) {
   EXPECT_EQ(antwoorden.berichten.size(), voor);
 }
 
-TEST_F(InvoerProef, ArrowKeyInTheQualityChangesTheSettingAtOnce) {
+TEST_F(ToetsProef, ArrowKeyInTheQualityChangesTheSettingAtOnce) {
   start();
   richt(spin(ID_QUALITY));
   druk(WXK_UP);
@@ -140,7 +95,7 @@ TEST_F(InvoerProef, ArrowKeyInTheQualityChangesTheSettingAtOnce) {
   EXPECT_EQ(stopSpeex("speexQuality"), "9");
 }
 
-TEST_F(InvoerProef, TypedClassNameEnablesEncode) {
+TEST_F(ToetsProef, TypedClassNameEnablesEncode) {
   start();
   laad({maakFragment("fragment.wav")});
   ASSERT_FALSE(knop(ID_CODEER)->IsEnabled());
