@@ -49,6 +49,9 @@ STATISTIEK = {
     "StartDatum": DATUM, "StartTijd": TIJD, "StopDatum": DATUM, "StopTijd": TIJD, "OS": "64",
 }
 
+# The languages of the program, by the numbers that the configuration file has.
+TALEN = {"en": 175, "nl": 161, "fr": 301, "de": 373, "it": 423, "es": 735}
+
 
 def gelijk(gevonden: object, verwacht: object, wat: str) -> None:
     assert gevonden == verwacht, f"{wat}: {gevonden!r}, expected {verwacht!r}"
@@ -304,6 +307,30 @@ def sluitvak(programma: Path, thuis: Path) -> None:
     gelijk(lees_instellingen(thuis)["Gebruikersinstellingen"], {"Taal": "175"}, "settings")
 
 
+def over(programma: Path, thuis: Path) -> None:
+    """About names no other people than the program's own, whoever translated the toolkit."""
+    team = "The Kestrolin team"
+    for code, nummer in TALEN.items():
+        eigen = thuis / code
+        eigen.mkdir(parents=True)
+        (eigen / ".Kestrolin").write_text(f"[Gebruikersinstellingen]\nTaal={nummer}\n")
+        with Programma(programma, eigen, code) as p:
+            p.menu("alt+s", "About")
+            box = p.wacht_op_box(team)
+            (knop,) = box.zoek("toggle button")
+            p.klik(knop)
+            # Headings and names in turn.
+            regels = wacht(
+                lambda box=box: [e.naam() for e in box.zoek("scroll pane")[0].zoek("label")],
+                "the credits",
+            )
+            soorten = 1 if code == "en" else 2
+            gelijk((len(regels), regels.count(team)), (2 * soorten, soorten), f"credits {regels}")
+            toets("Escape")
+            p.wacht_op_vertrek(box.naam())
+            keur_einde(p, p.verlaat())
+
+
 def tips(programma: Path, thuis: Path) -> None:
     """Screen readers get the tooltips as descriptions, beside the names, on disabled controls too."""
     with Programma(programma, thuis) as p:
@@ -373,6 +400,7 @@ GEVALLEN: dict[str, Callable[[Path, Path], None]] = {
     "kleinScherm": klein_scherm,
     "sluitvak": sluitvak,
     "groteLetters": grote_letters,
+    "over": over,
     "tips": tips,
 }
 
