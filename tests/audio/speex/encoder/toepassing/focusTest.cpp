@@ -7,41 +7,23 @@
 #include <wx/radiobox.h>
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
-#include <wx/uiaction.h>
 
 #include "audio/codec/hartslag.h"
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/vensterToezicht.h"
-#include "tests/audio/speex/encoder/toepassing/gereedProef.h"
+#include "tests/audio/speex/encoder/toepassing/invoerProef.h"
 #include "tests/steun/geduld.h"
 
 namespace {
 
-class FocusProef : public GereedProef {
+class FocusProef : public InvoerProef {
  protected:
-  bool wacht(std::function<bool()> const& gebeurd) {
-    return wachtTot([this, &gebeurd] {
-      rust();
-      return gebeurd();
-    });
-  }
-
-  void richt(wxWindow* doel) {
-    venster->Raise();
-    doel->SetFocus();
-    ASSERT_TRUE(wacht([this, doel] { return venster->IsActive() && doel->HasFocus(); }));
-  }
-
   // Once the rules have run, since they may hand it on.
   void verwachtFocus(wxWindow const* doel) {
     rust();
     EXPECT_TRUE(wacht([doel] { return doel->HasFocus(); }))
         << (wxWindow::FindFocus() == nullptr ? "none" : wxWindow::FindFocus()->GetLabel());
   }
-
-  void druk(int toets, int met = wxMOD_NONE) { muisEnToetsen.Char(toets, met); }
-
-  wxUIActionSimulator muisEnToetsen;
 };
 
 TEST_F(FocusProef, TypingGoesOnBehindARun) {
