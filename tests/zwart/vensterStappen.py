@@ -37,6 +37,7 @@ def maak_tekst(programma: Path, thuis: Path, keuzes: Keuzes, doel: Path) -> None
         p.keuzerondje(keuzes.encoder)
         p.keuzerondje(keuzes.taal)
         if keuzes.klasse:
+            assert not p.bruikbaar("button", "Encode"), "Encode waits for no class"
             p.klassenaam(keuzes.klasse)
         p.keuze("DAC width", keuzes.dac)
         assert p.element("check box", keuzes.vinkje).is_(AANGEVINKT), f"{keuzes.vinkje} is off"
