@@ -65,7 +65,12 @@ def verleg(tokens: Sequence[Token], basis: str) -> None:
         for naam in ("href", "src"):
             if naam in token.attrs:
                 token.attrSet(naam, verlegd(str(token.attrs[naam]), basis))
-        verleg(token.children or [], basis)
+        kinderen = token.children or []
+        verleg(kinderen, basis)
+        for link, woord in zip(kinderen, kinderen[1:]):
+            # The name of a page, where that is what the reader clicks.
+            if link.type == "link_open" and woord.content.removesuffix(".md") in BLADZIJDEN:
+                woord.content = verlegd(woord.content, basis)
 
 
 def in_vak(open_: bool) -> str:
