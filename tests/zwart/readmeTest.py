@@ -37,7 +37,7 @@ def stap(tekst: str, kop: str) -> str:
 
 def neem_op(tekst: str, map_: Path, fragment: Path, cli: Path) -> Path:
     """Step 1: the recording, and names that no array can have."""
-    zin = stap(tekst, "1. The recording.")
+    zin = stap(tekst, "1. The recording.**")
     opdracht, *namen = re.findall(r"`(sox [^`]+|[\w-]+\.wav)`", zin)
     bron, doel = re.findall(r"\S+\.wav", opdracht)
     assert "stereo file at 44.1 kHz" in zin, zin
@@ -53,7 +53,7 @@ def neem_op(tekst: str, map_: Path, fragment: Path, cli: Path) -> Path:
 
 def kies(tekst: str, opname: Path) -> tuple[Keuzes, str]:
     """Step 2, and the name of the text."""
-    zin = stap(tekst, "2. The text.")
+    zin = stap(tekst, "2. The text.**")
     open_, encoder, taal, dac, veld, wacht, codeer, bewaar = re.findall(r"\*\*([^*]+)\*\*", zin)
     assert (open_, veld, wacht, codeer, bewaar) == ("Open", "Class :", "Encode", "Encode", "Save"), zin
     bestand, klasse, doel = re.findall(r"`([^`]+)`", zin)
@@ -115,7 +115,7 @@ def main() -> None:
     maak_tekst(prefix / "bin/Kestrolin", thuis / "een", keuzes, map_ / doel)
     for naam, blok in bestanden.items():
         (map_ / naam).write_text(blok, encoding="utf-8")
-    assert "`firmware/`" in stap(tekst, "5. The program.")
+    assert "`firmware/`" in stap(tekst, "5. The program.**")
     voer_uit(f"cp -r {gedeeld}/firmware .", map_)
     bouw_programma(map_, opname)
     bed_in(tekst, map_, prefix, thuis / "een")
