@@ -11,8 +11,9 @@ from boom import Boom
 
 HANDLEIDING = "docs/manual.md"
 SJABLONEN = ("vertalingen/Kestrolin.pot", "vertalingen/Velmoradesktop.pot")
-# Nobody reads these: a title that is replaced, and a label that always gets its number.
-ONGEZIEN = {"Kestrolin for embedded applications", "channels:"}
+# Nobody reads these: a title that is replaced, a label that always gets its number, and a key that each
+# catalog replaces by a name.
+ONGEZIEN = {"Kestrolin for embedded applications", "channels:", "translator-credits"}
 
 # The command has no catalog: its texts are those of these sources, but for the help and for what is
 # printed as a result.
