@@ -35,5 +35,5 @@ if(gtk3_FOUND)
   target_include_directories(gtk SYSTEM INTERFACE ${gtk3_INCLUDE_DIRS})
   target_link_directories(gtk INTERFACE ${gtk3_LIBRARY_DIRS})
   # Of all that GTK names, the libraries that are called: a package depends on them.
-  target_link_libraries(gtk INTERFACE gtk-3 atk-1.0 cairo gobject-2.0 glib-2.0)
+  target_link_libraries(gtk INTERFACE gtk-3 gdk-3 atk-1.0 cairo gobject-2.0 glib-2.0)
 endif()

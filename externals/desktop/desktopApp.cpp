@@ -13,8 +13,8 @@ constexpr char const* vensterPad = "/Gebruikersinstellingen/Venster";
 constexpr char const* breedteSleutel = "GrootteX";
 constexpr char const* hoogteSleutel = "GrootteY";
 constexpr char const* maker = "The Kestrolin team";
-// The toolkit's About box looks this text up, and shows what the catalogs make of it as the names of
-// the translators. Without an entry of ours it shows those of the toolkit.
+// The toolkit's About box looks this text up, and shows what the catalogs make of it as the names
+// of the translators. Without an entry of ours it shows those of the toolkit.
 [[maybe_unused]] constexpr char const* vertalersTekst = wxTRANSLATE("translator-credits");
 
 }  // namespace

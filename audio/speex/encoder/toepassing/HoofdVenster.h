@@ -20,6 +20,7 @@
 #include "audio/codec/adpcmDesktopConverter.h"
 #include "audio/codec/pcmDesktopConverter.h"
 #include "audio/codec/uitvoerBestand.h"
+#include "audio/speex/encoder/toepassing/bezigheid.h"
 #include "audio/uitvoer/dacBreedte.h"
 #include "audio/uitvoer/kestrolinConfig.h"
 #include "audio/uitvoer/speexMaker.h"
@@ -111,6 +112,7 @@ class HoofdVenster : public wxFrame {
  protected:
   wxStatusBar* OnCreateStatusBar(int velden, long stijl, wxWindowID id,
                                  wxString const& naam) override;
+  bool TryBefore(wxEvent& event) override;
 
  private:
   void maakMenus();
@@ -226,7 +228,7 @@ class HoofdVenster : public wxFrame {
   bool bestandGeladen = false;
   bool gecodeerd = false;   // uitvoerStroom fits the settings
   bool opgeslagen = false;  // that result has been saved
-  int bezig = 0;            // handlers that may show a dialog, or play
+  BezigStand bezig{*this};
   wxString wavDirectory;
   wxString speexDirectory;
   wxString wavFile;    // kept for the configuration, unchanged

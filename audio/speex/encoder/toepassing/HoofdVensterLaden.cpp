@@ -5,9 +5,12 @@
 #include <wx/intl.h>
 #include <wx/log.h>
 #include <wx/msgdlg.h>
+#include <wx/spinctrl.h>
 #include <wx/statusbr.h>
 #include <wx/treectrl.h>
 #include <wx/utils.h>
+
+#include <array>
 
 #include "audio/codec/logTekst.h"
 #include "audio/codec/sndBestand.h"
@@ -15,6 +18,7 @@
 #include "audio/speex/encoder/toepassing/bezigheid.h"
 #include "audio/speex/encoder/toepassing/sleepDoel.h"
 #include "audio/uitvoer/wavKeuring.h"
+#include "externals/desktop/sleepDoor.h"
 
 namespace {
 
@@ -53,18 +57,26 @@ void HoofdVenster::laadGekozen(wxArrayString paden) {
 // The text field takes drops itself, even though nothing can be typed there.
 void HoofdVenster::neemSleepbestanden() {
   auto const neem = [this](wxArrayString const& paden) { return laadGesleept(paden); };
-  SetDropTarget(new SleepDoel(neem));
-  tekstVeld->SetDropTarget(new SleepDoel(neem));
+  for (wxWindow* const doel : std::array<wxWindow*, 3>{this, tekstVeld, statusBalk}) {
+    doel->SetDropTarget(new SleepDoel(neem));
+  }
+  for (wxWindow* const veld :
+       std::array<wxWindow*, 4>{klasseVeld, maxRateVeld, qualitySpin, complexitySpin}) {
+    geefBestandenDoor(*veld);
+  }
 }
 
 bool HoofdVenster::laadGesleept(wxArrayString const& paden) {
-  if (bezig > 0 || paden.empty()) {
+  if (bezig.isBezig() || paden.empty()) {
     return false;
   }
-  Bezigheid const nu(bezig);
-  laadGekozen(paden);
-  // As the dialog does: the first save begins here.
-  wxSetWorkingDirectory(wavDirectory);
+  // Whoever drops them waits until this has returned, and a question may come.
+  CallAfter([this, paden] {
+    Bezigheid const nu(bezig);
+    laadGekozen(paden);
+    // As the dialog does: the first save begins here.
+    wxSetWorkingDirectory(wavDirectory);
+  });
   return true;
 }
 

@@ -1,11 +1,22 @@
 #include "audio/speex/encoder/toepassing/bezigheid.h"
 
-Bezigheid::Bezigheid(int& aantal) : teller(aantal), hadFocus(wxWindow::FindFocus()) {
-  ++teller;
+#include <utility>
+
+void BezigStand::stelUit(wxEvent const& event) {
+  uitgesteld.emplace_back(event.Clone());
+}
+
+Bezigheid::Bezigheid(BezigStand& bezig) : stand(bezig), hadFocus(wxWindow::FindFocus()) {
+  ++stand.handlers;
 }
 
 Bezigheid::~Bezigheid() {
-  --teller;
+  --stand.handlers;
+  if (!stand.isBezig()) {
+    for (std::unique_ptr<wxEvent>& event : std::exchange(stand.uitgesteld, {})) {
+      stand.ontvanger.QueueEvent(event.release());
+    }
+  }
   if (hadFocus && hadFocus->IsEnabled() && hadFocus->IsShownOnScreen()) {
     hadFocus->SetFocus();
   }

@@ -1,18 +1,41 @@
-// What a handler of the window holds while it may show a dialog or play.
+// The work of a handler that may show a dialog, or play: what the window must not do meanwhile, and
+// what it does behind it.
 #pragma once
 
 // weakref.h wants it, and does not say so.
 #include <type_traits>
 
+#include <wx/event.h>
 #include <wx/weakref.h>
 #include <wx/window.h>
 
-// A progress dialog disables the window, and with it goes the keyboard's place. At its end this
-// gives the focus back to the control that had it, unless that is gone or cannot be used.
+#include <memory>
+#include <vector>
+
+class BezigStand {
+ public:
+  // `doel` must outlive this object.
+  explicit BezigStand(wxEvtHandler& doel) : ontvanger(doel) {}
+
+  bool isBezig() const { return handlers > 0; }
+  // Sends a copy to the receiver again when the last handler has ended.
+  void stelUit(wxEvent const& event);
+
+ private:
+  friend class Bezigheid;
+
+  wxEvtHandler& ontvanger;
+  int handlers = 0;
+  std::vector<std::unique_ptr<wxEvent>> uitgesteld;
+};
+
+// What such a handler holds. A progress dialog disables the window, and with it goes the keyboard's
+// place. At its end this gives the focus back to the control that had it, unless that is gone or
+// cannot be used.
 class Bezigheid {
  public:
-  // Counts itself in `aantal`, which must outlive it.
-  explicit Bezigheid(int& aantal);
+  // `bezig` must outlive this object.
+  explicit Bezigheid(BezigStand& bezig);
   ~Bezigheid();
 
   Bezigheid(Bezigheid const&) = delete;
@@ -21,6 +44,6 @@ class Bezigheid {
   Bezigheid& operator=(Bezigheid&&) = delete;
 
  private:
-  int& teller;
+  BezigStand& stand;
   wxWeakRef<wxWindow> hadFocus;
 };
