@@ -15,15 +15,16 @@ constexpr int beleefd = 1;
 // The readers of ATK 2.46 hear no announcement, but say the name of a notification that appears.
 // They ask for it in their own time, so each text has an object of its own, until some more have
 // come.
-void toonMelding(AtkObject* balk, char const* tekst) {
+void toonMelding(wxStatusBar* balk, char const* tekst) {
   constexpr unsigned bewaard = 8;
   static unsigned nummer = 0;
   auto* const melding = als<AtkObject>(g_object_new(atk_object_get_type(), nullptr));
   atk_object_set_role(melding, ATK_ROLE_NOTIFICATION);
-  atk_object_set_parent(melding, balk);
+  atk_object_set_parent(melding, toegangVan(balk));
   atk_object_set_name(melding, tekst);
   std::string const sleutel = "velmora-melding" + std::to_string(nummer++ % bewaard);
-  g_object_set_data_full(als<GObject>(balk), sleutel.c_str(), melding, g_object_unref);
+  // The widget's, and not its object's, which would hold itself that way.
+  g_object_set_data_full(als<GObject>(widgetVan(balk)), sleutel.c_str(), melding, g_object_unref);
   atk_object_notify_state_change(melding, ATK_STATE_SHOWING, 1);
 }
 
@@ -67,5 +68,5 @@ void laatHoren(wxStatusBar* balk, wxString const& tekst) {
   if (g_signal_lookup("announcement", soort) != 0) {
     g_signal_emit_by_name(toegang, "announcement", woorden.data());
   }
-  toonMelding(toegang, woorden.data());
+  toonMelding(balk, woorden.data());
 }

@@ -4,6 +4,8 @@
 #include <wx/choice.h>
 #include <wx/textctrl.h>
 
+#include <iterator>
+
 #include "externals/desktop/statusBalk.h"
 #include "tests/externals/desktop/toegangProef.h"
 
@@ -74,6 +76,47 @@ TEST_F(StatusProef, SaysNothingThatAMenuShowsOrThatNobodySees) {
   venster->Hide();
   balk->SetStatusText("hidden");
   EXPECT_EQ(gehoord, Teksten{"before"});
+}
+
+// Where ATK knows no politeness, readers say the notifications that appear, and ask for their names
+// in their own time.
+TEST_F(StatusProef, ShowsANotificationForEachTextAndKeepsTheLastOnes) {
+  if (g_signal_lookup("notification", atk_object_get_type()) != 0) {
+    GTEST_SKIP() << "this ATK tells announcements in its own way";
+  }
+  static std::vector<AtkObject*> verschenen;
+  verschenen.clear();
+  auto const zie = [](GSignalInvocationHint*, unsigned, GValue const* waarden, void*) -> gboolean {
+    auto* const van = als<AtkObject>(g_value_get_object(waarden));
+    if (atk_object_get_role(van) == ATK_ROLE_NOTIFICATION) {
+      EXPECT_STREQ(g_value_get_string(std::next(waarden)), "showing");
+      verschenen.push_back(van);
+    }
+    return 1;
+  };
+  unsigned const luisteraar = atk_add_global_event_listener(zie, "Atk:AtkObject:state-change");
+  int weg = 0;
+  auto const zegEnVolg = [&](char const* tekst) {
+    balk->SetStatusText(tekst);
+    g_object_weak_ref(
+        als<GObject>(verschenen.back()),
+        [](void* teller, GObject*) { ++*static_cast<int*>(teller); }, &weg);
+  };
+  zegEnVolg("one");
+  zegEnVolg("two");
+  ASSERT_EQ(verschenen.size(), 2U);
+  EXPECT_EQ(weg, 0);
+  EXPECT_STREQ(atk_object_get_name(verschenen[0]), "one");
+  EXPECT_STREQ(atk_object_get_name(verschenen[1]), "two");
+  EXPECT_EQ(atk_object_get_parent(verschenen[1]), object);
+  for (int keer = 0; keer < 100; ++keer) {
+    zegEnVolg("many");
+  }
+  EXPECT_EQ(weg, 94);
+  atk_remove_global_event_listener(luisteraar);
+  venster->Destroy();
+  rust();
+  EXPECT_EQ(weg, 102);
 }
 
 }  // namespace
