@@ -31,10 +31,10 @@ void meldStand(AtkObject* object, AtkStateType stand, bool aan) {
 
 std::vector<wxTreeItemId> BoomStand::rijen() const {
   std::vector<wxTreeItemId> gevonden;
-  std::vector<wxTreeItemId> komen;
-  if (boom != nullptr && boom->GetRootItem().IsOk()) {
-    komen.push_back(boom->GetRootItem());
+  if (boom == nullptr || !boom->GetRootItem().IsOk()) {
+    return gevonden;
   }
+  std::vector<wxTreeItemId> komen{boom->GetRootItem()};
   while (!komen.empty()) {
     wxTreeItemId const item = komen.back();
     komen.pop_back();

@@ -2,6 +2,7 @@
 #include <wx/settings.h>
 #include <wx/textctrl.h>
 
+#include <cstddef>
 #include <cstring>
 
 #include "tests/externals/desktop/toegangProef.h"
@@ -25,9 +26,11 @@ class KaderProef : public BoomProef {
     for (int const x : {vak.x + 2, vak.x + 6}) {
       auto const* const bytes = cairo_image_surface_get_data(beeld);
       unsigned pixel = 0;
-      std::memcpy(&pixel,
-                  bytes + (vak.y + vak.height / 2) * cairo_image_surface_get_stride(beeld) + 4 * x,
-                  sizeof pixel);
+      std::ptrdiff_t const rij = vak.y + vak.height / 2;
+      std::memcpy(
+          &pixel,
+          bytes + rij * cairo_image_surface_get_stride(beeld) + static_cast<std::ptrdiff_t>(x) * 4,
+          sizeof pixel);
       gevonden.push_back(pixel & 0xFFFFFFU);
     }
     cairo_surface_destroy(beeld);

@@ -38,7 +38,7 @@ class ToegangProef : public DesktopProef {
         [](char const*, GLogLevelFlags, char const* tekst, void*) { ADD_FAILURE() << tekst; },
         nullptr);
   }
-  ~ToegangProef() override {
+  void TearDown() override {
     stop();
     g_log_set_default_handler(g_log_default_handler, nullptr);
   }
@@ -80,7 +80,7 @@ class BoomProef : public ToegangProef {
     AtkRelationSet* const relaties = atk_object_ref_relation_set(rij);
     AtkRelation* const relatie =
         atk_relation_set_get_relation_by_type(relaties, ATK_RELATION_NODE_CHILD_OF);
-    std::string const naam =
+    std::string naam =
         relatie == nullptr
             ? ""
             : atk_object_get_name(als<AtkObject>(atk_relation_get_target(relatie)->pdata[0]));
