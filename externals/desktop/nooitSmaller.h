@@ -10,6 +10,8 @@
 template <typename Control>
 class NooitSmaller : public Control {
  public:
+  // Some of them take arrays.
+  // NOLINTNEXTLINE(modernize-avoid-c-arrays)
   using Control::Control;
 
  protected:
