@@ -23,5 +23,5 @@ class Hartslag {
   Hartslag* vorige;
 };
 
-// Wanted of every loop over a whole recording or a whole text. Does nothing while nobody listens.
+// Every loop over a whole recording or a whole text calls this. Does nothing while nobody listens.
 void klop();

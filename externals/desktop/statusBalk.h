@@ -7,8 +7,9 @@ class StatusBalk : public wxStatusBar {
  public:
   StatusBalk(wxWindow* ouder, int id, long stijl, wxString const& naam);
 
-  // Hides the toolkit's on purpose, which is not virtual: what the program says is heard, the same
-  // text twice as well. What a menu puts there and takes away again goes past this, and is not.
+  // Hides the toolkit's operation, which is not virtual. Readers say each text that the program
+  // sets, also where the same text comes twice. They do not say the help of a menu, which does not
+  // pass here.
   void SetStatusText(wxString const& tekst, int veld = 0);
 
  protected:

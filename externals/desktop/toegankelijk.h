@@ -17,8 +17,8 @@ void toonStatusTekst(wxStatusBar* balk, wxString const& tekst);
 void laatHoren(wxStatusBar* balk, wxString const& tekst);
 
 // Lets readers see the rows of a tree, which GTK takes for an empty area since the toolkit draws
-// them, and follow the keyboard through them. Of the tree's events, all go on to others too. Call
-// it once, before anything stands in the tree; it ends with the tree.
+// them, and follow the keyboard through them. The events of the tree still reach other handlers.
+// Call it once, before the tree has rows; it ends with the tree.
 void maakLeesbaar(wxTreeCtrl* boom);
 
 // Draws a frame around the current row of a tree while the tree has the keyboard. The toolkit draws

@@ -204,6 +204,9 @@ TEST_F(StartProef, FieldsHoldTheBitRateAndNoClass) {
   EXPECT_EQ(veld(ID_KLASSE)->GetValue(), "");
   EXPECT_EQ(tekst(), "");
   EXPECT_FALSE(veld(ID_TEKST)->IsEditable());
+  // Rows of bytes stand in columns.
+  EXPECT_TRUE(veld(ID_TEKST)->GetFont().IsFixedWidth());
+  EXPECT_EQ(veld(ID_TEKST)->GetFont().GetPointSize(), veld(ID_KLASSE)->GetFont().GetPointSize());
 }
 
 TEST_F(StartProef, TreeIsEmpty) {

@@ -2,6 +2,7 @@
 #include "audio/speex/encoder/toepassing/vensterToezicht.h"
 
 #include <wx/checkbox.h>
+#include <wx/mstream.h>
 #include <wx/stattext.h>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
@@ -59,6 +60,24 @@ TEST_F(ToezichtProef, TheDialogIsPaintedWhileAFileIsEncoded) {
     event.Skip();
   });
   klopTot([&isGetekend] { return isGetekend; });
+}
+
+// 128 KiB, which the field loads in two parts.
+TEST_F(ToezichtProef, TheTextFieldBeatsWhileALongTextLoads) {
+  class Teller : public Hartslag {
+   public:
+    void bijKlop() override { ++keren; }
+    int keren = 0;
+  };
+  begin();
+  wxMemoryOutputStream tekst;
+  std::string const regel = std::string(63, 'x') + "\n";
+  for (int nummer = 0; nummer < 2048; ++nummer) {
+    tekst.Write(regel.data(), regel.size());
+  }
+  Teller teller;
+  venster->kopieerNaarTekstVeld(tekst);
+  EXPECT_EQ(teller.keren, 2);
 }
 
 TEST_F(ToezichtProef, NothingListensBehindTheRun) {
