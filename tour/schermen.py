@@ -15,7 +15,10 @@ import subprocess
 import sys
 import wave
 from pathlib import Path
-from typing import NamedTuple
+from typing import TYPE_CHECKING, NamedTuple, Optional
+
+if TYPE_CHECKING:
+    from toegang import Element
 
 FRAGMENTEN = Path(__file__).resolve().parent.parent / "fragmenten"
 
@@ -52,7 +55,15 @@ speexOutputLanguage=0
 speexComplexity=10
 """
 # Long enough to be looked at while it is encoded.
-HERHALINGEN = 200
+HERHALINGEN = 500
+
+
+def telt(venster: Optional[Element]) -> bool:
+    """Whether its clock has left its start: by then the window was painted."""
+    return venster is not None and any(
+        re.fullmatch(r"\d+:\d\d:\d\d", label.naam()) and label.naam() != "0:00:00"
+        for label in venster.zoek("label")
+    )
 
 
 def maak_lang(doel: Path) -> None:
@@ -93,7 +104,7 @@ def neem_op(rij: Rij, programma: Path, thuis: Path, stam: Path) -> list[str]:
         foto("loaded")
         toets("ctrl+e")
         voortgang = p.vertaal("Encoding progress")
-        wacht(lambda: voortgang in p.venstertitels(), "the progress dialog")
+        wacht(lambda: telt(p.venster(voortgang)), "the progress dialog counts seconds")
         opdracht("import", "-window", "root", "-trim", f"{stam}-progress.png")
         melding = max(re.split("%d|%%|\n", p.vertaal(MELDING_SPEEX)), key=len)
         p.wacht_op_box(melding)

@@ -45,7 +45,7 @@ void VensterToezicht::meldGedaan(std::size_t nummer) {
 }
 
 void VensterToezicht::bijKlop() {
-  constexpr std::chrono::milliseconds pauze(100);
+  constexpr std::chrono::milliseconds pauze(50);
   auto const nu = std::chrono::steady_clock::now();
   wxEventLoopBase* const lus = wxEventLoopBase::GetActive();
   if (nu - getekend < pauze || lus == nullptr || lus->IsYielding()) {

@@ -31,7 +31,7 @@ class VensterToezicht : public RunToezicht, private Hartslag {
   void meldGedaan(std::size_t nummer) override;
 
  private:
-  // Paints, some ten times a second. Keys, clicks and the log wait.
+  // Paints, some twenty times a second. Keys, clicks and the log wait.
   void bijKlop() override;
 
   VoortgangVenster voortgang;
