@@ -29,7 +29,7 @@ bool HoofdVenster::TryBefore(wxEvent& event) {
   if (!bezig.isBezig() || event.GetId() == ID_TEKST) {
     return wxFrame::TryBefore(event);
   }
-  if (isEenVan(instelling, event)) {
+  if (bezig.isInRun() && isEenVan(instelling, event)) {
     bezig.stelUit(event);
     return true;
   }

@@ -58,10 +58,11 @@ void HoofdVenster::encodePCM(wxCommandEvent& /*event*/) {
 
 bool HoofdVenster::codeer(FragmentMaker& maker, wxString const& titel, wxString const& status,
                           std::function<wxString()> const& berichtStaart) {
-  Bezigheid const nu(bezig);
+  Bezigheid nu(bezig);
   tekstVeld->Clear();
   VensterToezicht toezicht(this, _("Encoding progress"), _("Completion of encoding progress"),
                            wavBestanden.size(), *inclHeaderVakje);
+  nu.beginRun();
   // Moving the position back would leave the end of a longer former text behind.
   uitvoerStroom.GetOutputStreamBuffer()->ResetBuffer();
   uitvoerStroom.GetOutputStreamBuffer()->Truncate();

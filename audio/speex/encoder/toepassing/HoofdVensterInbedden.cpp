@@ -10,7 +10,7 @@
 #include "audio/speex/encoder/toepassing/vensterToezicht.h"
 
 void HoofdVenster::wavSaveHandler(wxCommandEvent& /*event*/) {
-  Bezigheid const nu(bezig);
+  Bezigheid nu(bezig);
   std::optional<GekozenDoel> const doel =
       vraagDoel(_("Save the WAV files as embedded data"), embedBestand);
   if (!doel) {
@@ -18,6 +18,7 @@ void HoofdVenster::wavSaveHandler(wxCommandEvent& /*event*/) {
   }
   VensterToezicht toezicht(this, _("Embedding progress"), _("Completion of embedding progress"),
                            wavBestanden.size(), *inclHeaderVakje);
+  nu.beginRun();
   UitvoerBestand bestand = openDoel(embedBestand);
   bool const isOpen = bestand.isOpen();
   // A file that cannot be opened has been logged: there is nowhere to put the text, and so nothing

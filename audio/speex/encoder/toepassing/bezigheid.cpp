@@ -13,6 +13,7 @@ Bezigheid::Bezigheid(BezigStand& bezig) : stand(bezig), hadFocus(wxWindow::FindF
 Bezigheid::~Bezigheid() {
   --stand.handlers;
   if (!stand.isBezig()) {
+    stand.inRun = false;
     for (std::unique_ptr<wxEvent>& event : std::exchange(stand.uitgesteld, {})) {
       stand.ontvanger.QueueEvent(event.release());
     }

@@ -18,6 +18,8 @@ class BezigStand {
   explicit BezigStand(wxEvtHandler& doel) : ontvanger(doel) {}
 
   bool isBezig() const { return handlers > 0; }
+  // Whether a run has begun, whose settings must stay as they are.
+  bool isInRun() const { return inRun; }
   // Sends a copy to the receiver again when the last handler has ended.
   void stelUit(wxEvent const& event);
 
@@ -26,6 +28,7 @@ class BezigStand {
 
   wxEvtHandler& ontvanger;
   int handlers = 0;
+  bool inRun = false;
   std::vector<std::unique_ptr<wxEvent>> uitgesteld;
 };
 
@@ -37,6 +40,10 @@ class Bezigheid {
   // `bezig` must outlive this object.
   explicit Bezigheid(BezigStand& bezig);
   ~Bezigheid();
+
+  // The run begins: its dialog stands. That has disabled the window, and so made a field in which
+  // the user was typing tell its value.
+  void beginRun() { stand.inRun = true; }
 
   Bezigheid(Bezigheid const&) = delete;
   Bezigheid& operator=(Bezigheid const&) = delete;

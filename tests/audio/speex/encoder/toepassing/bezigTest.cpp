@@ -64,30 +64,4 @@ TEST_F(BezigProef, ASettingWaitsForTheEndAndThenGivesTheResultUp) {
   EXPECT_TRUE(bewaard.Contains("\nklasseNaam=Anders\n"));
 }
 
-// Each file has the class of the run's begin.
-TEST_F(BezigProef, ASettingThatChangesInTheMiddleOfARunDoesNotReachItsText) {
-  begin(1);
-  laad({wav("a.wav"), wav("b.wav")});
-  codeer();
-  wxString const eerst = zonderMoment(tekst());
-  keuze(ID_DAC_TYPE)->SetSelection(3);
-  stuur(keuze(ID_DAC_TYPE), wxEVT_CHOICE, ID_DAC_TYPE);
-  rust();
-  antwoorden.opBericht(wxID_OK);
-  bool isVerstoord = false;
-  // The field is cleared at the begin of a run.
-  veld(ID_TEKST)->Bind(wxEVT_TEXT, [this, &isVerstoord](wxCommandEvent& event) {
-    if (!isVerstoord) {
-      isVerstoord = true;
-      keuze(ID_DAC_TYPE)->SetSelection(0);
-      stuur(keuze(ID_DAC_TYPE), wxEVT_CHOICE, ID_DAC_TYPE);
-    }
-    event.Skip();
-  });
-  klik(ID_CODEER);
-  EXPECT_TRUE(isVerstoord);
-  EXPECT_EQ(zonderMoment(tekst()), eerst);
-  EXPECT_FALSE(isGecodeerd());
-}
-
 }  // namespace

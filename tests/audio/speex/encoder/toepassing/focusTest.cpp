@@ -5,6 +5,7 @@
 #include <wx/menu.h>
 #include <wx/progdlg.h>
 #include <wx/radiobox.h>
+#include <wx/spinctrl.h>
 #include <wx/textctrl.h>
 #include <wx/treectrl.h>
 
@@ -39,6 +40,23 @@ TEST_F(FocusProef, TypingGoesOnBehindARun) {
   druk(WXK_END);
   muisEnToetsen.Text("en");
   EXPECT_TRUE(wacht([this] { return veld(ID_KLASSE)->GetValue() == "Klanken"; }));
+}
+
+// The window hears of typed digits when their field loses the focus, which the run takes.
+TEST_F(FocusProef, DigitsThatAreBeingTypedCountForTheRun) {
+  startMetSpeex("speexOutputLanguage=0\n");
+  laad({maakFragment("fragment.wav")});
+  richt(spin(ID_QUALITY));
+  druk('A', wxMOD_CONTROL);
+  muisEnToetsen.Text("5");
+  wachtEven();
+  antwoorden.opBericht(wxID_OK);
+  druk('E', wxMOD_CONTROL);
+  ASSERT_TRUE(wacht([this] { return isGecodeerd(); }));
+  EXPECT_TRUE(tekst().Contains("/* Speex Quality                   : 5  \t\t*/"));
+  wachtEven();
+  EXPECT_TRUE(isGecodeerd());
+  EXPECT_EQ(stopSpeex("speexQuality"), "5");
 }
 
 TEST_F(FocusProef, EncodeHandsItOnToSave) {
