@@ -116,7 +116,7 @@ TEST_F(TekstVeldProef, ShowsALongFileAsTheToolkitDoes) {
 // What paints a dialog then works events off.
 TEST_F(TekstVeldProef, LetsOthersWorkAfterEachPart) {
   int keren = 0;
-  eigen->zetNaDeel([this, &keren] {
+  eigen->zetNaDeel([&keren] {
     ++keren;
     rust();
   });
