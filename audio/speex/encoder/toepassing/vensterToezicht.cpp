@@ -12,7 +12,7 @@ void VoortgangVenster::toonTijd() {
   wxWindowList const& vensters = GetChildren();
   wxStaticText* tijd = nullptr;
   for (wxWindow* const venster : vensters) {
-    auto* const label = wxDynamicCast(venster, wxStaticText);
+    auto* const label = dynamic_cast<wxStaticText*>(venster);
     tijd = label != nullptr ? label : tijd;
   }
   if (tijd != nullptr) {
