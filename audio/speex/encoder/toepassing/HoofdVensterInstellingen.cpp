@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 #include "audio/speex/encoder/toepassing/HoofdVenster.h"
 #include "audio/speex/encoder/toepassing/bedieningsRegels.h"
@@ -49,9 +50,10 @@ void HoofdVenster::geefFocusDoor(wxWindow const* hadFocus) {
   if (hadFocus == nullptr || hadFocus->IsThisEnabled() || hadFocus->GetParent() != paneel) {
     return;
   }
-  // What a user wants next: to save what was encoded, to encode what was loaded or changed.
+  // What a user wants next: to save what was encoded, to encode what was loaded or changed, or else
+  // to open files.
   std::array<wxButton*, 3> const volgende{speexSaveKnop, encodeKnop, wavOpenKnop};
-  (*std::find_if(volgende.begin(), volgende.end(), [](wxButton const* knop) {
+  (*std::find_if(volgende.begin(), std::prev(volgende.end()), [](wxButton const* knop) {
     return knop->IsThisEnabled();
   }))->SetFocus();
 }
