@@ -16,21 +16,24 @@ option(KESTROLIN_FUZZ "Build the fuzz targets, and all code for them: needs clan
 
 add_library(bouwOpties INTERFACE)
 target_include_directories(bouwOpties INTERFACE "${PROJECT_SOURCE_DIR}")
+# The compiler of Windows' resources knows none of these.
+set(_opties
+    -Wall
+    -Wextra
+    -Wpedantic
+    -Wshadow
+    -Wconversion
+    -Wsign-conversion
+    -Wcast-qual
+    -Wformat=2
+    "$<$<BOOL:${KESTROLIN_WERROR}>:-Werror>"
+    # Each operation rounds by itself, also where the processor could do two at once: results must not
+    # differ from machine to machine.
+    -ffp-contract=off)
 target_compile_options(
   bouwOpties
-  INTERFACE -Wall
-            -Wextra
-            -Wpedantic
-            -Wshadow
-            -Wconversion
-            -Wsign-conversion
-            -Wcast-qual
-            -Wformat=2
-            "$<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast;-Wnon-virtual-dtor;-Woverloaded-virtual>"
-            "$<$<BOOL:${KESTROLIN_WERROR}>:-Werror>"
-            # Each operation rounds by itself, also where the processor could do two at once: results
-            # must not differ from machine to machine.
-            -ffp-contract=off)
+  INTERFACE "$<$<COMPILE_LANGUAGE:C,CXX>:${_opties}>"
+            "$<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast;-Wnon-virtual-dtor;-Woverloaded-virtual>")
 
 if(KESTROLIN_SANITIZE)
   set(_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
@@ -54,9 +57,15 @@ check_pie_supported()
 function(bewaak doel)
   set_target_properties(${doel} PROPERTIES POSITION_INDEPENDENT_CODE ON)
   if(NOT KESTROLIN_SANITIZE)
-    target_compile_options(${doel} PRIVATE
-                           "$<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
-    target_link_options(${doel} PRIVATE "$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
+    set(_wachten "$<AND:$<CONFIG:Release>,$<COMPILE_LANGUAGE:C,CXX>>")
+    target_compile_options(${doel} PRIVATE "$<${_wachten}:-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
+    # Windows' linker has the like of relro always, and what checks a buffer lies in a library there.
+    if(WIN32)
+      set(_wachten -fstack-protector-strong)
+    else()
+      set(_wachten LINKER:-z,relro,-z,now)
+    endif()
+    target_link_options(${doel} PRIVATE "$<$<CONFIG:Release>:${_wachten}>")
   endif()
 endfunction()
 

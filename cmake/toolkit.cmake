@@ -2,7 +2,11 @@
 # program of rooms that take only wxBasis does not link once one of them grows a window. Headers count
 # as system headers, so that our warnings stay ours.
 
+# A toolchain of another system says where its libraries are; this machine's are of no use there.
 find_package(PkgConfig REQUIRED)
+if(CMAKE_CROSSCOMPILING AND NOT DEFINED ENV{PKG_CONFIG_LIBDIR})
+  message(FATAL_ERROR "pkg-config would find this machine's libraries: set PKG_CONFIG_LIBDIR")
+endif()
 pkg_check_modules(sndfile REQUIRED IMPORTED_TARGET sndfile)
 pkg_check_modules(speex REQUIRED IMPORTED_TARGET speex)
 pkg_check_modules(speexdsp REQUIRED IMPORTED_TARGET speexdsp)
