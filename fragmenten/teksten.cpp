@@ -7,7 +7,6 @@
 // is not there. They bear the date of the first release, so that each build makes the same ones. An
 // array has the name of the file it came from, so the fragments are copied there under a name that
 // ends in their encoder. Ends with status 1 and a line about it where a file fails.
-#include <sndfile.h>
 #include <wx/ffile.h>
 #include <wx/filename.h>
 #include <wx/init.h>
@@ -21,11 +20,11 @@
 #include <ctime>
 #include <filesystem>
 #include <iostream>
-#include <memory>
 #include <string>
 #include <vector>
 
 #include "audio/codec/audioConfig.h"
+#include "audio/codec/sndBestand.h"
 #include "audio/codec/tekstMoment.h"
 #include "audio/codec/wavFormaat.h"
 #include "audio/uitvoer/speexMaker.h"
@@ -44,8 +43,6 @@ struct Geluid {
   std::vector<short> samples;
 };
 
-using Handvat = std::unique_ptr<SNDFILE, int (*)(SNDFILE*)>;
-
 void eis(bool voorwaarde, std::string const& wat) {
   if (!voorwaarde) {
     std::cerr << "fragmentTeksten: " << wat << '\n';
@@ -53,22 +50,24 @@ void eis(bool voorwaarde, std::string const& wat) {
   }
 }
 
+wxFileName wxPad(fs::path const& pad) {
+  return {wxString::FromUTF8(pad.u8string())};
+}
+
 Geluid lees(fs::path const& pad) {
-  Geluid geluid;
-  Handvat const wav(sf_open(pad.c_str(), SFM_READ, &geluid.info), sf_close);
-  eis(wav != nullptr, "cannot read " + pad.string());
+  SndBestand wav = SndBestand::lees(wxPad(pad));
+  eis(wav.isOpen(), "cannot read " + pad.u8string());
+  Geluid geluid{wav.info(), {}};
   geluid.samples.resize(static_cast<std::size_t>(geluid.info.frames));
-  sf_read_short(wav.get(), geluid.samples.data(), geluid.info.frames);
+  wav.leesItems(geluid.samples.data(), geluid.info.frames);
   return geluid;
 }
 
 void schrijf(fs::path const& pad, Geluid const& geluid, int formaat) {
-  SF_INFO info = geluid.info;
-  info.format = formaat;
-  Handvat const wav(sf_open(pad.c_str(), SFM_WRITE, &info), sf_close);
+  SF_INFO const& info = geluid.info;
+  SndBestand wav = SndBestand::schrijf(wxPad(pad), info.samplerate, info.channels, formaat);
   auto const aantal = static_cast<sf_count_t>(geluid.samples.size());
-  eis(wav != nullptr && sf_write_short(wav.get(), geluid.samples.data(), aantal) == aantal,
-      "cannot write " + pad.string());
+  eis(wav.schrijfItems(geluid.samples.data(), aantal) == aantal, "cannot write " + pad.u8string());
 }
 
 // What the ADPCM encoder takes of a sample is its low byte, so the whole range is brought into it.
@@ -77,10 +76,6 @@ Geluid zacht(Geluid geluid) {
   std::transform(geluid.samples.begin(), geluid.samples.end(), geluid.samples.begin(),
                  [](short sample) { return static_cast<short>(sample / deler); });
   return geluid;
-}
-
-wxFileName wxPad(fs::path const& pad) {
-  return {wxString::FromUTF8(pad.string())};
 }
 
 class Teksten {
@@ -163,7 +158,7 @@ int main(int aantal, char** woorden) {
   // The embedding leaves the images behind that it makes, so it gets a temporary folder to go.
   fs::path const beelden = fs::path(woorden[2]) / "beelden";
   fs::create_directories(beelden);
-  wxSetEnv("TMPDIR", wxString::FromUTF8(fs::absolute(beelden).string()));
+  wxSetEnv("TMPDIR", wxString::FromUTF8(fs::absolute(beelden).u8string()));
   legTekstMomentVast(moment);
   Teksten const teksten(woorden[1], woorden[2]);
   teksten.pcm();

@@ -2,8 +2,6 @@
 // with steps does. Nothing is reported: what lies outside is brought to the nearest bound.
 #pragma once
 
-#include <cmath>
-
 #include "numeriek/begrens.h"
 
 class BegrensdStapFloatGetal {
@@ -18,7 +16,7 @@ class BegrensdStapFloatGetal {
         stap_(stap) {}
 
   // x rounded to a whole number, halves away from zero: 2.5 gives 3, -2.5 gives -3.
-  double rondFunktie(double x) const { return std::round(x); }
+  double rondFunktie(double x) const;
 
   // Brings x to the grid and makes it the value, clamped as at construction: the whole number at or
   // below x, plus the rest of x rounded to a whole number of steps, halves up.

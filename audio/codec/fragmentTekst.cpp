@@ -1,10 +1,9 @@
 #include "audio/codec/fragmentTekst.h"
 
-#include <sys/utsname.h>
 #include <wx/filename.h>
 #include <wx/intl.h>
-#include <wx/platinfo.h>
 
+#include "audio/codec/machine.h"
 #include "audio/codec/rijSchrijver.h"
 #include "audio/codec/tekstMoment.h"
 #include "audio/codec/uitvoerTaal.h"
@@ -15,18 +14,6 @@ namespace {
 // A count in the text shows its low 32 bits, as a signed number.
 wxString laagsteBits(unsigned long long aantal) {
   return wxString::Format("%d", static_cast<int>(aantal));
-}
-
-// The system and its width, in the words of wxPlatformInfo. Making one of those starts eight
-// programs to find out more, which takes ten times as long as the text of a short fragment.
-wxString machine() {
-  utsname gegevens{};
-  uname(&gegevens);
-  wxString const soort(gegevens.machine);
-  bool const is64 = soort.Contains("64") || soort.Contains("alpha");
-  return wxPlatformInfo::GetOperatingSystemIdName(
-             wxPlatformInfo::GetOperatingSystemId(gegevens.sysname)) +
-         " (" + wxPlatformInfo::GetBitnessName(is64 ? wxBITNESS_64 : wxBITNESS_32) + ")";
 }
 
 }  // namespace

@@ -3,12 +3,11 @@
 #include <wx/filename.h>
 #include <wx/intl.h>
 #include <wx/log.h>
-#include <wx/strconv.h>
 
 #include <algorithm>
-#include <string>
 
 #include "audio/codec/hartslag.h"
+#include "audio/codec/sndOpen.h"
 
 SndBestand::SndBestand(wxFileName const& bestand, int modus, SF_INFO const& gevraagd)
     : pad(bestand.GetFullPath()), gegevens(gevraagd), toestand(open(bestand, modus, gegevens)) {}
@@ -19,9 +18,7 @@ std::shared_ptr<SndBestand::Toestand> SndBestand::open(wxFileName const& bestand
   if (modus == SFM_READ && !bestand.FileExists()) {
     return nullptr;
   }
-  // Empty where the name has no form in the C library's encoding; there is no file of that name.
-  std::string const pad = bestand.GetFullPath().ToStdString(wxConvLibc);
-  Handvat handvat(sf_open(pad.c_str(), modus, &info));
+  Handvat handvat(openSnd(bestand.GetFullPath(), modus, info));
   if (!handvat) {
     // What the library found out before it gave up says nothing about a file that cannot be used.
     info = SF_INFO{};

@@ -1,9 +1,10 @@
 #include "audio/codec/uitvoerBestand.h"
 
-#include <fcntl.h>
 #include <wx/intl.h>
 #include <wx/log.h>
 #include <wx/mstream.h>
+
+#include "audio/codec/uitvoerOpen.h"
 
 namespace {
 
@@ -13,15 +14,11 @@ constexpr char const* nietTeOpenen = "can't open file '%s'";
 }  // namespace
 
 UitvoerBestand::UitvoerBestand(wxString const& pad, wxFile::OpenMode modus) : naam(pad) {
-  // Opening waits for nobody: neither for who may read a pipe, nor for the carrier of a line.
-  int const soort = modus == wxFile::write_append ? O_APPEND : O_TRUNC;
-  int const fd =
-      open(pad.fn_str(), O_WRONLY | O_CREAT | O_NONBLOCK | O_NOCTTY | soort, wxS_DEFAULT);
+  int const fd = openUitvoer(pad, modus == wxFile::write_append);
   if (fd < 0) {
     wxLogSysError(wxGetTranslation(nietTeOpenen), pad);
     return;
   }
-  fcntl(fd, F_SETFL, fcntl(fd, F_GETFL) & ~O_NONBLOCK);
   bestand.Attach(fd);
 }
 
