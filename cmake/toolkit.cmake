@@ -25,8 +25,17 @@ function(_maak_wx_doel doel)
   target_link_libraries(${doel} INTERFACE ${wxWidgets_LIBRARIES})
 endfunction()
 
-_maak_wx_doel(wxBasis base)
-_maak_wx_doel(wxVenster core base)
+if(WIN32)
+  # The toolkit's own description, which tells the libraries of Windows too.
+  find_package(wxWidgets 3.2 CONFIG REQUIRED COMPONENTS core base)
+  add_library(wxBasis INTERFACE)
+  target_link_libraries(wxBasis INTERFACE wx::base)
+  add_library(wxVenster INTERFACE)
+  target_link_libraries(wxVenster INTERFACE wx::core wx::base)
+else()
+  _maak_wx_doel(wxBasis base)
+  _maak_wx_doel(wxVenster core base)
+endif()
 
 # What the toolkit stands on here, for what of it goes through no function of the toolkit's. Not needed,
 # but without it screen readers are told less.
