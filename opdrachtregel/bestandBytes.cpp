@@ -1,16 +1,16 @@
 #include "opdrachtregel/bestandBytes.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
+#include <cstddef>
 #include <vector>
+
+#include "opdrachtregel/systeem.h"
 
 int schrijfBytes(int handvat, char const* begin, std::size_t bytes) {
   std::size_t geschreven = 0;
   while (geschreven < bytes) {
-    ssize_t const deel = write(handvat, begin + geschreven, bytes - geschreven);
+    std::ptrdiff_t const deel = schrijfDeel(handvat, begin + geschreven, bytes - geschreven);
     if (deel > 0) {
       geschreven += static_cast<std::size_t>(deel);
     } else if (deel == 0) {
@@ -26,7 +26,7 @@ int kopieerBytes(int van, int naar) {
   constexpr std::size_t blokBytes = 65536;
   std::vector<char> blok(blokBytes);
   for (;;) {
-    ssize_t const gelezen = read(van, blok.data(), blok.size());
+    std::ptrdiff_t const gelezen = leesDeel(van, blok.data(), blok.size());
     if (gelezen == 0) {
       return 0;
     }
@@ -42,7 +42,7 @@ int kopieerBytes(int van, int naar) {
 }
 
 int leesBestand(std::string const& pad, std::string& inhoud) {
-  Handvat const bestand(pad == "-" ? dup(STDIN_FILENO) : open(pad.c_str(), O_RDONLY | O_CLOEXEC));
+  Handvat const bestand(pad == "-" ? openKanaal(kanaalInvoer) : openLezend(pad));
   if (!bestand.isOpen()) {
     return errno;
   }
@@ -51,8 +51,8 @@ int leesBestand(std::string const& pad, std::string& inhoud) {
   for (;;) {
     std::size_t const al = inhoud.size();
     inhoud.resize(al + blokBytes);
-    ssize_t const gelezen = read(bestand.geef(), inhoud.data() + al, blokBytes);
-    inhoud.resize(al + static_cast<std::size_t>(std::max<ssize_t>(gelezen, 0)));
+    std::ptrdiff_t const gelezen = leesDeel(bestand.geef(), inhoud.data() + al, blokBytes);
+    inhoud.resize(al + static_cast<std::size_t>(std::max<std::ptrdiff_t>(gelezen, 0)));
     if (gelezen == 0) {
       return 0;
     }
@@ -69,6 +69,5 @@ Handvat::~Handvat() {
 int Handvat::sluit() {
   int const open = waarde;
   waarde = -1;
-  // Linux has closed it, also where a signal came between.
-  return open < 0 || close(open) == 0 || errno == EINTR ? 0 : errno;
+  return open < 0 || sluitBestand(open) ? 0 : errno;
 }

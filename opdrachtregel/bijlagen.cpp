@@ -24,7 +24,7 @@ constexpr bool isLetterOfCijfer(char teken) {
 // The name of the file in capitals, and what it declares: headers of one name in two folders can be
 // included both.
 std::string wachter(std::string const& bestand, std::string const& inhoud) {
-  std::string naam = fs::path(bestand).filename().string();
+  std::string naam = fs::u8path(bestand).filename().u8string();
   std::transform(naam.begin(), naam.end(), naam.begin(), [](char teken) {
     if (!isLetterOfCijfer(teken)) {
       return '_';
@@ -100,8 +100,11 @@ std::string bronTekst(std::string const& declaraties, std::string const& tekst,
 
 std::string insluitPad(std::string const& doel, std::string const& bron) {
   std::error_code fout;
-  fs::path const map = fs::absolute(bron, fout).lexically_normal().parent_path();
-  return fs::absolute(doel, fout).lexically_normal().lexically_relative(map).generic_string();
+  fs::path const map = fs::absolute(fs::u8path(bron), fout).lexically_normal().parent_path();
+  fs::path const geheel = fs::absolute(fs::u8path(doel), fout).lexically_normal();
+  fs::path const deel = geheel.lexically_relative(map);
+  // From one drive to another there is no other way.
+  return (deel.empty() ? geheel : deel).generic_u8string();
 }
 
 std::string afhankelijkheidTekst(std::string const& doel, std::vector<std::string> const& bronnen) {

@@ -105,5 +105,5 @@ bool DecodeerOpdracht::schrijf(TekstArray const& array, DoelGeluid const& geluid
 
 // The names of arrays are identifiers: none leads out of the folder.
 std::string DecodeerOpdracht::doelPad(TekstArray const& array) const {
-  return (fs::path(map) / (array.naam + ".wav")).string();
+  return (fs::u8path(map) / fs::u8path(array.naam + ".wav")).u8string();
 }

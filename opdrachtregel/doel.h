@@ -45,7 +45,6 @@ class Doel : public wxOutputStream {
   explicit Doel(std::string const& gegeven);
   bool bereidVoor();
   bool maakNieuw(std::string const& map);
-  bool neemRechtenOver();
   bool neemInhoudOver();
   bool meldFout(int code) const;
 

@@ -1,8 +1,5 @@
 #include "opdrachtregel/doelGroep.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
 #include <deque>
@@ -10,23 +7,12 @@
 #include <system_error>
 
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/signalen.h"
+#include "opdrachtregel/systeem.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-// Whether the file is another user's, whose link may not be removed from every folder.
-bool isVanAnder(std::string const& pad) {
-  struct stat gegevens {};
-  return stat(pad.c_str(), &gegevens) != 0 || gegevens.st_uid != geteuid();
-}
-
-// False where the file system has no links.
-bool maakLink(std::string const& pad, std::string const& nieuw) {
-  std::error_code fout;
-  fs::create_hard_link(pad, nieuw, fout);
-  return !fout;
-}
 
 // What is at a place before a new file comes there. It comes back at the end, also of an exception,
 // where the new file came and is not to stay.
@@ -65,19 +51,14 @@ Terugweg::Terugweg(Doel const& doel) : pad(doel.geefPad()) {
   }
   // Its name is all that counts: a group may have more files than a process may have open.
   static_cast<void>(oud->sluit());
-  std::error_code code;
-  fs::remove(oud->geefPad(), code);
-  if (isVanAnder(pad) || !maakLink(pad, oud->geefPad())) {
-    fs::copy_file(pad, oud->geefPad(), code);
-  }
-  fout = code.value();
+  fout = bewaarOnder(pad, oud->geefPad());
 }
 
 Terugweg::~Terugweg() {
   if (isNodig && oud) {
     static_cast<void>(oud->hernoem(pad));
   } else if (isNodig) {
-    unlink(pad.c_str());
+    verwijderBestand(pad);
   }
 }
 
@@ -87,7 +68,7 @@ bool isGeenInvoer(std::string const& pad, std::vector<std::string> const& invoer
                   char const* raad) {
   bool const isEen = std::any_of(invoer.begin(), invoer.end(), [&pad](std::string const& een) {
     std::error_code geenVanBeide;
-    return fs::equivalent(een, pad, geenVanBeide);
+    return fs::equivalent(fs::u8path(een), fs::u8path(pad), geenVanBeide);
   });
   if (isEen) {
     meld("cannot write " + pad + ": it is one of the files to read; give " + raad);
@@ -100,10 +81,7 @@ Doel* DoelGroep::voegToe(std::string const& pad, bool aanvullen) {
   if (!doel) {
     return nullptr;
   }
-  std::error_code fout;
-  fs::path const plaats =
-      fs::canonical(doel->geefMap(), fout) / fs::path(doel->geefPad()).filename();
-  if (!plaatsen.insert(plaats).second) {
+  if (!plaatsen.insert(plaatsVan(doel->geefMap(), doel->geefPad())).second) {
     meld("cannot write " + pad + " twice: give each output a file of its own");
     return nullptr;
   }

@@ -112,7 +112,8 @@ bool keurAanvulling(EncodeerVraag const& vraag, std::vector<Opname> const& opnam
                     std::string const& pad) {
   std::string tekst;
   std::error_code geen;
-  if (!std::filesystem::is_regular_file(pad, geen) || leesBestand(pad, tekst) != 0) {
+  if (!std::filesystem::is_regular_file(std::filesystem::u8path(pad), geen) ||
+      leesBestand(pad, tekst) != 0) {
     // There is nothing yet, or no place for a text, as is told when it is opened.
     return true;
   }

@@ -12,6 +12,7 @@
 #include "audio/uitvoer/uitvoerRun.h"
 #include "audio/weergave/arrayMaker.h"
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/systeem.h"
 #include "opdrachtregel/voortgang.h"
 #include "opdrachtregel/wegwerpBestand.h"
 

@@ -67,13 +67,13 @@ class BytesAs {
   }
 
   // Ones, twos and fives of each power of ten; where the axis is long the ones alone.
-  std::vector<long> streepjes() const {
+  std::vector<long long> streepjes() const {
     constexpr double lang = 1000;
-    constexpr long hoogste = 1'000'000'000'000;
-    constexpr long stap = 10;
-    std::vector<long> uit;
-    for (long macht = 1; macht < hoogste; macht *= stap) {
-      for (long const cijfer : {1L, 2L, 5L}) {
+    constexpr long long hoogste = 1'000'000'000'000;
+    constexpr long long stap = 10;
+    std::vector<long long> uit;
+    for (long long macht = 1; macht < hoogste; macht *= stap) {
+      for (long long const cijfer : {1LL, 2LL, 5LL}) {
         double const x = plaats(static_cast<double>(macht * cijfer));
         if (x >= linksBoven.x && x <= rechtsOnder.x && (cijfer == 1 || meest / minst < lang)) {
           uit.push_back(macht * cijfer);
@@ -88,9 +88,9 @@ class BytesAs {
   double meest = 0;
 };
 
-std::string bytesTekst(long bytes) {
-  constexpr long kilo = 1000;
-  constexpr long mega = kilo * kilo;
+std::string bytesTekst(long long bytes) {
+  constexpr long long kilo = 1000;
+  constexpr long long mega = kilo * kilo;
   return bytes < kilo   ? std::to_string(bytes)
          : bytes < mega ? std::to_string(bytes / kilo) + " k"
                         : std::to_string(bytes / mega) + " M";
@@ -105,7 +105,7 @@ std::string assen(BytesAs const& as) {
   constexpr char const* raster = R"(stroke="#dddddd")";
   constexpr int stap = 5;  // dB
   std::string uit;
-  for (long const bytes : as.streepjes()) {
+  for (long long const bytes : as.streepjes()) {
     double const x = as.plaats(static_cast<double>(bytes));
     uit += svgLijn({{x, linksBoven.y}, {x, rechtsOnder.y}}, raster) +
            svgTekst({x, rechtsOnder.y + 17}, bytesTekst(bytes), inHetMidden);

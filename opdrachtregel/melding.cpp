@@ -5,6 +5,8 @@
 #include <cstring>
 #include <iostream>
 
+#include "opdrachtregel/systeem.h"
+
 namespace {
 
 int gemeld = 0;
@@ -36,6 +38,9 @@ void wisVoortgang() {
 
 std::string redenEnRaad(int code) {
   std::string const reden = std::strerror(code);
+  if (isVol(code)) {
+    return reden + "; make room, or give another place";
+  }
   switch (code) {
     case ENOENT:
     case ENOTDIR:
@@ -47,10 +52,6 @@ std::string redenEnRaad(int code) {
     case EPERM:
     case EROFS:
       return reden + "; change its permissions, or give another place";
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return reden + "; make room, or give another place";
     default:
       return reden + "; see to that, and run it again";
   }

@@ -1,10 +1,7 @@
 #include "opdrachtregel/opname.h"
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cerrno>
-#include <system_error>
 
 #include "audio/codec/sndBestand.h"
 #include "audio/uitvoer/wavKeuring.h"
@@ -18,11 +15,6 @@ wxFileName volledig(std::string const& pad) {
   wxFileName bestand(wxString::FromUTF8(pad));
   bestand.Normalize(wxPATH_NORM_DOTS | wxPATH_NORM_ABSOLUTE);
   return bestand;
-}
-
-BestandStaat leesStaat(std::string const& pad) {
-  std::error_code fout;
-  return {std::filesystem::file_size(pad, fout), std::filesystem::last_write_time(pad, fout)};
 }
 
 // What libsndfile calls one part of a format.
@@ -47,7 +39,7 @@ std::string bezwaar(Opname const& opname) {
   if (wxFileName::DirExists(opname.bestand.GetFullPath())) {
     return "this is a folder; give the WAV files in it";
   }
-  if (access(opname.bestand.GetFullPath().utf8_str(), R_OK) != 0) {
+  if (!magLezen(opname.bestand.GetFullPath().utf8_string())) {
     return "cannot be read: " + redenEnRaad(errno);
   }
   if (opname.info.samplerate == 0) {

@@ -4,17 +4,11 @@
 #include <sndfile.h>
 #include <wx/filename.h>
 
-#include <cstdint>
-#include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
-// What changes when a file does.
-struct BestandStaat {
-  std::uintmax_t bytes = 0;
-  std::filesystem::file_time_type moment;
-};
+#include "opdrachtregel/systeem.h"
 
 struct Opname {
   std::string gegeven;  // the path as the user gave it, UTF-8

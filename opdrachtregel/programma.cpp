@@ -1,13 +1,12 @@
 #include "opdrachtregel/programma.h"
 
-#include <fcntl.h>
-#include <unistd.h>
 #include <wx/init.h>
 #include <CLI/CLI.hpp>
 
 #include <algorithm>
 #include <array>
 #include <clocale>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
 #include <iterator>
@@ -23,7 +22,9 @@
 #include "opdrachtregel/lijstOpdracht.h"
 #include "opdrachtregel/melding.h"
 #include "opdrachtregel/opmaak.h"
+#include "opdrachtregel/signalen.h"
 #include "opdrachtregel/speelOpdracht.h"
+#include "opdrachtregel/systeem.h"
 #include "opdrachtregel/vergelijkOpdracht.h"
 #include "opdrachtregel/wegwerpBestand.h"
 
@@ -55,9 +56,9 @@ constexpr std::array<std::string_view, 3> geenGeheugen{
 [[noreturn]] void eindigZonderGeheugen() {
   ruimNuOp();
   for (std::string_view const deel : geenGeheugen) {
-    static_cast<void>(!write(STDERR_FILENO, deel.data(), deel.size()));
+    static_cast<void>(schrijfDeel(kanaalFout, deel.data(), deel.size()));
   }
-  _exit(mislukt);
+  std::_Exit(mislukt);
 }
 
 // The toolkit, as long as this lives.
@@ -97,17 +98,6 @@ int sluitUitvoer(int uitslag) {
   return uitslag;
 }
 
-// A process can be started without its three channels. The first file that it opens would take the
-// place of one, and get what goes there.
-void bezetKanalen() {
-  for (int const kanaal : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
-    if (fcntl(kanaal, F_GETFD) < 0) {
-      // Nothing can be written to the second one, as it should be.
-      static_cast<void>(open("/dev/null", kanaal == STDERR_FILENO ? O_WRONLY : O_RDONLY));
-    }
-  }
-}
-
 // The words behind the name of the program, in the reverse order that the library wants. It takes
 // brackets around a word for a list of its own. A process can be started without any word.
 std::vector<std::string> zonderLijsten(int aantal, char const* const* woorden) {
@@ -145,6 +135,8 @@ int voerRegelUit(int aantal, char const* const* woorden) {
   programma.set_version_flag("--version", std::string("kestrolin-cli ") + KESTROLIN_VERSIE,
                              "Print the version and exit");
   programma.require_subcommand(1);
+  // A word that begins with a slash is a path on each system.
+  programma.allow_windows_style_options(false);
   std::vector<std::unique_ptr<Opdracht>> const opdrachten = maakOpdrachten(programma);
   std::vector<std::string> regel = zonderLijsten(aantal, woorden);
   if (!isOpdracht(programma, regel)) {
@@ -167,7 +159,7 @@ int voerRegelUit(int aantal, char const* const* woorden) {
 
 int voerProgrammaUit(int aantal, char const* const* woorden) {
   std::set_terminate(eindigZonderGeheugen);
-  bezetKanalen();
+  bereidKanalenVoor();
   try {
     return voerRegelUit(aantal, woorden);
   } catch (std::bad_alloc const&) {

@@ -12,6 +12,7 @@
 #include "audio/weergave/arrayMaker.h"
 #include "audio/weergave/doelDecoder.h"
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/systeem.h"
 #include "opdrachtregel/wegwerpBestand.h"
 
 namespace {

@@ -1,14 +1,14 @@
 #include "opdrachtregel/voortgang.h"
 
-#include <unistd.h>
 #include <wx/log.h>
 
 #include <string>
 
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/systeem.h"
 
 Voortgang::Voortgang(std::size_t aantal, char const* wat, std::chrono::milliseconds langeDuur)
-    : totaal(aantal), naam(wat), geduld(langeDuur), isTerminal(isatty(STDERR_FILENO) == 1) {}
+    : totaal(aantal), naam(wat), geduld(langeDuur), isTerminal(kanRegelVerversen()) {}
 
 Voortgang::~Voortgang() {
   wisVoortgang();

@@ -1,7 +1,6 @@
 // Files that go when their owner goes, and when a signal ends the program.
 #pragma once
 
-#include <csignal>
 #include <memory>
 #include <string>
 #include <vector>
@@ -66,29 +65,8 @@ class WegwerpMap {
   int fout = 0;
 };
 
-// The folder for files that go before the program ends: $TMPDIR, or "/tmp".
-std::string tijdelijkeMap();
-
 // Tells that no file can be made there, with the reason in errno.
 void meldGeenTijdelijk();
 
-// From here on the signals by which a user or a build ends the program remove all files of this
-// kind first. A signal that is ignored stays so.
-void ruimOpBijSignaal();
-
-// Removes them now, where the program ends without letting go of what it owns.
+// Removes all of these files now, where the program ends without letting go of what it owns.
 void ruimNuOp();
-
-// Keeps these signals waiting while it lives.
-class SignaalPauze {
- public:
-  SignaalPauze();
-  ~SignaalPauze();
-  SignaalPauze(SignaalPauze const&) = delete;
-  SignaalPauze& operator=(SignaalPauze const&) = delete;
-  SignaalPauze(SignaalPauze&&) = delete;
-  SignaalPauze& operator=(SignaalPauze&&) = delete;
-
- private:
-  sigset_t vorige{};
-};
