@@ -35,6 +35,11 @@ target_compile_options(
   INTERFACE "$<$<COMPILE_LANGUAGE:C,CXX>:${_opties}>"
             "$<$<COMPILE_LANGUAGE:CXX>:-Wold-style-cast;-Wnon-virtual-dtor;-Woverloaded-virtual>")
 
+if(WIN32)
+  # What checks a buffer lies in a library there, for whatever links a room.
+  target_link_options(bouwOpties INTERFACE -fstack-protector-strong)
+endif()
+
 if(KESTROLIN_SANITIZE)
   set(_sanitizers -fsanitize=address,undefined -fno-sanitize-recover=all)
   target_compile_options(bouwOpties INTERFACE ${_sanitizers} -fno-omit-frame-pointer)
@@ -59,13 +64,10 @@ function(bewaak doel)
   if(NOT KESTROLIN_SANITIZE)
     set(_wachten "$<AND:$<CONFIG:Release>,$<COMPILE_LANGUAGE:C,CXX>>")
     target_compile_options(${doel} PRIVATE "$<${_wachten}:-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
-    # Windows' linker has the like of relro always, and what checks a buffer lies in a library there.
-    if(WIN32)
-      set(_wachten -fstack-protector-strong)
-    else()
-      set(_wachten LINKER:-z,relro,-z,now)
+    # Windows' linker has the like of relro always.
+    if(NOT WIN32)
+      target_link_options(${doel} PRIVATE "$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
     endif()
-    target_link_options(${doel} PRIVATE "$<$<CONFIG:Release>:${_wachten}>")
   endif()
 endfunction()
 
