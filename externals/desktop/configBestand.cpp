@@ -1,6 +1,5 @@
 #include "externals/desktop/configBestand.h"
 
-#include <sys/stat.h>
 #include <wx/file.h>
 #include <wx/filename.h>
 #include <wx/log.h>
@@ -10,22 +9,14 @@
 #include <filesystem>
 #include <system_error>
 
+#include "externals/desktop/systeem.h"
+
 namespace {
 
 constexpr int plaatsen = wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE;
 
-// Those of the old file, or those of any new one.
-void geefRechten(wxString const& nieuw, wxString const& oud) {
-  struct stat gegevens {};
-  mode_t rechten = 0;
-  if (stat(oud.fn_str(), &gegevens) == 0) {
-    rechten = gegevens.st_mode;
-  } else {
-    mode_t const masker = umask(0);
-    umask(masker);
-    rechten = 0666U & ~masker;
-  }
-  static_cast<void>(chmod(nieuw.fn_str(), rechten));
+std::filesystem::path alsPad(wxString const& pad) {
+  return static_cast<std::filesystem::path::value_type const*>(pad.fn_str());
 }
 
 }  // namespace
@@ -66,7 +57,7 @@ wxString ConfigBestand::schrijf(wxMemoryOutputStream const& tekst) const {
   }
   // In one step: the toolkit's own way removes the old file first.
   std::error_code fout;
-  std::filesystem::rename(nieuw.fn_str().data(), pad.fn_str().data(), fout);
+  std::filesystem::rename(alsPad(nieuw), alsPad(pad), fout);
   if (fout) {
     wxRemoveFile(nieuw);
     return "Failed to update user configuration file.";

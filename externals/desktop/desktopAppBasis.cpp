@@ -1,7 +1,5 @@
 #include "externals/desktop/desktopAppBasis.h"
 
-#include <langinfo.h>
-#include <sys/utsname.h>
 #include <wx/datetime.h>
 #include <wx/gdicmn.h>
 #include <wx/log.h>
@@ -9,10 +7,8 @@
 #include <wx/translation.h>
 #include <wx/utils.h>
 
-#include <clocale>
-#include <cstring>
-
 #include "externals/desktop/configBestand.h"
+#include "externals/desktop/systeem.h"
 #include "numeriek/configGetal.h"
 
 namespace {
@@ -32,34 +28,9 @@ Moment geefMoment() {
   return {nu.Format("%Y-%m-%d"), nu.Format("%H:%M:%S")};
 }
 
-// What a wxPlatformInfo says. Making one of those starts a shell for each of its questions about
-// the system, which costs half as much as all else of a start.
-wxOperatingSystemId geefSysteem() {
-  utsname gegevens{};
-  uname(&gegevens);
-  return wxPlatformInfo::GetOperatingSystemId(gegevens.sysname);
-}
-
 bool isWindows(wxOperatingSystemId systeem) {
   return systeem == wxOS_WINDOWS_9X || systeem == wxOS_WINDOWS_NT ||
          systeem == wxOS_WINDOWS_MICRO || systeem == wxOS_WINDOWS_CE;
-}
-
-// glibc's name of the character set of "C".
-bool isAscii() {
-  return std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0;
-}
-
-// In a locale of ASCII alone no name with an accent can be turned into the bytes of a path. Without
-// a locale the process is in "C"; and one that was made can be "C" as well, where the toolkit takes
-// over what the environment says. The character type of the user's environment, or that of C.UTF-8
-// where the environment offers no more, brings such names back and changes nothing else.
-void zetTekensoort() {
-  for (char const* const naam : {"", "C.UTF-8"}) {
-    if (isAscii()) {
-      static_cast<void>(std::setlocale(LC_CTYPE, naam));
-    }
-  }
 }
 
 // Reads the configuration. The toolkit meets a line without a key, as an editor's slip can leave

@@ -15,5 +15,6 @@
 // ends the one before. Where nothing can be played Play returns false at once, and standard error
 // tells the reason the first time.
 //
-// In a build without SDL this does nothing, and the toolkit keeps its own player.
+// In a build without SDL this does nothing, and the toolkit keeps its own player: the system's
+// under Windows.
 void plaatsGeluidSpeler();

@@ -1,4 +1,4 @@
-// The build without SDL.
+// Builds without SDL.
 #include "externals/desktop/geluidSpeler.h"
 
 void plaatsGeluidSpeler() {}

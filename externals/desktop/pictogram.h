@@ -7,6 +7,6 @@ class wxString;
 
 // The icon called `naam` in the sizes up to 128 pixels: the pictures
 // PREFIX/share/icons/hicolor/SxS/apps/NAAM.png, where the program is PREFIX/bin/PROGRAM. What is
-// missing, broken or of another size than its folder tells is left out, without a word. Needs the
-// toolkit started.
+// missing, broken or of another size than its folder tells is left out, without a word. Under
+// Windows it is the program's resource of that name, in all its sizes. Needs the toolkit started.
 wxIconBundle leesPictogrammen(wxString const& naam);

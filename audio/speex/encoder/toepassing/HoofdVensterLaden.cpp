@@ -29,6 +29,14 @@ void meldAfgewezen(wxFileName const& bestand) {
                       "format audio file")));
 }
 
+// With the low 32 bits of the count, as an unsigned number. The text's conversion is that of a
+// long, which has no more bits than that on some systems, and a sign.
+wxString framesRegel(sf_count_t aantal) {
+  wxString regel = _("frames     : %ld");
+  regel.Replace("%ld", wxString::Format("%u", static_cast<unsigned int>(aantal)));
+  return regel;
+}
+
 }  // namespace
 
 void HoofdVenster::wavOpenHandler(wxCommandEvent& /*event*/) {
@@ -138,9 +146,7 @@ HoofdVenster::BestandKnoop HoofdVenster::toonInBoom(wxFileName const& bestand,
   audioBoom->AppendItem(knoop, _("sections:"));
   wxTreeItemId const seekable = audioBoom->AppendItem(knoop, _("seekable:"));
   audioBoom->SetItemText(knoop, naam);
-  // The low 32 bits of the count, as an unsigned number.
-  auto const aantal = static_cast<long>(static_cast<unsigned int>(info.frames));
-  audioBoom->SetItemText(frames, wxString::Format(_("frames     : %ld"), aantal));
+  audioBoom->SetItemText(frames, framesRegel(info.frames));
   audioBoom->SetItemText(samplerate, wxString::Format(_("samplerate : %d"), info.samplerate));
   audioBoom->SetItemText(kanalen, wxString::Format(_("channels   : %d"), info.channels));
   return {formaat, seekable};
