@@ -10,7 +10,7 @@
 namespace {
 
 std::filesystem::path alsPad(wxString const& pad) {
-  return {pad.fn_str().data()};
+  return static_cast<std::filesystem::path::value_type const*>(pad.fn_str());
 }
 
 }  // namespace
