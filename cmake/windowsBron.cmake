@@ -1,6 +1,16 @@
 # What a program for Windows carries beside its code: icon, version, and the manifest, by which the system
 # knows what the program can do. The toolkit's own resources come along.
 
+# The build tree has the shape of an installation: the library beside the programs, and the toolkit's own
+# catalogs beside theirs.
+if(WIN32)
+  file(GLOB _bestanden RELATIVE "${KESTROLIN_WINDOWS}" "${KESTROLIN_WINDOWS}/bin/*.dll"
+       "${KESTROLIN_WINDOWS}/share/locale/*/LC_MESSAGES/*.mo")
+  foreach(_bestand IN LISTS _bestanden)
+    configure_file("${KESTROLIN_WINDOWS}/${_bestand}" "${CMAKE_BINARY_DIR}/${_bestand}" COPYONLY)
+  endforeach()
+endif()
+
 # geef_bron(doel beschrijving): elsewhere nothing happens.
 function(geef_bron doel beschrijving)
   if(NOT WIN32)
