@@ -1,5 +1,11 @@
 # The Debian package: cmake --build BUILD --target package. It holds what `cmake --install` installs,
 # with what Debian asks for put in place by pakketInhoud.cmake.
+
+# Windows takes no such package.
+if(WIN32)
+  return()
+endif()
+
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME kestrolin)
 set(CPACK_PACKAGE_VENDOR "The Kestrolin team")
