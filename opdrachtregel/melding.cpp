@@ -85,6 +85,6 @@ void MeldingVanger::neem(std::string const& regel) {
 std::string opEenRegel(std::string naam) {
   std::replace_if(
       naam.begin(), naam.end(),
-      [](char teken) { return (teken >= 0 && teken < ' ') || teken == '\x7F'; }, '?');
+      [](char teken) { return static_cast<unsigned char>(teken) < ' ' || teken == '\x7F'; }, '?');
   return naam;
 }
