@@ -7,12 +7,11 @@
 #include "audio/codec/serieleKop.h"
 #include "numeriek/byteGereedschap.h"
 
-static_assert(__BYTE_ORDER__ == __ORDER_LITTLE_ENDIAN__,
-              "the serial image copies samples as they lie in memory");
-
 namespace {
 
 constexpr unsigned long long sampleBytes = 2;
+// Where the low byte of a sample lies in memory: byte i of the image is byte i ^ laagsteByte there.
+constexpr unsigned long long laagsteByte = __BYTE_ORDER__ == __ORDER_BIG_ENDIAN__ ? 1 : 0;
 // Where a raw block keeps its samples.
 constexpr unsigned long long ruwePayload = 12;
 
@@ -68,7 +67,9 @@ void VelmoraPCMPakket::maakSerieel(VelmoraArray<unsigned char>& doel, bool metHe
   if (metHeader) {
     uit = schrijfSerieleKop(uit, geefAantalSamples(), sampFreq);
   }
-  std::copy_n(bytes(), geefAantalBytes(), uit);
+  for (unsigned long long i = 0; i < geefAantalBytes(); ++i) {
+    uit[i] = bytes()[i ^ laagsteByte];
+  }
 }
 
 void VelmoraPCMPakket::leesInSerieel(VelmoraArray<unsigned char> const& bron) {
@@ -79,5 +80,7 @@ void VelmoraPCMPakket::leesInSerieel(VelmoraArray<unsigned char> const& bron) {
   unsigned long long const aantal =
       std::min({static_cast<unsigned long long>(leesSerieelAantal(bron.geefElementen())),
                 bron.geefAantal() - SerieeleOverhead, geefAantalBytes()});
-  std::copy_n(bron.geefElementen() + SerieeleOverhead, aantal, bytes());
+  for (unsigned long long i = 0; i < aantal; ++i) {
+    bytes()[i ^ laagsteByte] = bron.geefElementen()[SerieeleOverhead + i];
+  }
 }

@@ -31,9 +31,10 @@ class VelmoraPCMPakket : public VelmoraDataPakket<short> {
   // leesInSerieel write to them.
   VelmoraPCMPakket(short const* samples, unsigned long long aantal, Breuk const& freq);
   // Lies over a raw block of the caller: the number of samples in bytes 0 to 3, the frequency in
-  // bytes 4 and 5, the samples from byte 12. That is not the serial image above, whose samples
-  // start at byte 6; blocks of this kind carry six bytes of their own in between. A `vorige` that
-  // is not null gets this packet as its next, so that packets in a row form a chain.
+  // bytes 4 and 5, the samples from byte 12 as they lie in memory. That is not the serial image
+  // above, whose samples start at byte 6; blocks of this kind carry six bytes of their own in
+  // between. A `vorige` that is not null gets this packet as its next, so that packets in a row
+  // form a chain.
   VelmoraPCMPakket(unsigned char const* ruw, VelmoraPCMPakket* vorige);
 
   // The sampling frequency in Hz.

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <set>
 #include <vector>
 
@@ -251,15 +252,18 @@ TEST(AdpcmPakketGrootte, codesLiggenOpDeElementenVanHetPakket) {
 
 TEST(AdpcmPakketGrootte, samplesMogenOpEenOnevenAdresLiggen) {
   Bytes ruw{0, 4, 0, 0, 0, 0x40, 0x1F, 0, 0, 0, 0, 0, 0};
-  for (int i = 0; i < 4; ++i) {
-    ruw.insert(ruw.end(), {100, 0});
-  }
+  std::size_t const kop = ruw.size();
+  std::vector<short> samples(4, 100);
+  std::size_t const bytes = samples.size() * sizeof samples[0];
+  ruw.resize(kop + bytes);
+  std::memcpy(ruw.data() + kop, samples.data(), bytes);
   VelmoraADPCMPakket const doel(2, freq);
   ADPCMConverter converter;
   converter.encodeer(VelmoraPCMPakket(ruw.data() + 1, nullptr), doel);
   EXPECT_EQ(inhoud(doel), (Bytes{0x77, 0x87}));
   converter.decodeer(doel, VelmoraPCMPakket(ruw.data() + 1, nullptr));
-  EXPECT_EQ(Bytes(ruw.begin() + 13, ruw.end()), (Bytes{11, 0, 41, 0, 104, 0, 95, 0}));
+  std::memcpy(samples.data(), ruw.data() + kop, bytes);
+  EXPECT_EQ(samples, (std::vector<short>{11, 41, 104, 95}));
 }
 
 }  // namespace

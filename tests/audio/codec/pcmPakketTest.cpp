@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <limits>
 #include <memory>
 #include <new>
@@ -29,7 +30,7 @@ Samples vlakAfgevlakt(Samples samples, unsigned long long bitShift) {
   return samples;
 }
 
-// A raw block: count, frequency, six bytes that nobody reads, samples.
+// A raw block: count, frequency, six bytes that nobody reads, samples as they lie in memory.
 Bytes ruwBlok(unsigned int aantal, unsigned int freq, std::vector<int> const& samples) {
   Bytes ruw = laagEerst(aantal, 4);
   for (unsigned char const b : laagEerst(freq, 2)) {
@@ -37,9 +38,10 @@ Bytes ruwBlok(unsigned int aantal, unsigned int freq, std::vector<int> const& sa
   }
   ruw.insert(ruw.end(), 6, 0xEE);
   for (int const sample : samples) {
-    for (unsigned char const b : laagEerst(static_cast<unsigned long long>(sample), 2)) {
-      ruw.push_back(b);
-    }
+    auto const waarde = static_cast<short>(sample);
+    std::array<unsigned char, sizeof waarde> bytes{};
+    std::memcpy(bytes.data(), &waarde, sizeof waarde);
+    ruw.insert(ruw.end(), bytes.begin(), bytes.end());
   }
   return ruw;
 }
