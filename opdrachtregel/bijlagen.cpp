@@ -55,10 +55,16 @@ std::string declaratiesVanCPP(std::string const& klasse, std::vector<Declaratie>
   return tekst + "};\n";
 }
 
+// With slashes alone, which are separators on each system.
+std::string metSchuineStrepen(std::string pad) {
+  std::replace(pad.begin(), pad.end(), static_cast<char>(fs::path::preferred_separator), '/');
+  return pad;
+}
+
 // As make and ninja both read a name: blanks and # behind a backslash, and a dollar sign twice.
 std::string maakNaam(std::string const& pad) {
   std::string naam;
-  for (char const teken : pad) {
+  for (char const teken : metSchuineStrepen(pad)) {
     if (teken == ' ' || teken == '#') {
       naam += '\\';
     }
@@ -118,7 +124,10 @@ std::string afhankelijkheidTekst(std::string const& doel, std::vector<std::strin
 }
 
 bool pastInAfhankelijkheden(std::string const& pad) {
-  return pad.find_first_of("\t\n\r\"'\\%&*:;<=>?[]`|") == std::string::npos;
+  // Both know the colon of a drive.
+  std::size_t const schijf = fs::u8path(pad).root_name().u8string().size();
+  return metSchuineStrepen(pad).find_first_of("\t\n\r\"'\\%&*:;<=>?[]`|", schijf) ==
+         std::string::npos;
 }
 
 bool pastInInsluiting(std::string const& pad) {

@@ -7,7 +7,7 @@ import re
 import shutil
 from pathlib import Path
 
-from project import HEAD, SETTINGS, STRICT, Place, Project, Tool, configure, equal, succeed
+from project import HEAD, SETTINGS, STRICT, Place, Project, Tool, command_of, configure, equal, succeed
 
 BELL = HEAD.format("C CXX") + """\
 kestrolin_add_sounds(plain ENCODER pcm DAC 12 FILES ready.wav sub/warning.wav)
@@ -58,7 +58,7 @@ def bell(place: Place, generator: str) -> tuple[Project, Tool]:
 def direct(place: Place, project: Project, text: str, *words: str) -> None:
     """A text is what the command makes of the same recordings."""
     wanted = place.folder / "direct"
-    succeed(place.build / "bin" / "kestrolin-cli", "encode", *words, "-o", wanted, cwd=project.folder)
+    succeed(*command_of(place.build), "encode", *words, "-o", wanted, cwd=project.folder)
     found = project.build_folder / "kestrolin" / text
     equal(found.read_bytes(), wanted.read_bytes(), text)
 

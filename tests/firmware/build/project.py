@@ -4,6 +4,7 @@ a build of this tree."""
 from __future__ import annotations
 
 import os
+import shlex
 import shutil
 import subprocess
 from pathlib import Path
@@ -48,15 +49,21 @@ def install(cmake: str, build: Path, prefix: Path) -> Path:
     return prefix / "share" / "cmake" / "Kestrolin"
 
 
+def command_of(build: Path) -> list[str]:
+    """The words that begin a run of kestrolin-cli. That of Windows runs by Wine."""
+    windows = build / "bin" / "kestrolin-cli.exe"
+    wine = str(ROOT / "tests" / "steun" / "wijn")
+    return [wine, str(windows)] if windows.is_file() else [str(build / "bin" / "kestrolin-cli")]
+
+
 class Tool:
     """Stands in for kestrolin-cli, tells what it was asked, and asks the real one."""
 
     def __init__(self, build: Path, folder: Path) -> None:
-        self.real = build / "bin" / "kestrolin-cli"
         self.path = folder / "kestrolin-cli"
         self.log = folder / "asked"
         self.path.write_text("#!/bin/sh\n[ \"$1\" = --version ] || printf '%s\\n' \"$@\" >>'"
-                             f"{self.log}'\nexec '{self.real}' \"$@\"\n", encoding="utf-8")
+                             f"{self.log}'\nexec {shlex.join(command_of(build))} \"$@\"\n", encoding="utf-8")
         self.path.chmod(0o755)
 
     def asked(self) -> list[str]:
