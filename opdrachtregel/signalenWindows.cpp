@@ -13,12 +13,17 @@ std::recursive_mutex& slot() {
   return enige;
 }
 
-// Windows calls this in a thread of its own, and ends the program behind it: the slot stays taken,
-// so that no file comes after the last one has gone.
+// Windows calls this in a thread of its own. The slot stays taken, so that no file comes after the
+// last one has gone.
 BOOL WINAPI ruimOp(DWORD /*signaal*/) {
   slot().lock();
-  ruimNuOp();
-  return FALSE;
+  constexpr int pogingen = 200;
+  constexpr DWORD pauze = 10;  // ms
+  for (int i = 0; i < pogingen && !ruimNuOp(); ++i) {
+    Sleep(pauze);
+  }
+  // As without this function.
+  return TerminateProcess(GetCurrentProcess(), STATUS_CONTROL_C_EXIT);
 }
 
 }  // namespace

@@ -227,6 +227,12 @@ bool magLezen(std::string const& pad) {
 }
 
 bool magSchrijven(std::string const& pad) {
+  DWORD const aard = GetFileAttributesW(breed(pad).c_str());
+  if (aard != INVALID_FILE_ATTRIBUTES && (aard & FILE_ATTRIBUTE_READONLY) != 0) {
+    // Who administers the machine can open it all the same.
+    errno = EACCES;
+    return false;
+  }
   return open(breed(pad), GENERIC_WRITE | DELETE) != nullptr;
 }
 

@@ -44,13 +44,14 @@ bool isMachine(fs::path const& pad) {
 
 }  // namespace
 
-void ruimNuOp() {
+bool ruimNuOp() {
+  bool isAllesWeg = true;
   for (WegwerpKnoop const* een = eerste; een != nullptr; een = een->volgende) {
-    if (!verwijderBestand(een->pad)) {
-      // A folder: it was noted before what lies in it, so that it comes behind that.
-      verwijderMap(een->pad);
-    }
+    // A folder was noted before what lies in it, so that it comes behind that.
+    isAllesWeg =
+        (verwijderBestand(een->pad) || verwijderMap(een->pad) || errno != EACCES) && isAllesWeg;
   }
+  return isAllesWeg;
 }
 
 void meldGeenTijdelijk() {

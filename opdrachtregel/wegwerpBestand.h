@@ -68,5 +68,6 @@ class WegwerpMap {
 // Tells that no file can be made there, with the reason in errno.
 void meldGeenTijdelijk();
 
-// Removes all of these files now, where the program ends without letting go of what it owns.
-void ruimNuOp();
+// Removes all of these files now, where the program ends without letting go of what it owns. False
+// where one may not be removed yet: on Windows, another part of the program has it open.
+bool ruimNuOp();
