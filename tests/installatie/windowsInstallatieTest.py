@@ -1,0 +1,196 @@
+"""Test of the installer for Windows, under Wine: what it places and takes away, on the disk, in the registry and
+in the start menu.
+
+    windowsInstallatieTest.py CMAKE BUILD
+
+Ends with status 77 where Wine or makensis is missing. Run inside `tests/steun/scherm`: the window opens.
+"""
+
+from __future__ import annotations
+
+import shutil
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+from inhoudTest import ROOT, VERSIE, bestanden, gelijk
+
+# pylint: disable=wrong-import-order
+from wijn import Wijn
+
+sys.path.insert(0, str(ROOT / "tour"))
+
+# pylint: disable=wrong-import-position
+from schermwerk import toets, wacht
+from teksten import TITEL
+
+OVERGESLAGEN = 77
+# What the installer ends with where a program runs.
+LOOPT = 3
+SLEUTEL = r"Software\Microsoft\Windows\CurrentVersion\Uninstall\Kestrolin"
+ONGEBRUIKT = "share/kestrolin/only-in-the-old-one/note.txt"
+# The folder for programs of one user is Windows' own, and so is the uninstaller's copy of itself in the folder
+# for temporary files, which deletes what it cannot stand in.
+VAN_WINDOWS = ("AppData/Local/Programs", "Temp/~nsu")
+
+
+class Installatie:
+    """A Windows, and what an installer does there."""
+
+    def __init__(self, werk: Path, cmake: str, bouw: Path) -> None:
+        self.wijn = Wijn(werk / "windows")
+        self._werk, self._cmake = werk, cmake
+        naam = f"Kestrolin-{VERSIE}"
+        self.boom = bouw / "pakket" / naam
+        self.nieuw = bouw / f"{naam}-windows-x86_64-setup.exe"
+        self._icoon = bouw / "kestrolin.ico"
+        self.vooraf = self.wijn.bestanden()
+        self.register_vooraf = self.wijn.register()
+
+    @property
+    def map(self) -> Path:
+        return self.wijn.thuis / "AppData/Local/Programs/Kestrolin"
+
+    @property
+    def instellingen(self) -> Path:
+        return self.wijn.thuis / "AppData/Roaming/Kestrolin.ini"
+
+    def maak_oude(self) -> Path:
+        """An installer of a version before, which had a file that the new one has not, and lacked one."""
+        boom, uit = self._werk / "old", self._werk / "old-setup.exe"
+        shutil.copytree(self.boom, boom)
+        (boom / ONGEBRUIKT).parent.mkdir()
+        (boom / ONGEBRUIKT).write_text("old\n")
+        (boom / "share/doc/kestrolin/CHANGELOG.md").unlink()
+        subprocess.run(
+            [self._cmake, "-D", f"MAP={boom}", "-D", "VERSIE=0.9.0", "-D", f"ICOON={self._icoon}", "-D",
+             f"UIT={uit}", "-D", "MAKENSIS=makensis", "-P",
+             str(ROOT / "packaging/windows/maakInstaller.cmake")], check=True, stdout=subprocess.DEVNULL)
+        return uit
+
+    def installeer(self, *opties: str, doel: Path | None = None, installer: Path | None = None,
+                   status: int = 0) -> None:
+        # A folder comes last and without quotes, blanks and all, which Wine would put around one word.
+        in_map = f"/D={self.wijn.windows_pad(doel)}".split(" ") if doel else []
+        self.wijn.doe(installer or self.nieuw, "/S", *opties, *in_map, status=status)
+        if status == 0:
+            self.wijn.rust()
+
+    def verwijder(self, *opties: str) -> None:
+        """As Windows does for whoever asks it to do so quietly."""
+        regel = self.wijn.lees(SLEUTEL)["QuietUninstallString"]
+        programma, rest = regel[1:].split('" ')
+        gelijk(rest, "/S", regel)
+        self.wijn.doe(programma, rest, *opties)
+        self.wijn.rust()
+
+    def keur_inhoud(self, map_: Path) -> None:
+        """All files of the tree and the uninstaller, byte for byte, and nothing else."""
+        gelijk(bestanden(map_), bestanden(self.boom) | {"uninstall.exe"}, "files installed")
+        for naam in bestanden(self.boom):
+            gelijk((map_ / naam).read_bytes(), (self.boom / naam).read_bytes(), naam)
+
+    def keur_schoon(self, *over: Path) -> None:
+        """Nothing is left but these files."""
+        gebleven = {naam for naam in self.wijn.bestanden() - self.vooraf
+                    if not naam.startswith(tuple(f"users/{self.wijn.thuis.name}/{map_}" for map_ in VAN_WINDOWS))}
+        gelijk(gebleven, {str(pad.relative_to(self.wijn.schijf)) for pad in over}, "files left behind")
+        gelijk(self.vooraf - self.wijn.bestanden(), set(), "files of others that went")
+        gelijk(self.wijn.register(), self.register_vooraf, "what the user's registry holds")
+
+
+def keur_register(i: Installatie) -> None:
+    map_ = i.wijn.windows_pad(i.map)
+    gevonden = i.wijn.lees(SLEUTEL)
+    grootte = int(gevonden.pop("EstimatedSize")) * 1024
+    echt = sum((i.map / naam).stat().st_size for naam in bestanden(i.map))
+    assert 0.9 < grootte / echt < 1.1, f"EstimatedSize says {grootte} bytes of {echt}"
+    gelijk(gevonden, {
+        "DisplayName": "Kestrolin", "DisplayVersion": VERSIE, "DisplayIcon": rf"{map_}\bin\Kestrolin.exe",
+        "Publisher": "The Kestrolin team", "URLInfoAbout": "https://kestrolin.example",
+        "InstallLocation": map_, "UninstallString": rf'"{map_}\uninstall.exe"',
+        "QuietUninstallString": rf'"{map_}\uninstall.exe" /S', "NoModify": "1", "NoRepair": "1",
+    }, "what Windows is told")
+
+
+def keur_menu(i: Installatie) -> None:
+    """The entries name what they open, as they store it: in 16 bits a character."""
+    menu = i.wijn.thuis / "AppData/Roaming/Microsoft/Windows/Start Menu/Programs/Kestrolin"
+    doelen = {"Kestrolin.lnk": r"bin\Kestrolin.exe",
+              "Kestrolin manual.lnk": r"share\doc\kestrolin\html\manual.html"}
+    gelijk({pad.name for pad in menu.iterdir()}, set(doelen), "the start menu")
+    for naam, doel in doelen.items():
+        volledig = rf"{i.wijn.windows_pad(i.map)}\{doel}"
+        assert i.wijn.pad(volledig).is_file(), volledig
+        inhoud = (menu / naam).read_bytes()
+        assert volledig.encode() in inhoud or volledig.encode("utf-16-le") in inhoud, naam
+
+
+def venster_staat() -> bool:
+    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{TITEL}$"],
+                          stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout != b""
+
+
+def keur_start(i: Installatie) -> None:
+    """Both programs run from where they were installed; while one does, nothing is changed."""
+    gelijk(i.wijn.doe(i.map / "bin/kestrolin-cli.exe", "--version").split(), ["kestrolin-cli", VERSIE],
+           "what the command says")
+    with i.wijn.start(i.map / "bin/Kestrolin.exe") as venster:
+        wacht(venster_staat, f'a window named "{TITEL}"')
+        i.installeer(status=LOOPT)
+        i.wijn.doe(i.map / "uninstall.exe", "/S", f"_?={i.wijn.windows_pad(i.map)}", status=LOOPT)
+        i.keur_inhoud(i.map)
+        toets("alt+F4")
+        gelijk(venster.wait(), 0, "status of the window")
+    assert i.instellingen.is_file(), f"no {i.instellingen}"
+
+
+def keur_opwaardering(i: Installatie, oude: Path) -> None:
+    """The new version takes the place of the old one; what was chosen stays, and so does what the user added."""
+    elders = i.wijn.schijf / "Programma's é Ж/Kestrolin"
+    i.installeer("/PATH", doel=elders, installer=oude)
+    gelijk(i.wijn.lees(SLEUTEL)["DisplayVersion"], "0.9.0", "the version before")
+    eigen = elders / "share/mine.txt"
+    eigen.write_text("mine\n")
+    i.installeer()
+    eigen.unlink()
+    i.keur_inhoud(elders)
+    gelijk(i.wijn.lees(SLEUTEL)["DisplayVersion"], VERSIE, "the version")
+    gelijk(i.wijn.lees("Environment")["Path"], rf"{i.wijn.windows_pad(elders)}\bin", "the search path")
+    # Into another folder: the first one goes.
+    i.installeer(doel=i.map)
+    assert not elders.exists(), "the folder before stays"
+    i.keur_inhoud(i.map)
+    gelijk(i.wijn.lees("Environment")["Path"], rf"{i.wijn.windows_pad(i.map)}\bin", "the search path")
+    i.verwijder()
+    elders.parent.rmdir()
+
+
+def main(cmake: str, bouw: str) -> None:
+    for nodig in ("wine", "makensis"):
+        if shutil.which(nodig) is None:
+            print(f"skipped: {nodig} is not installed")
+            sys.exit(OVERGESLAGEN)
+    with tempfile.TemporaryDirectory() as werk:
+        i = Installatie(Path(werk), cmake, Path(bouw).resolve())
+        try:
+            i.installeer()
+            i.keur_inhoud(i.map)
+            keur_register(i)
+            keur_menu(i)
+            keur_start(i)
+            i.verwijder()
+            # The user's own, which the next installation finds again.
+            i.keur_schoon(i.instellingen)
+            i.installeer()
+            i.verwijder("/SETTINGS")
+            i.keur_schoon()
+            keur_opwaardering(i, i.maak_oude())
+            i.keur_schoon()
+        finally:
+            i.wijn.einde()
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])
