@@ -39,12 +39,12 @@ void DesktopApp::zetHoofdVensterGrootte() {
   config->SetPath(vensterPad);
   int const breedte = leesGetal(*config, breedteSleutel, standaardBreedte);
   int const hoogte = leesGetal(*config, hoogteSleutel, standaardHoogte);
-  hoofdVenster->SetClientSize(breedte, hoogte);
+  hoofdVenster->SetClientSize(hoofdVenster->FromDIP(wxSize(breedte, hoogte)));
   hoofdVenster->Centre(wxBOTH);
 }
 
 void DesktopApp::bewaarHoofdVensterGrootte() const {
-  wxSize const grootte = hoofdVenster->GetClientSize();
+  wxSize const grootte = hoofdVenster->ToDIP(hoofdVenster->GetClientSize());
   wxFileConfig* const config = geefAppConfig();
   config->SetPath(vensterPad);
   config->Write(breedteSleutel, grootte.GetWidth());

@@ -18,8 +18,8 @@ class DesktopApp : public wxApp, public DesktopAppBasis {
   // the application's top window.
   void zetHoofdVenster(wxWindow* venster);
 
-  // Gives the main window the client size of the configuration, in pixels (800x600 where there is
-  // none), and centres it.
+  // Gives the main window the client size of the configuration, in pixels of the usual 96 to the
+  // inch (800x600 where there is none), and centres it.
   void zetHoofdVensterGrootte();
   // Stores the main window's client size in the configuration. Applications call it where they
   // want the size to outlive a run.

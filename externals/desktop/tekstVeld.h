@@ -12,7 +12,8 @@ class wxFFile;
 // nine bytes for each that the file has. In parts the peak is less than half, and the time some
 // two thirds. All else that LoadFile does comes out the same: the text, one event of a change
 // behind it, the cursor at its start, and no edits. What stood in the field is gone where a file
-// fails behind its first part, and a part is left where memory runs out.
+// fails behind its first part, and a part is left where memory runs out. Under Windows, where a
+// field takes long for each part, a file is one part.
 class TekstVeld : public wxTextCtrl {
  public:
   using wxTextCtrl::wxTextCtrl;
@@ -24,6 +25,7 @@ class TekstVeld : public wxTextCtrl {
   bool DoLoadFile(wxString const& pad, int soort) override;
 
  private:
+  // Not under Windows.
   bool laadInDelen(wxString const& pad);
   bool voegDelenToe(wxFFile& bestand);
 

@@ -11,7 +11,6 @@
 //   rijen WINDOW         the rows of a list
 //   menu WINDOW ID       chooses an entry of the window's menu
 //   sluit WINDOW         presses the close box
-//   pictogram WINDOW     the width of the window's icon, 0 where there is none
 #include <windows.h>
 
 #include <algorithm>
@@ -31,17 +30,17 @@ constexpr UINT geduld = 600'000;  // ms
 
 std::wstring breed(std::string const& tekst) {
   int const bytes = static_cast<int>(tekst.size());
-  std::wstring uit(static_cast<std::size_t>(
-                       MultiByteToWideChar(CP_UTF8, 0, tekst.data(), bytes, nullptr, 0)),
-                   L'\0');
+  std::wstring uit(
+      static_cast<std::size_t>(MultiByteToWideChar(CP_UTF8, 0, tekst.data(), bytes, nullptr, 0)),
+      L'\0');
   MultiByteToWideChar(CP_UTF8, 0, tekst.data(), bytes, uit.data(), static_cast<int>(uit.size()));
   return uit;
 }
 
 std::string smal(std::wstring const& tekst) {
   int const tekens = static_cast<int>(tekst.size());
-  std::string uit(static_cast<std::size_t>(WideCharToMultiByte(
-                      CP_UTF8, 0, tekst.data(), tekens, nullptr, 0, nullptr, nullptr)),
+  std::string uit(static_cast<std::size_t>(WideCharToMultiByte(CP_UTF8, 0, tekst.data(), tekens,
+                                                               nullptr, 0, nullptr, nullptr)),
                   '\0');
   WideCharToMultiByte(CP_UTF8, 0, tekst.data(), tekens, uit.data(), static_cast<int>(uit.size()),
                       nullptr, nullptr);
@@ -75,7 +74,9 @@ std::string json(std::vector<std::string> const& waarden) {
 
 LRESULT stuur(HWND venster, UINT bericht, WPARAM w, LPARAM l) {
   DWORD_PTR antwoord = 0;
-  if (SendMessageTimeoutW(venster, bericht, w, l, SMTO_NORMAL, geduld, &antwoord) == 0) {
+  SetLastError(ERROR_SUCCESS);
+  if (SendMessageTimeoutW(venster, bericht, w, l, SMTO_NORMAL, geduld, &antwoord) == 0 &&
+      GetLastError() != ERROR_SUCCESS) {
     throw std::runtime_error("no answer from the window");
   }
   return static_cast<LRESULT>(antwoord);
@@ -88,11 +89,10 @@ LPARAM alsLParam(T const* waarde) {
 
 // A text that comes by a message for its length and one for itself.
 std::wstring haalTekst(HWND venster, UINT lengte, UINT tekst, WPARAM w, bool metMaat) {
-  auto const tekens = static_cast<std::size_t>(
-      std::max(stuur(venster, lengte, w, 0), static_cast<LRESULT>(0)));
+  auto const tekens =
+      static_cast<std::size_t>(std::max(stuur(venster, lengte, w, 0), static_cast<LRESULT>(0)));
   std::wstring uit(tekens + 1, L'\0');
-  LRESULT const gekregen =
-      stuur(venster, tekst, metMaat ? uit.size() : w, alsLParam(uit.data()));
+  LRESULT const gekregen = stuur(venster, tekst, metMaat ? uit.size() : w, alsLParam(uit.data()));
   uit.resize(static_cast<std::size_t>(std::max(gekregen, static_cast<LRESULT>(0))));
   return uit;
 }
@@ -103,8 +103,8 @@ std::wstring tekstVan(HWND venster) {
 
 std::wstring soortVan(HWND venster) {
   std::wstring uit(256, L'\0');
-  uit.resize(static_cast<std::size_t>(
-      GetClassNameW(venster, uit.data(), static_cast<int>(uit.size()))));
+  uit.resize(
+      static_cast<std::size_t>(GetClassNameW(venster, uit.data(), static_cast<int>(uit.size()))));
   return uit;
 }
 
@@ -116,18 +116,24 @@ std::string nummer(HWND venster) {
   return getal(reinterpret_cast<std::intptr_t>(venster));
 }
 
+std::string waarheid(bool waarde) {
+  return waarde ? "true" : "false";
+}
+
 // The texts of long fields are asked for by themselves.
 std::string beschrijf(HWND venster) {
   constexpr LRESULT lang = 1000;
   bool const isLang = stuur(venster, WM_GETTEXTLENGTH, 0, 0) > lang;
+  std::wstring const soort = soortVan(venster);
   LONG_PTR const stijl = GetWindowLongPtrW(venster, GWL_STYLE);
   RECT vak{};
   GetWindowRect(venster, &vak);
   return "{\"hwnd\": " + nummer(venster) + ", \"ouder\": " + nummer(GetParent(venster)) +
-         ", \"id\": " + getal(GetDlgCtrlID(venster)) + ", \"soort\": " + json(soortVan(venster)) +
-         ", \"bruikbaar\": " + (IsWindowEnabled(venster) != 0 ? "true" : "false") +
-         ", \"stijl\": " + getal(stijl) + ", \"vak\": [" + getal(vak.left) + ", " +
-         getal(vak.top) + ", " + getal(vak.right) + ", " + getal(vak.bottom) + "]" +
+         ", \"id\": " + getal(GetDlgCtrlID(venster)) + ", \"soort\": " + json(soort) +
+         ", \"bruikbaar\": " + waarheid(IsWindowEnabled(venster) != 0) + ", \"aan\": " +
+         waarheid(soort == L"Button" && stuur(venster, BM_GETCHECK, 0, 0) == BST_CHECKED) +
+         ", \"stijl\": " + getal(stijl) + ", \"vak\": [" + getal(vak.left) + ", " + getal(vak.top) +
+         ", " + getal(vak.right) + ", " + getal(vak.bottom) + "]" +
          ", \"tekst\": " + json(isLang ? std::wstring() : tekstVan(venster)) + "}";
 }
 
@@ -179,11 +185,16 @@ BOOL CALLBACK voegToe(HWND venster, LPARAM gegevens) {
   auto& zoek = *reinterpret_cast<Zoek*>(gegevens);
   DWORD proces = 0;
   GetWindowThreadProcessId(venster, &proces);
-  if (proces == zoek.proces && IsWindowVisible(venster) != 0) {
+  if (proces != zoek.proces || IsWindowVisible(venster) == 0) {
+    return TRUE;
+  }
+  try {
     zoek.gevonden.push_back(beschrijf(venster));
     if (GetAncestor(venster, GA_ROOT) == venster) {
       EnumChildWindows(venster, voegToe, gegevens);
     }
+  } catch (std::runtime_error const&) {
+    // It has just gone.
   }
   return TRUE;
 }
@@ -198,12 +209,20 @@ bool isKeuze(HWND venster) {
   return soortVan(venster) == L"ComboBox";
 }
 
-// The list's owner hears of it as when the user does it.
+// The list's owner hears of it as when the user does it with the arrow keys.
 void kies(HWND lijst, WPARAM rij) {
-  stuur(lijst, isKeuze(lijst) ? CB_SETCURSEL : LB_SETCURSEL, rij, 0);
-  WORD const melding = isKeuze(lijst) ? CBN_SELCHANGE : LBN_SELCHANGE;
-  WORD const id = static_cast<WORD>(GetDlgCtrlID(lijst));
-  PostMessageW(GetParent(lijst), WM_COMMAND, MAKEWPARAM(id, melding), alsLParam(lijst));
+  auto const meld = [lijst](WORD wat) {
+    auto const id = static_cast<WORD>(GetDlgCtrlID(lijst));
+    PostMessageW(GetParent(lijst), WM_COMMAND, MAKEWPARAM(id, wat), alsLParam(lijst));
+  };
+  if (isKeuze(lijst)) {
+    stuur(lijst, CB_SETCURSEL, rij, 0);
+    meld(CBN_SELENDOK);
+    meld(CBN_SELCHANGE);
+  } else {
+    stuur(lijst, LB_SETCURSEL, rij, 0);
+    meld(LBN_SELCHANGE);
+  }
 }
 
 std::string rijen(HWND lijst) {
@@ -211,22 +230,11 @@ std::string rijen(HWND lijst) {
   std::vector<std::string> uit;
   LRESULT const aantal = stuur(lijst, keuze ? CB_GETCOUNT : LB_GETCOUNT, 0, 0);
   for (LRESULT rij = 0; rij < aantal; ++rij) {
-    uit.push_back(json(haalTekst(lijst, keuze ? CB_GETLBTEXTLEN : LB_GETTEXTLEN,
-                                 keuze ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(rij),
-                                 false)));
+    uit.push_back(
+        json(haalTekst(lijst, keuze ? CB_GETLBTEXTLEN : LB_GETTEXTLEN,
+                       keuze ? CB_GETLBTEXT : LB_GETTEXT, static_cast<WPARAM>(rij), false)));
   }
   return json(uit);
-}
-
-std::string pictogram(HWND venster) {
-  ICONINFO info{};
-  BITMAP maat{};
-  auto* const icoon = reinterpret_cast<HICON>(stuur(venster, WM_GETICON, ICON_BIG, 0));
-  if (icoon == nullptr || GetIconInfo(icoon, &info) == 0) {
-    return "0";
-  }
-  GetObjectW(info.hbmMask, sizeof maat, &maat);
-  return getal(maat.bmWidth);
 }
 
 std::string voerUit(Programma& programma, std::string const& opdracht, std::istream& rest) {
@@ -252,9 +260,6 @@ std::string voerUit(Programma& programma, std::string const& opdracht, std::istr
   }
   if (opdracht == "rijen") {
     return rijen(venster);
-  }
-  if (opdracht == "pictogram") {
-    return pictogram(venster);
   }
   if (opdracht == "typ") {
     stuur(venster, WM_SETTEXT, 0, alsLParam(volgende().c_str()));
