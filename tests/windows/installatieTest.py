@@ -1,7 +1,7 @@
 """Test of the installer for Windows, under Wine: what it places and takes away, on the disk, in the registry and
 in the start menu.
 
-    windowsInstallatieTest.py CMAKE BUILD
+    installatieTest.py CMAKE BUILD
 
 Ends with status 77 where Wine or makensis is missing. Run inside `tests/steun/scherm`: the window opens.
 """
@@ -14,18 +14,15 @@ import sys
 import tempfile
 from pathlib import Path
 
-from inhoudTest import ROOT, VERSIE, bestanden, gelijk
-
-# pylint: disable=wrong-import-order
-from wijn import Wijn
-
-sys.path.insert(0, str(ROOT / "tour"))
+WORTEL = Path(__file__).resolve().parents[2]
+sys.path[:0] = [str(WORTEL / "tests/installatie"), str(WORTEL / "tour")]
 
 # pylint: disable=wrong-import-position
+from inhoudTest import VERSIE, bestanden, gelijk
 from schermwerk import toets, wacht
 from teksten import TITEL
+from wijn import Wijn, sla_over_zonder
 
-OVERGESLAGEN = 77
 # What the installer ends with where a program runs.
 LOOPT = 3
 SLEUTEL = r"Software\Microsoft\Windows\CurrentVersion\Uninstall\Kestrolin"
@@ -66,7 +63,7 @@ class Installatie:
         subprocess.run(
             [self._cmake, "-D", f"MAP={boom}", "-D", "VERSIE=0.9.0", "-D", f"ICOON={self._icoon}", "-D",
              f"UIT={uit}", "-D", "MAKENSIS=makensis", "-P",
-             str(ROOT / "packaging/windows/maakInstaller.cmake")], check=True, stdout=subprocess.DEVNULL)
+             str(WORTEL / "packaging/windows/maakInstaller.cmake")], check=True, stdout=subprocess.DEVNULL)
         return uit
 
     def installeer(self, *opties: str, doel: Path | None = None, installer: Path | None = None,
@@ -168,10 +165,7 @@ def keur_opwaardering(i: Installatie, oude: Path) -> None:
 
 
 def main(cmake: str, bouw: str) -> None:
-    for nodig in ("wine", "makensis"):
-        if shutil.which(nodig) is None:
-            print(f"skipped: {nodig} is not installed")
-            sys.exit(OVERGESLAGEN)
+    sla_over_zonder("wine", "makensis")
     with tempfile.TemporaryDirectory() as werk:
         i = Installatie(Path(werk), cmake, Path(bouw).resolve())
         try:

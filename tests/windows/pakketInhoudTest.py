@@ -1,7 +1,9 @@
 """Test of what the installer and the zip for Windows hold: each file in its place and no other, each library that a
 program loads, and the licence of all that the programs are made of.
 
-    windowsInhoudTest.py BUILD
+    pakketInhoudTest.py BUILD
+
+Ends with status 77 where Wine or makensis is missing.
 """
 
 from __future__ import annotations
@@ -12,7 +14,12 @@ import sys
 import zipfile
 from pathlib import Path
 
-from inhoudTest import BLADZIJDEN, CMAKE, ROOT, TALEN, TEKSTEN, VERSIE, bestanden, deelbaar, gelijk, zeg
+WORTEL = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(WORTEL / "tests/installatie"))
+
+# pylint: disable=wrong-import-position
+from inhoudTest import BLADZIJDEN, CMAKE, TALEN, TEKSTEN, VERSIE, bestanden, deelbaar, gelijk, zeg
+from wijn import sla_over_zonder
 
 NAAM = f"Kestrolin-{VERSIE}"
 PROGRAMMAS = ("Kestrolin", "kestrolin-cli")
@@ -45,7 +52,7 @@ def keur_namen(boom: Path) -> None:
     gelijk(verwacht - gevonden, set(), "what is missing")
     gelijk(gevonden - verwacht, set(), "what is there too")
     for pad in deelbaar():
-        gelijk((boom / "share/kestrolin" / pad).read_bytes(), (ROOT / pad).read_bytes(), pad)
+        gelijk((boom / "share/kestrolin" / pad).read_bytes(), (WORTEL / pad).read_bytes(), pad)
 
 
 def keur_zip(boom: Path, zip_: Path) -> None:
@@ -88,7 +95,7 @@ def pakketten_van(paden: set[Path], gereedschap: Path) -> set[str]:
             eigenaars = {pakket for begin, pakket in GEREEDSCHAP.items() if re.match(begin, deel)}
             assert len(eigenaars) == 1, f"{deel} is of {eigenaars}"
             gevonden |= eigenaars
-        elif ROOT not in pad.parents:
+        elif WORTEL not in pad.parents:
             van_machine.append(pad)
     namen = re.findall(r"^(\S+?)(?::\w+)?: ", zeg("dpkg-query", "-S", *van_machine), re.M)
     gelijk(len(namen), len(van_machine), "files with one package each")
@@ -132,7 +139,17 @@ def keur_licenties(bouw: Path, boom: Path) -> None:
         assert f"libsndfile/{deel}" in bron, f"the source of libsndfile has no {deel}"
 
 
+def keur_documenten() -> None:
+    """The pages that tell of installer and zip call them by their names."""
+    for pagina, namen in (("README.md", {"-setup.exe"}), ("docs/manual.md", {"-setup.exe", ".zip"})):
+        tekst = (WORTEL / pagina).read_text(encoding="utf-8")
+        genoemd = set(re.findall(r"Kestrolin-[\d.]+-windows-x86_64[-.\w]*", tekst))
+        gelijk(genoemd, {f"{NAAM}-windows-x86_64{einde}" for einde in namen}, f"names in {pagina}")
+
+
 def main(bouw: str) -> None:
+    sla_over_zonder("wine", "makensis")
+    keur_documenten()
     boom, begin = Path(bouw, "pakket", NAAM), Path(bouw, f"{NAAM}-windows-x86_64")
     keur_namen(boom)
     keur_zip(boom, Path(f"{begin}.zip"))

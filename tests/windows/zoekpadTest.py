@@ -1,24 +1,24 @@
 """Test of the search path of the user, to which the installer for Windows adds the folder of the command where it
 is told to: whatever stands there before stands there again after the uninstaller, in the same form.
 
-    windowsZoekpadTest.py BUILD
+    zoekpadTest.py BUILD
 
-Ends with status 77 where Wine is missing.
+Ends with status 77 where Wine or makensis is missing.
 """
 
 from __future__ import annotations
 
-import shutil
 import sys
 import tempfile
 from pathlib import Path
 
+WORTEL = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(WORTEL / "tests/installatie"))
+
+# pylint: disable=wrong-import-position
 from inhoudTest import VERSIE, gelijk
+from wijn import Wijn, sla_over_zonder
 
-# pylint: disable=wrong-import-order
-from wijn import Wijn
-
-OVERGESLAGEN = 77
 SLEUTEL = r"Software\Microsoft\Windows\CurrentVersion\Uninstall\Kestrolin"
 # More than a variable of the installer holds, and signs of other scripts.
 LANG = ";".join(rf"D:\Werk\Übung Ж\{nummer:04}\bin" for nummer in range(120))
@@ -91,9 +91,7 @@ def keur_wat_gebruiker_deed(pad: Zoekpad) -> None:
 
 
 def main(bouw: str) -> None:
-    if shutil.which("wine") is None:
-        print("skipped: wine is not installed")
-        sys.exit(OVERGESLAGEN)
+    sla_over_zonder("wine", "makensis")
     with tempfile.TemporaryDirectory() as werk:
         pad = Zoekpad(Path(werk, "windows"), Path(bouw, f"Kestrolin-{VERSIE}-windows-x86_64-setup.exe"))
         try:
