@@ -9,7 +9,7 @@ wxString machine() {
   utsname gegevens{};
   uname(&gegevens);
   wxString const soort(gegevens.machine);
-  bool const is64 = soort.Contains("64") || soort.Contains("alpha");
+  bool const is64 = soort.Contains("64") || soort.Contains("alpha") || soort == "s390x";
   return wxPlatformInfo::GetOperatingSystemIdName(
              wxPlatformInfo::GetOperatingSystemId(gegevens.sysname)) +
          " (" + wxPlatformInfo::GetBitnessName(is64 ? wxBITNESS_64 : wxBITNESS_32) + ")";
