@@ -27,10 +27,13 @@ copied into a project, and a manual that describes every byte of the formats.")
 set(CPACK_PACKAGE_VERSION "${PROJECT_VERSION}")
 set(CPACK_PRE_BUILD_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/pakketInhoud.cmake")
 set(CPACK_KESTROLIN_DEBIAN "${PROJECT_SOURCE_DIR}/packaging/debian")
+set(CPACK_KESTROLIN_STRIP "${CMAKE_STRIP}")
 set(CPACK_PROJECT_CONFIG_FILE "${CMAKE_CURRENT_LIST_DIR}/pakketDatum.cmake")
 
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+# Empty where it is that of this machine, which dpkg tells then.
+set(CPACK_DEBIAN_PACKAGE_ARCHITECTURE ${KESTROLIN_PROCESSOR})
 set(CPACK_DEBIAN_PACKAGE_SECTION devel)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)

@@ -3,7 +3,8 @@
 # them.
 file(GLOB _programmas "${CPACK_TEMPORARY_DIRECTORY}/usr/bin/*"
      "${CPACK_TEMPORARY_DIRECTORY}/usr/lib/kestrolin/*.so")
-execute_process(COMMAND strip --remove-section=.comment --remove-section=.note ${_programmas}
+execute_process(COMMAND "${CPACK_KESTROLIN_STRIP}" --remove-section=.comment
+                        --remove-section=.note ${_programmas}
                 COMMAND_ERROR_IS_FATAL ANY)
 
 # Debian's zsh looks into site-functions below /usr/local alone.
