@@ -1,5 +1,6 @@
 #include "tests/steun/bytes.h"
 
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -13,7 +14,7 @@ Bytes laagEerst(unsigned long long waarde, unsigned int aantal) {
 }
 
 std::string leesTekst(std::string const& pad) {
-  std::ifstream stroom(pad, std::ios::binary);
+  std::ifstream stroom(std::filesystem::u8path(pad), std::ios::binary);
   // By the block: some of these files are large.
   std::ostringstream inhoud;
   inhoud << stroom.rdbuf();

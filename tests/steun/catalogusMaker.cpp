@@ -48,5 +48,6 @@ void maakCatalogus(std::string const& pad, std::map<std::string, std::string> co
     voegGetalToe(inhoud, getal);
   }
   std::filesystem::create_directories(std::filesystem::path(pad).parent_path());
-  std::ofstream(pad, std::ios::binary) << inhoud << originelen << vertalingen << data;
+  std::ofstream(std::filesystem::u8path(pad), std::ios::binary)
+      << inhoud << originelen << vertalingen << data;
 }

@@ -15,7 +15,8 @@ class TijdelijkeLocale {
   TijdelijkeLocale(int soort, char const* naam)
       : categorie(soort),
         vorige(std::setlocale(soort, nullptr)),
-        gelukt(std::setlocale(soort, naam) != nullptr) {}
+        gelukt(std::setlocale(soort, naam) != nullptr ||
+               std::setlocale(soort, naamOpWindows(naam)) != nullptr) {}
   ~TijdelijkeLocale() { static_cast<void>(std::setlocale(categorie, vorige.c_str())); }
   TijdelijkeLocale(TijdelijkeLocale const&) = delete;
   TijdelijkeLocale& operator=(TijdelijkeLocale const&) = delete;
@@ -26,6 +27,11 @@ class TijdelijkeLocale {
   bool isGelukt() const { return gelukt; }
 
  private:
+  // What has a comma for a point, too.
+  static char const* naamOpWindows(std::string const& naam) {
+    return naam.rfind("nl_", 0) == 0 ? "Dutch" : "German";
+  }
+
   int categorie;
   std::string vorige;
   bool gelukt;

@@ -1,13 +1,12 @@
-// The process's environment, or a variable of it, put back at the end of a block as it was.
+// A variable of the process's environment, put back at the end of a block as it was.
 #pragma once
-
-#include <unistd.h>
 
 #include <cstdlib>
 #include <optional>
 #include <string>
 #include <utility>
-#include <vector>
+
+#include "tests/steun/variabele.h"
 
 class OmgevingsWaarde {
  public:
@@ -15,13 +14,13 @@ class OmgevingsWaarde {
     if (char const* const oud = std::getenv(naam.c_str())) {
       vorige = oud;
     }
-    setenv(naam.c_str(), waarde.c_str(), 1);
+    zetVariabele(naam, waarde);
   }
   ~OmgevingsWaarde() {
     if (vorige) {
-      setenv(naam.c_str(), vorige->c_str(), 1);
+      zetVariabele(naam, *vorige);
     } else {
-      unsetenv(naam.c_str());
+      wisVariabele(naam);
     }
   }
   OmgevingsWaarde(OmgevingsWaarde const&) = delete;
@@ -32,28 +31,4 @@ class OmgevingsWaarde {
  private:
   std::string naam;
   std::optional<std::string> vorige;
-};
-
-// All of the environment, whatever becomes of it meanwhile.
-class OmgevingBewaard {
- public:
-  OmgevingBewaard() {
-    for (char* const* ingang = environ; *ingang != nullptr; ++ingang) {
-      ingangen.emplace_back(*ingang);
-    }
-  }
-  ~OmgevingBewaard() {
-    clearenv();
-    for (std::string const& ingang : ingangen) {
-      std::string::size_type const gelijk = ingang.find('=');
-      setenv(ingang.substr(0, gelijk).c_str(), ingang.substr(gelijk + 1).c_str(), 1);
-    }
-  }
-  OmgevingBewaard(OmgevingBewaard const&) = delete;
-  OmgevingBewaard& operator=(OmgevingBewaard const&) = delete;
-  OmgevingBewaard(OmgevingBewaard&&) = delete;
-  OmgevingBewaard& operator=(OmgevingBewaard&&) = delete;
-
- private:
-  std::vector<std::string> ingangen;
 };

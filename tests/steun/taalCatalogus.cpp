@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <fstream>
 
 namespace {
@@ -41,7 +42,7 @@ std::string tussenAanhalingstekens(std::string const& regel) {
 }  // namespace
 
 Catalogus leesCatalogus(std::string const& pad) {
-  std::ifstream lezer(pad);
+  std::ifstream lezer(std::filesystem::u8path(pad));
   EXPECT_TRUE(lezer.is_open()) << pad;
   Catalogus catalogus;
   std::string origineel;

@@ -1,21 +1,22 @@
 // A directory of a test's own, gone with all that is in it when the test ends.
 #pragma once
 
-#include <cstdlib>
 #include <filesystem>
+#include <random>
 #include <string>
 
 class TijdelijkeMap {
  public:
-  TijdelijkeMap()
-      : plaats((std::filesystem::temp_directory_path() / "kestrolinProefXXXXXX").string()) {
-    if (mkdtemp(plaats.data()) == nullptr) {
-      std::abort();
-    }
+  TijdelijkeMap() {
+    std::random_device toeval;
+    std::filesystem::path const map = std::filesystem::temp_directory_path();
+    do {
+      plaats = (map / ("kestrolinProef" + std::to_string(toeval()))).u8string();
+    } while (!std::filesystem::create_directory(plaats));
   }
   ~TijdelijkeMap() {
     std::error_code fout;
-    std::filesystem::remove_all(plaats, fout);
+    std::filesystem::remove_all(std::filesystem::u8path(plaats), fout);
   }
   TijdelijkeMap(TijdelijkeMap const&) = delete;
   TijdelijkeMap& operator=(TijdelijkeMap const&) = delete;
@@ -25,8 +26,10 @@ class TijdelijkeMap {
   // The full path of the directory, without a separator at its end.
   std::string const& pad() const { return plaats; }
   // The full path of a name in it.
-  std::string pad(std::string const& naam) const { return plaats + "/" + naam; }
+  std::string pad(std::string const& naam) const { return plaats + scheiding + naam; }
 
  private:
+  static constexpr char scheiding = std::filesystem::path::preferred_separator;
+
   std::string plaats;
 };

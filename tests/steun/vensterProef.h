@@ -17,6 +17,7 @@
 #include "audio/uitvoer/encoderSoort.h"
 #include "tests/steun/antwoorden.h"
 #include "tests/steun/logboek.h"
+#include "tests/steun/omgevingBewaard.h"
 #include "tests/steun/omgevingsWaarde.h"
 #include "tests/steun/tijdelijkeMap.h"
 

@@ -1,5 +1,6 @@
 #include "tests/steun/wavMaker.h"
 
+#include <filesystem>
 #include <fstream>
 
 namespace {
@@ -60,7 +61,7 @@ void maakWav(std::string const& pad, std::vector<std::int16_t> const& samples,
 }
 
 void maakBestand(std::string const& pad, std::string const& inhoud) {
-  std::ofstream(pad, std::ios::binary) << inhoud;
+  std::ofstream(std::filesystem::u8path(pad), std::ios::binary) << inhoud;
 }
 
 std::vector<std::int16_t> proefSamples(std::size_t aantal) {

@@ -7,8 +7,10 @@
 #include <wx/log.h>
 
 #include <clocale>
+#include <filesystem>
 #include <iostream>
 #include <memory>
+#include <type_traits>
 #include <utility>
 
 namespace {
@@ -24,8 +26,9 @@ class SchoonLog : public testing::EmptyTestEventListener {
 
 int draai(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
-  // File names in the tests carry accents, whatever the machine's own locale.
-  if (std::setlocale(LC_ALL, "C.UTF-8") == nullptr) {
+  // File names in the tests carry accents, whatever the machine's own locale, where they are bytes.
+  constexpr bool isBytes = std::is_same_v<std::filesystem::path::value_type, char>;
+  if (isBytes && std::setlocale(LC_ALL, "C.UTF-8") == nullptr) {
     std::cerr << "the locale C.UTF-8 is missing\n";
     return 1;
   }

@@ -3,11 +3,11 @@
 // n codes the last nine would be is lost and counts as zero. The images of real recordings are
 // refused for lack of memory (see adpcmGeheugenTest.cpp).
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "audio/codec/pcmPakket.h"
 #include "tests/audio/codec/adpcmModel.h"
 #include "tests/audio/codec/adpcmTekstHulp.h"
+#include "tests/steun/pijp.h"
 #include "tests/steun/tijdelijkeMap.h"
 #include "tests/steun/wavLezer.h"
 #include "tests/steun/wxMain.h"
@@ -159,7 +159,9 @@ TEST_F(AdpcmDecodeer, ontbrekendBestandGeeftGeenSamples) {
 }
 
 TEST_F(AdpcmDecodeer, mapPijpEnLeesfoutGevenGeenSamples) {
-  ASSERT_EQ(mkfifo(bron.c_str(), S_IRUSR | S_IWUSR), 0);
+  if (!maakPijp(bron)) {
+    GTEST_SKIP() << "no pipes lie in folders here";
+  }
   for (std::string const& pad : {map.pad(), bron, std::string("/proc/self/mem")}) {
     EXPECT_EQ(pakketVan(pad)->geefAantalSamples(), 0U) << pad;
   }

@@ -149,7 +149,7 @@ std::string verwachteRijen(Bytes const& bytes) {
 
 std::string maakVerwachteTekst(VerwachteTekst const& gegevens,
                                std::vector<VerwachteTelling> const& tellingen, Bytes const& beeld) {
-  std::string tekst = "\n/* Encoded on Linux (64 bit)\t\t*/\n";
+  std::string tekst = "\n/* Encoded on " KESTROLIN_SYSTEEM "\t\t*/\n";
   tekst += momentRegel;
   tekst += "/* WAV file : " + gegevens.bestand + "\t\t*/\n";
   tekst += "/* WAV information :   \t\t*/\n";

@@ -1,9 +1,9 @@
 // The way back, where there is no image to read or no place for the WAV file.
-#include <sys/stat.h>
 
 #include <filesystem>
 
 #include "tests/audio/codec/converterSoort.h"
+#include "tests/steun/pijp.h"
 #include "tests/steun/wxMain.h"
 
 namespace {
@@ -39,7 +39,9 @@ TYPED_TEST(ConverterDecodeer, mapAlsBronLaatHetDoelMetRust) {
 
 // Nobody writes to it: whoever opened it would wait.
 TYPED_TEST(ConverterDecodeer, pijpAlsBronLaatNiemandWachten) {
-  ASSERT_EQ(mkfifo(this->bron.c_str(), S_IRUSR | S_IWUSR), 0);
+  if (!maakPijp(this->bron)) {
+    GTEST_SKIP() << "no pipes lie in folders here";
+  }
   this->verwachtDoelMetRust(this->bron);
 }
 

@@ -80,11 +80,12 @@ TYPED_TEST(ConverterTekst, namenStaanErZoalsZeZijn) {
                                       {".wav", ".wav"},
                                       {"9*x/.wav", ".wav"}}) {
     std::string const pad = this->map.pad(bestand);
-    std::filesystem::create_directories(std::filesystem::path(pad).parent_path());
+    std::filesystem::create_directories(std::filesystem::u8path(pad).parent_path());
     schrijfWav(pad, {7, -7});
     for (int const taal : {0, 1}) {
       VerwachteTekst const gegevens{
-          taal, true, "K", naam, std::filesystem::path(bestand).filename().string(), 8000, 2, {}};
+          taal, true, "K", naam, std::filesystem::u8path(bestand).filename().u8string(),
+          8000, 2,    {}};
       EXPECT_TRUE(
           zelfdeTekst(this->tekst(this->opties(taal), pad), TypeParam().tekst(gegevens, {7, -7})))
           << bestand;

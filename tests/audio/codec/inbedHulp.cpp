@@ -72,7 +72,7 @@ std::vector<int> geschaald(std::vector<int> waarden, int bits) {
 }
 
 std::string verwachteInbedding(VerwachtBlok const& blok, Bytes const& beeld) {
-  std::string tekst = "\n/* Embedded on Linux (64 bit)\t\t*/\n" + momentRegel;
+  std::string tekst = "\n/* Embedded on " KESTROLIN_SYSTEEM "\t\t*/\n" + momentRegel;
   tekst += "/* WAV file : " + blok.bestand + "\t\t*/\n";
   tekst += "/* WAV information :   \t\t*/\n";
   tekst += "/* WAV Format                 : " + blok.formaat + "\t*/\n";
@@ -99,7 +99,7 @@ std::string InbedProef::inbed(std::string const& pad, int bits, int taal,
 std::vector<std::string> InbedProef::namen() const {
   std::vector<std::string> gevonden;
   for (auto const& een : std::filesystem::directory_iterator(map.pad("tmp"))) {
-    gevonden.push_back(een.path().filename());
+    gevonden.push_back(een.path().filename().u8string());
   }
   std::sort(gevonden.begin(), gevonden.end());
   return gevonden;

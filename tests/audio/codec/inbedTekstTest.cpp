@@ -13,16 +13,16 @@
 namespace {
 
 // A WAV file of two samples, 1 and -1, by the definition of the format: 48 bytes.
-std::string const kop =
-    "\n/* Embedded on Linux (64 bit)\t\t*/\n"
-    "/* Date : MOMENT\t\t*/\n"
-    "/* WAV file : toon.wav\t\t*/\n"
-    "/* WAV information :   \t\t*/\n"
-    "/* WAV Format                 : WAV S16 PCM\t*/\n"
-    "/* Sampling frequency         : 16000 Hz\t\t*/\n"
-    "/* Size                       : 2 bytes\t\t*/\n"
-    "/* Duration                   : 0.00 s\t\t*/\n"
-    "/* Full Scale gain adapted to : 16 bits\t\t*/\n\n";
+std::string const kop = "\n/* Embedded on " KESTROLIN_SYSTEEM
+                        "\t\t*/\n"
+                        "/* Date : MOMENT\t\t*/\n"
+                        "/* WAV file : toon.wav\t\t*/\n"
+                        "/* WAV information :   \t\t*/\n"
+                        "/* WAV Format                 : WAV S16 PCM\t*/\n"
+                        "/* Sampling frequency         : 16000 Hz\t\t*/\n"
+                        "/* Size                       : 2 bytes\t\t*/\n"
+                        "/* Duration                   : 0.00 s\t\t*/\n"
+                        "/* Full Scale gain adapted to : 16 bits\t\t*/\n\n";
 std::string const array =
     "\t0x52,0x49,0x46,0x46,0x28,0x0,0x0,0x0,\n"
     "\t0x57,0x41,0x56,0x45,0x66,0x6d,0x74,0x20,\n"
@@ -121,11 +121,11 @@ std::string const zonderBron =
     "/* end of WAV file         : weg.wav         */\n";
 
 TEST_F(InbedTekst, verdwenenBronHeeftHetHeleBlokMetNullenNanEnEenLegeArray) {
-  EXPECT_TRUE(zelfdeTekst(inbed(map.pad("weg.wav"), 12),
-                          "\n/* Embedded on Linux (64 bit)\t\t*/\n"
-                          "/* Date : MOMENT\t\t*/\n"
-                          "/* WAV file : weg.wav\t\t*/\n" +
-                              zonderBron));
+  EXPECT_TRUE(zelfdeTekst(inbed(map.pad("weg.wav"), 12), "\n/* Embedded on " KESTROLIN_SYSTEEM
+                                                         "\t\t*/\n"
+                                                         "/* Date : MOMENT\t\t*/\n"
+                                                         "/* WAV file : weg.wav\t\t*/\n" +
+                                                             zonderBron));
   EXPECT_TRUE(beeld().empty());
   EXPECT_TRUE(nietsGelogd(neemLog()));
 }

@@ -3,7 +3,6 @@
 #include "audio/codec/sndBestand.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <algorithm>
 #include <cstdlib>
@@ -13,6 +12,7 @@
 
 #include "tests/audio/codec/codecHulp.h"
 #include "tests/steun/omgeving.h"
+#include "tests/steun/pijp.h"
 #include "tests/steun/tijdelijkeMap.h"
 #include "tests/steun/wavLezer.h"
 #include "tests/steun/wxMain.h"
@@ -86,7 +86,9 @@ TEST(SndBestandLees, map) {
 
 TEST(SndBestandLees, pijpZonderSchrijverLaatNietWachten) {
   TijdelijkeMap const map;
-  ASSERT_EQ(mkfifo(map.pad("pijp.wav").c_str(), S_IRUSR | S_IWUSR), 0);
+  if (!maakPijp(map.pad("pijp.wav"))) {
+    GTEST_SKIP() << "no pipes lie in folders here";
+  }
   verwachtOnleesbaar(map.pad("pijp.wav"));
 }
 

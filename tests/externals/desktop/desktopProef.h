@@ -16,6 +16,7 @@
 #include "externals/desktop/desktopApp.h"
 #include "tests/steun/antwoorden.h"
 #include "tests/steun/logboek.h"
+#include "tests/steun/omgevingBewaard.h"
 #include "tests/steun/omgevingsWaarde.h"
 #include "tests/steun/tijdelijkeMap.h"
 

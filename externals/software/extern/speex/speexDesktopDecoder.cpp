@@ -6,6 +6,8 @@
 #include <wx/txtstrm.h>
 #include <wx/wfstream.h>
 
+#include <algorithm>
+#include <limits>
 #include <new>
 #include <optional>
 #include <utility>
@@ -126,7 +128,11 @@ void SpeexDesktopDecoder::leesHeader(wxTextInputStream& tekst, unsigned long& wa
     return;
   }
   wxString const hoog = tekst.ReadWord();
-  (hoog + laag).ToULong(&waarde, hexadecimaal);
+  // Of 64 bits, whatever a long has.
+  wxULongLong_t getal = waarde;
+  (hoog + laag).ToULongLong(&getal, hexadecimaal);
+  waarde = static_cast<unsigned long>(
+      std::min<wxULongLong_t>(getal, std::numeric_limits<unsigned long>::max()));
 }
 
 unsigned char SpeexDesktopDecoder::leesHexWaarde(wxTextInputStream& tekst) {
@@ -134,8 +140,9 @@ unsigned char SpeexDesktopDecoder::leesHexWaarde(wxTextInputStream& tekst) {
   while (teken != 'x' && teken != 0) {
     teken = tekst.GetChar();
   }
-  unsigned long waarde = 0;
-  return tekst.ReadWord().ToULong(&waarde, hexadecimaal) ? static_cast<unsigned char>(waarde) : 0;
+  wxULongLong_t waarde = 0;
+  return tekst.ReadWord().ToULongLong(&waarde, hexadecimaal) ? static_cast<unsigned char>(waarde)
+                                                             : 0;
 }
 
 // Reads one array from behind its "{". False for one of another frequency.

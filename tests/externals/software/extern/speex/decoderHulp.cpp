@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "audio/codec/sndBestand.h"
 #include "externals/software/extern/speex/speexDesktopDecoder.h"
 #include "tests/audio/codec/codecHulp.h"
 #include "tests/steun/tijdelijkeMap.h"
@@ -131,13 +132,7 @@ Gedecodeerd decodeer(std::string const& tekst, SpeexBandFormaat band) {
 }
 
 SF_INFO wavInfo(std::string const& pad) {
-  SF_INFO info{};
-  SNDFILE* const handvat = sf_open(pad.c_str(), SFM_READ, &info);
-  if (handvat == nullptr) {
-    return {};
-  }
-  sf_close(handvat);
-  return info;
+  return SndBestand::lees(wxFileName(wxString::FromUTF8(pad))).info();
 }
 
 testing::AssertionResult zelfdeSamples(Samples const& gevonden, Samples const& verwacht) {

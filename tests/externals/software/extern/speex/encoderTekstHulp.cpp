@@ -126,7 +126,8 @@ std::string omvangRegels(std::size_t totaal, std::size_t procent, std::size_t gr
 
 std::string kopRegels(std::string const& bestand, std::size_t aantal, Instelling const& instelling,
                       Frames const& frames) {
-  return "\n/* Encoded on Linux (64 bit)\t\t*/\n" + momentRegel + "/* WAV file : " + bestand +
+  return "\n/* Encoded on " KESTROLIN_SYSTEEM "\t\t*/\n" + momentRegel +
+         "/* WAV file : " + bestand +
          "\t\t*/\n"
          "/* WAV information :   \t\t*/\n"
          "/* Sampling frequency         : " +

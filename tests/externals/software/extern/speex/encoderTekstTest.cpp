@@ -28,7 +28,7 @@ class EenFrame : public EncoderProef {
   }
 
   std::vector<int> samples = spraak(160, 8000);
-  std::string kop = "\n/* Encoded on Linux (64 bit)\t\t*/\n" + momentRegel +
+  std::string kop = "\n/* Encoded on " KESTROLIN_SYSTEEM "\t\t*/\n" + momentRegel +
                     "/* WAV file : toon.wav\t\t*/\n"
                     "/* WAV information :   \t\t*/\n"
                     "/* Sampling frequency         : 8000 Hz\t\t*/\n"
