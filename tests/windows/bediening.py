@@ -144,6 +144,11 @@ class Programma:
         wacht(lambda: self.hoofd().top.bruikbaar, "the main window can be used")
         self.vraag("menu", self.hoofd().top.hwnd, nummer)
 
+    def toets(self, toets: str) -> None:
+        """Presses a key of the keyboard, with the main window in front."""
+        subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--name", f"^{self.titel}$",
+                        "windowactivate", "--sync", "key", "--clearmodifiers", toets], check=True)
+
     def antwoord(self, titel: str, knop: str) -> list[str]:
         """Presses a button of a dialog, and gives what the dialog said."""
         groep = self.dialoog(titel)

@@ -62,6 +62,15 @@ def lees_instellingen() -> dict[str, dict[str, str]]:
     return {groep: dict(lezer[groep]) for groep in lezer.sections()}
 
 
+def keur_sneltoetsen(p: Programma) -> None:
+    """Without a result Ctrl+S does nothing; and Ctrl+O opens."""
+    p.toets("ctrl+s")
+    p.toets("ctrl+o")
+    p.dialoog(OPENEN)
+    gelijk(sorted(p.titels()), sorted([OPENEN, TITEL]), "windows")
+    p.antwoord(OPENEN, "Cancel")
+
+
 def maak_opnamen(proef: Proef) -> list[Path]:
     wavs = [proef.map / naam for naam in ("ready.wav", "warning.wav", f"{VREEMD}.wav")]
     for wav, bron in zip(wavs, ("ready", "warning", "ready")):
@@ -84,7 +93,11 @@ def codeer(p: Programma, soort: str, staart: str, map_: Path) -> None:
 
 
 def bewaar(p: Programma, doel: Path, aanvullen: bool = False) -> None:
-    p.knop("Save")
+    if aanvullen:
+        p.knop("Save")
+    else:
+        p.deel("Button", "Save")
+        p.toets("ctrl+s")
     p.noem_bestand(BEWAREN, str(windows_pad(doel)))
     if aanvullen:
         p.antwoord("File exists", "Yes")
@@ -148,6 +161,7 @@ def weg(proef: Proef) -> None:
               (f"{VREEMD}.cpp", "adpcm.c", "pcm.c", "wav.c", "twee.c")}
     with proef.start() as p:
         keur_pictogram(proef.plaatje)
+        keur_sneltoetsen(p)
         laad(p, wavs)
         p.knop("Play WAV Files")
         p.vraag("typ", p.deel("Edit", nummer=KLASSE).hwnd, "Geluid")
@@ -186,7 +200,7 @@ def weg(proef: Proef) -> None:
         keur_tekst(doelen["wav.c"], van_hier(proef, wavs, "--encoder", "wav", "--dac", "12"), len(wavs))
         keur_over(p)
         assert not instellingen_pad().exists(), "the settings are written before the end"
-        p.knop("Quit")
+        p.toets("ctrl+q")
         gelijk(p.wacht_op_einde(), 0, "exit status")
     keur_instellingen(proef.map, wavs)
     with proef.start() as p:

@@ -27,6 +27,7 @@
 #include "audio/uitvoer/encoderSoort.h"
 #include "audio/uitvoer/instellingenBestand.h"
 #include "externals/desktop/nooitSmaller.h"
+#include "externals/desktop/sneltoetsen.h"
 #include "externals/desktop/tekstVeld.h"
 #include "numeriek/configGetal.h"
 
@@ -166,6 +167,7 @@ void HoofdVenster::maakMenus() {
   speexMenu->Append(wxID_ABOUT, "About");
   menuBalk->Append(speexMenu, "&Speex");
   SetMenuBar(menuBalk);
+  zetSneltoetsen(*this);
 }
 
 void HoofdVenster::maakBronControls() {
