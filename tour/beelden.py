@@ -16,6 +16,8 @@ import numpy as np
 
 # What is heard at that moment is another piece each time.
 WISSELEND = {"play"}
+# What no tour shows: the window for Windows, under Wine.
+ELDERS = {"windows"}
 # So much may a channel of a pixel differ, of 255: by the palette that a picture is stored with, and by
 # the edges of letters, which another version of the renderer of fonts shades otherwise.
 SPELING = 56
@@ -74,6 +76,7 @@ def gebruikt(boom: Path) -> dict[str, str]:
         naam: str(document.relative_to(boom))
         for document in documenten if document.is_file()
         for naam in re.findall(r"pictures/([\w-]+)\.png", document.read_text(encoding="utf-8"))
+        if naam not in ELDERS
     }
 
 
@@ -85,7 +88,7 @@ class Beelden:
         self._map = boom / "docs" / "pictures"
         self._vers = schermafdrukken(resultaten)
         self._gebruikt = gebruikt(boom)
-        self._aanwezig = {p.stem for p in self._map.glob("*.png")}
+        self._aanwezig = {p.stem for p in self._map.glob("*.png")} - ELDERS
 
     def _verschil(self, naam: str) -> tuple[np.ndarray, np.ndarray]:
         vers = lees(self._vers[naam])

@@ -34,7 +34,7 @@ def brokken(png: bytes) -> Iterator[tuple[bytes, bytes]]:
 
 
 def voorspel(links: int, boven: int, schuin: int) -> int:
-    """PNG's predictor of Paeth."""
+    """What the fourth filter of PNG reckons with."""
     som = links + boven - schuin
     return min((links, boven, schuin), key=lambda buur: abs(som - buur))
 

@@ -164,6 +164,13 @@ class Boom(unittest.TestCase):
         self.assertEqual(status, 1)
         self.assertIn("README.md shows play.png, which is no screenshot of the tour", klachten)
 
+    def test_the_window_of_windows_is_left_alone(self) -> None:
+        self.schrijf("docs/firmware.md", "![It](pictures/windows.png)\n")
+        teken(self.beelden / "windows.png", *tekst("Quit"))
+        self.assertEqual(self.voer_uit("neem"), (0, ""))
+        self.assertEqual(self.namen(), {"start.png", "c.png", "windows.png"})
+        self.assertEqual(self.voer_uit("keur"), (0, ""))
+
     def test_all_takes_also_what_nothing_shows(self) -> None:
         self.schrijf("README.md", "No picture.\n")
         self.assertEqual(self.voer_uit("neem-alle"), (0, ""))
