@@ -1,9 +1,9 @@
 """Test of the installer for Windows, under Wine: what it places and takes away, on the disk, in the registry and
 in the start menu.
 
-    installatieTest.py CMAKE BUILD
+    installatieTest.py stil|bladzijden CMAKE BUILD
 
-Ends with status 77 where Wine or makensis is missing. Run inside `tests/steun/scherm`: the window opens.
+Ends with status 77 where Wine or makensis is missing. Run inside `tests/steun/scherm`: windows open.
 """
 
 from __future__ import annotations
@@ -12,6 +12,7 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import time
 from pathlib import Path
 
 WORTEL = Path(__file__).resolve().parents[2]
@@ -19,6 +20,7 @@ sys.path[:0] = [str(WORTEL / "tests/installatie"), str(WORTEL / "tour")]
 
 # pylint: disable=wrong-import-position
 from inhoudTest import VERSIE, bestanden, gelijk
+from maken import maak_installer
 from schermwerk import toets, wacht
 from teksten import TITEL
 from wijn import Wijn, sla_over_zonder
@@ -35,13 +37,12 @@ VAN_WINDOWS = ("AppData/Local/Programs", "Temp/~nsu")
 class Installatie:
     """A Windows, and what an installer does there."""
 
-    def __init__(self, werk: Path, cmake: str, bouw: Path) -> None:
-        self.wijn = Wijn(werk / "windows")
-        self._werk, self._cmake = werk, cmake
+    def __init__(self, werk: Path, cmake: str, bouw: Path, taal: str) -> None:
+        self.wijn = Wijn(werk / "windows", taal)
+        self._werk, self._cmake, self._bouw = werk, cmake, bouw
         naam = f"Kestrolin-{VERSIE}"
         self.boom = bouw / "pakket" / naam
         self.nieuw = bouw / f"{naam}-windows-x86_64-setup.exe"
-        self._icoon = bouw / "kestrolin.ico"
         self.vooraf = self.wijn.bestanden()
         self.register_vooraf = self.wijn.register()
 
@@ -60,10 +61,7 @@ class Installatie:
         (boom / ONGEBRUIKT).parent.mkdir()
         (boom / ONGEBRUIKT).write_text("old\n")
         (boom / "share/doc/kestrolin/CHANGELOG.md").unlink()
-        subprocess.run(
-            [self._cmake, "-D", f"MAP={boom}", "-D", "VERSIE=0.9.0", "-D", f"ICOON={self._icoon}", "-D",
-             f"UIT={uit}", "-D", "MAKENSIS=makensis", "-P",
-             str(WORTEL / "packaging/windows/maakInstaller.cmake")], check=True, stdout=subprocess.DEVNULL)
+        maak_installer(self._cmake, boom, "0.9.0", self._bouw, uit)
         return uit
 
     def installeer(self, *opties: str, doel: Path | None = None, installer: Path | None = None,
@@ -124,8 +122,8 @@ def keur_menu(i: Installatie) -> None:
         assert volledig.encode() in inhoud or volledig.encode("utf-16-le") in inhoud, naam
 
 
-def venster_staat() -> bool:
-    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{TITEL}$"],
+def staat(titel: str = TITEL) -> bool:
+    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", f"^{titel} ?$"],
                           stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, check=False).stdout != b""
 
 
@@ -134,7 +132,7 @@ def keur_start(i: Installatie) -> None:
     gelijk(i.wijn.doe(i.map / "bin/kestrolin-cli.exe", "--version").split(), ["kestrolin-cli", VERSIE],
            "what the command says")
     with i.wijn.start(i.map / "bin/Kestrolin.exe") as venster:
-        wacht(venster_staat, f'a window named "{TITEL}"')
+        wacht(staat, f'a window named "{TITEL}"')
         i.installeer(status=LOOPT)
         i.wijn.doe(i.map / "uninstall.exe", "/S", f"_?={i.wijn.windows_pad(i.map)}", status=LOOPT)
         i.keur_inhoud(i.map)
@@ -164,24 +162,59 @@ def keur_opwaardering(i: Installatie, oude: Path) -> None:
     elders.parent.rmdir()
 
 
-def main(cmake: str, bouw: str) -> None:
+def keur_stil(i: Installatie) -> None:
+    i.installeer()
+    i.keur_inhoud(i.map)
+    keur_register(i)
+    keur_menu(i)
+    keur_start(i)
+    i.verwijder()
+    # The user's own, which the next installation finds again.
+    i.keur_schoon(i.instellingen)
+    i.installeer()
+    i.verwijder("/SETTINGS")
+    i.keur_schoon()
+    keur_opwaardering(i, i.maak_oude())
+    i.keur_schoon()
+
+
+def blader(i: Installatie, programma: Path | str, titel: str) -> None:
+    """Takes what each page proposes, up to the last one."""
+    with i.wijn.start(programma) as installer:
+        wacht(lambda: staat(titel), f'a window named "{titel}"')
+        while staat(titel):
+            # None of the pages is left without it, and what is busy does not hear it.
+            toets("Return")
+            time.sleep(1)
+        gelijk(installer.wait(), 0, f"status of {programma}")
+
+
+def keur_bladzijden(i: Installatie) -> None:
+    """Page by page, in Dutch. The last page starts the program."""
+    blader(i, i.nieuw, "Kestrolin-installatie")
+    i.keur_inhoud(i.map)
+    wacht(staat, f'a window named "{TITEL}"')
+    # A key too many has opened a dialog.
+    while staat():
+        toets("alt+F4")
+        time.sleep(1)
+    i.wijn.rust()
+    assert "PathEntry" not in i.wijn.lees(SLEUTEL), "the search path was not asked for"
+    blader(i, i.map / "uninstall.exe", "Kestrolin-deïnstallatie")
+    i.wijn.rust()
+    i.keur_schoon(i.instellingen)
+
+
+GEVALLEN = {"stil": keur_stil, "bladzijden": keur_bladzijden}
+TALEN = {"stil": "C.UTF-8", "bladzijden": "nl_NL.UTF-8"}
+
+
+def main(geval: str, cmake: str, bouw: str) -> None:
     sla_over_zonder("wine", "makensis")
     with tempfile.TemporaryDirectory() as werk:
-        i = Installatie(Path(werk), cmake, Path(bouw).resolve())
+        i = Installatie(Path(werk), cmake, Path(bouw).resolve(), TALEN[geval])
         try:
-            i.installeer()
-            i.keur_inhoud(i.map)
-            keur_register(i)
-            keur_menu(i)
-            keur_start(i)
-            i.verwijder()
-            # The user's own, which the next installation finds again.
-            i.keur_schoon(i.instellingen)
-            i.installeer()
-            i.verwijder("/SETTINGS")
-            i.keur_schoon()
-            keur_opwaardering(i, i.maak_oude())
-            i.keur_schoon()
+            GEVALLEN[geval](i)
         finally:
             i.wijn.einde()
 

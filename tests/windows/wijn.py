@@ -8,8 +8,9 @@ import re
 import shutil
 import subprocess
 import sys
+from contextlib import contextmanager
 from pathlib import Path
-from typing import Optional
+from typing import Iterator, Optional
 
 # What Wine says, fetches or puts into menus of its own accord.
 STIL = {"WINEDEBUG": "-all", "WINEARCH": "win64",
@@ -75,6 +76,14 @@ class Wijn:
     def rust(self) -> None:
         """Waits until no program runs; then the registry is in its files."""
         subprocess.run(["wineserver", "--wait"], env=self._omgeving, check=True, timeout=GEDULD)
+
+    @contextmanager
+    def open_(self) -> Iterator[None]:
+        """This Windows stays started meanwhile, for what runs many programs one after the other."""
+        with subprocess.Popen(["wine", "cmd"], env=self._omgeving, stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
+                              stderr=subprocess.DEVNULL) as wacht:
+            yield
+            wacht.communicate(b"exit\r\n")
 
     def einde(self) -> None:
         """Ends all programs of this Windows, for a test that failed."""
