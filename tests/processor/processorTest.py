@@ -11,6 +11,7 @@ from __future__ import annotations
 
 import os
 import random
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -97,16 +98,15 @@ def verschil(daar: Einde, hier: Einde) -> str:
                     if daar.bestanden.get(naam) != hier.bestanden.get(naam))
 
 
-def keur_rij(nummer: int, woorden: list[str], daar: list[str], hier: list[str], map_: Path,
-             ima: bytes) -> str:
+def keur_rij(nummer: int, woorden: list[str], commandos: dict[str, list[str]], map_: Path) -> str:
+    """Runs the command there and here, each in a copy of the folder. Empty where both do the same."""
     einden = []
-    for naam, command in (("daar", daar), ("hier", hier)):
-        # The same name for both, since messages tell it.
+    for naam, command in commandos.items():
         werk = map_ / naam / str(nummer)
-        vul_alles(werk, ima)
-        oud = draai(hier, ["encode", "chime.wav", "-o", "oud.c"], werk)
-        invoer = oud.bestanden["oud.c"] if "-" in woorden else b""
+        shutil.copytree(map_ / "opnamen", werk)
+        invoer = (werk / "oud.c").read_bytes() if "-" in woorden else b""
         einden.append(draai(command, woorden, werk, invoer))
+        shutil.rmtree(werk)
     gebrek = verschil(*einden)
     return f"{' '.join(woorden)}: {gebrek}" if gebrek else ""
 
@@ -120,13 +120,13 @@ def keur_teksten(vreemd: Path, eigen: Path, map_: Path) -> list[str]:
         einden.append(draai(command, [str(FRAGMENTEN), "teksten"], map_ / naam))
     assert einden[1].status == 0 and len(einden[1].bestanden) > 6, einden[1].fout
     gebreken = [f"fragmentTeksten: {verschil(*einden)}"] if einden[0] != einden[1] else []
-    ima = einden[1].bestanden["teksten/alarm_wav.wav"]
-    daar, hier = programma(vreemd, "bin/kestrolin-cli"), [str(eigen / "bin/kestrolin-cli")]
+    commandos = {"daar": programma(vreemd, "bin/kestrolin-cli"), "hier": [str(eigen / "bin/kestrolin-cli")]}
+    vul_alles(map_ / "opnamen", einden[1].bestanden["teksten/alarm_wav.wav"])
+    assert draai(commandos["hier"], ["encode", "chime.wav", "-o", "oud.c"], map_ / "opnamen").status == 0
     rijen = GEMAAKT + speex_rijen() + ANDERE
     with ThreadPoolExecutor(os.cpu_count()) as werkers:
-        gebreken += filter(None, werkers.map(
-            lambda rij: keur_rij(*rij, daar, hier, map_, ima), enumerate(rijen)))
-    print(f"{len(rijen)} runs, {len(gebreken)} differ")
+        gebreken += filter(None, werkers.map(lambda rij: keur_rij(*rij, commandos, map_), enumerate(rijen)))
+    print(f"{len(rijen)} runs, {len(gebreken)} differ", flush=True)
     return gebreken
 
 
