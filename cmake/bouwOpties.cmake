@@ -64,7 +64,7 @@ function(bewaak doel)
   if(NOT KESTROLIN_SANITIZE)
     set(_wachten "$<AND:$<CONFIG:Release>,$<COMPILE_LANGUAGE:C,CXX>>")
     target_compile_options(${doel} PRIVATE "$<${_wachten}:-D_FORTIFY_SOURCE=2;-fstack-protector-strong>")
-    # Windows' linker has the like of relro always.
+    # -z is ELF's.
     if(NOT WIN32)
       target_link_options(${doel} PRIVATE "$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
     endif()
