@@ -1,5 +1,5 @@
 # The installer for Windows, for one user and without an administrator. Given from outside: VERSIE, BESTANDEN
-# (the list that lijst.cmake makes), LICENTIE, ICOON and UIT, which is the installer itself.
+# (the list that maakInstaller.cmake makes), LICENTIE, ICOON, RAND and UIT, which is the installer itself.
 #
 #   setup.exe [/S] [/PATH] [/D=FOLDER]         /S asks nothing; /PATH adds kestrolin-cli to the search path
 #   uninstall.exe [/S] [/SETTINGS]             /SETTINGS deletes the user's settings too
@@ -41,6 +41,7 @@ VIAddVersionKey "LegalCopyright" "The Kestrolin team, MIT licence"
 !define MUI_UNICON "${ICOON}"
 !define MUI_ABORTWARNING
 !define MUI_COMPONENTSPAGE_SMALLDESC
+!define MUI_WELCOMEFINISHPAGE_BITMAP "${RAND}"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\bin\Kestrolin.exe"
 !define MUI_FINISHPAGE_SHOWREADME "${HANDLEIDING}"
 !define MUI_FINISHPAGE_SHOWREADME_TEXT "$(toonHandleiding)"

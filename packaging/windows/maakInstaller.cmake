@@ -1,7 +1,10 @@
 # Makes the installer of what stands below a folder. What is below it now, and no more, is what the uninstaller
 # takes away.
 #
-#   cmake -D MAP=FOLDER -D VERSIE=NUMBER -D ICOON=FILE -D UIT=FILE -D MAKENSIS=PROGRAM -P maakInstaller.cmake
+#   cmake -D MAP=FOLDER -D VERSIE=NUMBER -D ICOON=FILE -D RAND=FILE -D UIT=FILE -D MAKENSIS=PROGRAM
+#         -P maakInstaller.cmake
+#
+# RAND is the picture beside the last page.
 cmake_policy(VERSION 3.25)
 
 file(GLOB_RECURSE _bestanden LIST_DIRECTORIES FALSE RELATIVE "${MAP}" "${MAP}/*")
@@ -46,7 +49,7 @@ file(WRITE "${_lijst}" "!macro PLAATS_BESTANDEN\n${_plaats}!macroend\n"
 file(REMOVE "${UIT}")
 execute_process(
   COMMAND "${MAKENSIS}" -V2 -WX -INPUTCHARSET UTF8 "-DVERSIE=${VERSIE}" "-DBESTANDEN=${_lijst}"
-          "-DLICENTIE=${MAP}/share/doc/kestrolin/LICENSE" "-DICOON=${ICOON}" "-DUIT=${UIT}"
+          "-DLICENTIE=${MAP}/share/doc/kestrolin/LICENSE" "-DICOON=${ICOON}" "-DRAND=${RAND}" "-DUIT=${UIT}"
           "${CMAKE_CURRENT_LIST_DIR}/kestrolin.nsi"
   COMMAND_ERROR_IS_FATAL ANY)
 if(NOT EXISTS "${UIT}")

@@ -10,6 +10,7 @@ SCRIPT = Path(__file__).resolve().parents[2] / "packaging/windows/maakInstaller.
 
 
 def maak_installer(cmake: str, boom: Path, versie: str, bouw: Path, uit: Path) -> None:
-    waarden = {"MAP": boom, "VERSIE": versie, "ICOON": bouw / "kestrolin.ico", "UIT": uit, "MAKENSIS": "makensis"}
+    waarden = {"MAP": boom, "VERSIE": versie, "ICOON": bouw / "kestrolin.ico", "RAND": bouw / "kestrolin.bmp",
+               "UIT": uit, "MAKENSIS": "makensis"}
     subprocess.run([cmake, *(f"-D{naam}={waarde}" for naam, waarde in waarden.items()), "-P", SCRIPT], check=True,
                    stdout=sys.stderr)
