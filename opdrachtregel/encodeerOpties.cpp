@@ -14,6 +14,7 @@
 #include "numeriek/configGetal.h"
 #include "opdrachtregel/bestandBytes.h"
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/systeem.h"
 #include "opdrachtregel/waarden.h"
 
 namespace {
@@ -114,8 +115,9 @@ void voegBestandOptiesToe(CLI::App& app, EncodeerOpties& opties) {
       ->check(bestandsNaam())
       ->type_name("FILE.d")
       ->group(groepBestanden);
-  app.add_option("--settings", opties.instellingen,
-                 "Take defaults from a settings file of the window, as ~/.Kestrolin")
+  app.add_option(
+         "--settings", opties.instellingen,
+         std::string("Take defaults from a settings file of the window, as ") + instellingenPlaats)
       ->check(bestandsNaam())
       ->type_name("FILE")
       ->group(groepBestanden);
@@ -137,7 +139,7 @@ bool leesInstellingenVan(std::string const& pad, EncodeerVraag& vraag) {
   wxFileConfig config(bestand, wxConvAuto());
   config.SetExpandEnvVars(false);
   if (!config.HasGroup(instellingenPad)) {
-    meld(pad + " holds no settings of Kestrolin; the window writes them to ~/.Kestrolin");
+    meld(pad + " holds no settings of Kestrolin; the window writes them to " + instellingenPlaats);
     return false;
   }
   config.SetPath(instellingenPad);

@@ -11,6 +11,10 @@
 
 struct DoelGeluid;
 
+// What else there is to do for who hears nothing.
+inline constexpr char const* geluidRemedie =
+    "; have decode write WAV files, for another program to play";
+
 class GeluidModule {
  public:
   // Nothing where the module is missing, as in a build without SDL, or cannot be loaded, which was

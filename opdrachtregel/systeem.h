@@ -68,5 +68,8 @@ int bewaarOnder(std::string const& pad, std::string const& nieuw);
 // The folder for files that go before the program ends: $TMPDIR, or that of the system.
 std::string tijdelijkeMap();
 
+// Where the window keeps its settings, as a user would write that place.
+extern char const* const instellingenPlaats;
+
 // Whether this errno says that there is no room.
 bool isVol(int code);

@@ -36,6 +36,8 @@ bool maakLink(std::string const& pad, std::string const& nieuw) {
 
 }  // namespace
 
+char const* const instellingenPlaats = "~/.Kestrolin";
+
 void bereidKanalenVoor() {
   for (int const kanaal : {kanaalInvoer, kanaalUitvoer, kanaalFout}) {
     if (fcntl(kanaal, F_GETFD) < 0) {

@@ -108,6 +108,8 @@ std::wstring eindPad(std::wstring const& pad) {
 
 }  // namespace
 
+char const* const instellingenPlaats = R"(%APPDATA%\Kestrolin.ini)";
+
 void bereidKanalenVoor() {
   for (int const kanaal : {kanaalInvoer, kanaalUitvoer, kanaalFout}) {
     if (_get_osfhandle(kanaal) < 0) {

@@ -1,4 +1,4 @@
-"""Texts are the same on Windows and on Linux, but for the name of the system: those of a table of runs of
+"""Texts are the same on Windows and on Linux, but for the name of the system, and of the place of its settings: those of a table of runs of
 kestrolin-cli, with what it says and its status, and those of fragmentTeksten.
 
     tekstenTest.py BUILD_OF_WINDOWS BUILD_OF_LINUX
@@ -28,6 +28,7 @@ Convertertype=1
 klasseNaam=Geluid
 """
 SYSTEMEN = (b"Microsoft Windows NT (64 bit)", b"Linux (64 bit)")
+INI = (b"%APPDATA%\\Kestrolin.ini", b"~/.Kestrolin")
 # How each text is made: the recordings, and the options.
 SPREEK = ["ready.wav", "warning.wav"]
 RIJEN: list[list[str]] = [
@@ -54,7 +55,7 @@ MET_BIJLAGEN = ["-o", "uit/tekst.c", "--declarations", "uit/tekst.h", "--source"
 GEMAAKT = [["encode", *rij, *MET_BIJLAGEN] for rij in RIJEN]
 # Runs that make no text, or none that is right.
 ANDERE: list[list[str]] = [
-    ["--version"], ["--help"], ["encode", "--help"], ["list", "--help"], ["decode", "--help"],
+    ["--version"], ["--help"], ["list", "--help"], ["decode", "--help"],
     ["compare", "--help"], ["play", "--help"], [], ["/encode"], ["encode"],
     ["encode", "weg.wav", "-o", "a.c"], ["encode", "uit", "-o", "a.c"], ["encode", "chime.wav", "-o", "uit"],
     ["encode", "chime.wav", "-o", "weg/a.c"], ["encode", "chime.wav", "ready.wav", "-o", "a.c"],
@@ -107,7 +108,7 @@ def vul(map_: Path, ima: bytes) -> None:
 
 
 def zonder_systeem(bytes_: bytes) -> bytes:
-    for naam in SYSTEMEN:
+    for naam in SYSTEMEN + INI:
         bytes_ = bytes_.replace(naam, b"SYSTEM")
     return bytes_
 

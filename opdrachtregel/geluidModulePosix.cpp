@@ -6,12 +6,6 @@
 #include "audio/weergave/doelDecoder.h"
 #include "opdrachtregel/melding.h"
 
-namespace {
-
-constexpr char const* remedie = "; have decode write WAV files, for another program to play";
-
-}  // namespace
-
 GeluidModule::GeluidModule(std::string const& pad) : module(std::make_unique<wxDynamicLibrary>()) {
   // The toolkit logs why it cannot be loaded.
   module->Load(wxString::FromUTF8(pad), wxDL_NOW | wxDL_VERBATIM);
@@ -25,7 +19,7 @@ std::optional<GeluidModule> GeluidModule::laad() {
   bestand.Normalize(wxPATH_NORM_DOTS);
   std::string const pad = bestand.GetFullPath().utf8_string();
   if (!bestand.FileExists()) {
-    meld("this kestrolin-cli was built without sound: there is no " + pad + remedie);
+    meld("this kestrolin-cli was built without sound: there is no " + pad + geluidRemedie);
     return std::nullopt;
   }
   GeluidModule module(pad);
@@ -37,7 +31,7 @@ bool GeluidModule::speel(DoelGeluid const& geluid) const {
       functie(geluid.samples.data(), geluid.samples.size(), static_cast<int>(geluid.rate),
               static_cast<int>(geluid.kanalen));
   if (reden != nullptr) {
-    meld(std::string("nothing can be heard: ") + reden + remedie);
+    meld(std::string("nothing can be heard: ") + reden + geluidRemedie);
   }
   return reden == nullptr;
 }
