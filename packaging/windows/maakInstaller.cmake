@@ -16,6 +16,7 @@ endif()
 set(_mappen "")
 set(_plaats "")
 set(_verwijder "")
+set(_ruim "")
 set(_vorige "")
 foreach(_bestand IN LISTS _bestanden)
   cmake_path(GET _bestand PARENT_PATH _map)
@@ -38,12 +39,13 @@ list(REMOVE_DUPLICATES _mappen)
 list(SORT _mappen ORDER DESCENDING)
 foreach(_map IN LISTS _mappen)
   string(REPLACE "/" "\\" _doel "${_map}")
-  string(APPEND _verwijder "  RMDir \"$INSTDIR\\${_doel}\"\n")
+  string(APPEND _ruim "  RMDir \"$INSTDIR\\${_doel}\"\n")
 endforeach()
 
 set(_lijst "${UIT}.nsh")
 file(WRITE "${_lijst}" "!macro PLAATS_BESTANDEN\n${_plaats}!macroend\n"
-                       "!macro VERWIJDER_BESTANDEN\n${_verwijder}!macroend\n")
+                       "!macro VERWIJDER_BESTANDEN\n${_verwijder}!macroend\n"
+                       "!macro VERWIJDER_MAPPEN\n${_ruim}!macroend\n")
 
 # It says nothing of a stub that no system starts, but of all else: a warning is an error.
 file(REMOVE "${UIT}")

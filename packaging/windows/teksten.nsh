@@ -36,12 +36,12 @@ LangString ${naam} ${LANG_SPANISH} "${es}"
   "Show the manual" "De handleiding tonen" "Das Handbuch zeigen" "Afficher le manuel" "Mostra il manuale" \
   "Mostrar el manual"
 !insertmacro Tekst loopt \
-  "$R2 is running. Close it, then press Retry." \
-  "$R2 draait nog. Sluit het en druk dan op Opnieuw." \
-  "$R2 läuft noch. Beenden Sie es und drücken Sie dann auf Wiederholen." \
-  "$R2 est en cours d'exécution. Fermez-le, puis appuyez sur Réessayer." \
-  "$R2 è in esecuzione. Chiuderlo e premere Riprova." \
-  "$R2 se está ejecutando. Ciérrelo y pulse Reintentar."
+  "$R2 is in use. Close the program, then press Retry." \
+  "$R2 is in gebruik. Sluit het programma en druk dan op Opnieuw." \
+  "$R2 wird benutzt. Beenden Sie das Programm und drücken Sie dann auf Wiederholen." \
+  "$R2 est en cours d'utilisation. Fermez le programme, puis appuyez sur Réessayer." \
+  "$R2 è in uso. Chiudere il programma e premere Riprova." \
+  "$R2 está en uso. Cierre el programa y pulse Reintentar."
 !insertmacro Tekst vorigeBlijft \
   "The version in $R0 could not be removed. Nothing was installed." \
   "De versie in $R0 kon niet worden verwijderd. Er is niets geïnstalleerd." \
@@ -49,6 +49,34 @@ LangString ${naam} ${LANG_SPANISH} "${es}"
   "La version dans $R0 n'a pas pu être supprimée. Rien n'a été installé." \
   "La versione in $R0 non può essere rimossa. Non è stato installato nulla." \
   "No se pudo eliminar la versión en $R0. No se ha instalado nada."
+!insertmacro Tekst vanAnderen \
+  "$INSTDIR has a library of another program. Choose another folder." \
+  "In $INSTDIR staat een bibliotheek van een ander programma. Kies een andere map." \
+  "In $INSTDIR liegt eine Bibliothek eines anderen Programms. Wählen Sie einen anderen Ordner." \
+  "$INSTDIR contient une bibliothèque d'un autre programme. Choisissez un autre dossier." \
+  "$INSTDIR contiene una libreria di un altro programma. Scegliere un'altra cartella." \
+  "En $INSTDIR hay una biblioteca de otro programa. Elija otra carpeta."
+!insertmacro Tekst onbruikbaar \
+  "Nothing can be installed in the folder $R1." \
+  "In de map $R1 kan niets worden geïnstalleerd." \
+  "Im Ordner $R1 kann nichts installiert werden." \
+  "Rien ne peut être installé dans le dossier $R1." \
+  "Non si può installare nulla nella cartella $R1." \
+  "No se puede instalar nada en la carpeta $R1."
+!insertmacro Tekst nietAlles \
+  "Not all files could be written to $INSTDIR." \
+  "Niet alle bestanden konden naar $INSTDIR worden geschreven." \
+  "Nicht alle Dateien konnten nach $INSTDIR geschrieben werden." \
+  "Tous les fichiers n'ont pas pu être écrits dans $INSTDIR." \
+  "Non è stato possibile scrivere tutti i file in $INSTDIR." \
+  "No se pudieron escribir todos los archivos en $INSTDIR."
+!insertmacro Tekst un.nietAlles \
+  "Not all files in $INSTDIR could be deleted. Close the programs that use them, and try again." \
+  "Niet alle bestanden in $INSTDIR konden worden verwijderd. Sluit de programma's die ze gebruiken en probeer opnieuw." \
+  "Nicht alle Dateien in $INSTDIR konnten gelöscht werden. Beenden Sie die Programme, die sie benutzen, und versuchen Sie es erneut." \
+  "Tous les fichiers de $INSTDIR n'ont pas pu être supprimés. Fermez les programmes qui les utilisent et réessayez." \
+  "Non è stato possibile eliminare tutti i file in $INSTDIR. Chiudere i programmi che li usano e riprovare." \
+  "No se pudieron eliminar todos los archivos de $INSTDIR. Cierre los programas que los usan e inténtelo de nuevo."
 !insertmacro Tekst naamInstellingen \
   "Settings" "Instellingen" "Einstellungen" "Paramètres" "Impostazioni" "Configuración"
 !insertmacro Tekst un.uitlegInstellingen \

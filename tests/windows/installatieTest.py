@@ -1,7 +1,9 @@
 """Test of the installer for Windows, under Wine: what it places and takes away, on the disk, in the registry and
 in the start menu.
 
-    installatieTest.py stil|bladzijden CMAKE BUILD
+    installatieTest.py stil|bladzijden|gebreken CMAKE BUILD HOLDER
+
+HOLDER keeps a file open (houVast.cpp).
 
 Ends with status 77 where Wine or makensis is missing. Run inside `tests/steun/scherm`: windows open.
 """
@@ -25,8 +27,9 @@ from schermwerk import toets, wacht
 from teksten import TITEL
 from wijn import Wijn, sla_over_zonder
 
-# What the installer ends with where a program runs.
-LOOPT = 3
+# What installer and uninstaller end with where something failed, and where a program runs.
+MISLUKT, LOOPT = 2, 3
+UIT = "uninstall-kestrolin.exe"
 SLEUTEL = r"Software\Microsoft\Windows\CurrentVersion\Uninstall\Kestrolin"
 ONGEBRUIKT = "share/kestrolin/only-in-the-old-one/note.txt"
 # The folder for programs of one user is Windows' own, and so is the uninstaller's copy of itself in the folder
@@ -39,6 +42,7 @@ class Installatie:
 
     def __init__(self, werk: Path, cmake: str, bouw: Path, taal: str) -> None:
         self.wijn = Wijn(werk / "windows", taal)
+        self.hou_vast = Path()
         self._werk, self._cmake, self._bouw = werk, cmake, bouw
         naam = f"Kestrolin-{VERSIE}"
         self.boom = bouw / "pakket" / naam
@@ -82,9 +86,9 @@ class Installatie:
 
     def keur_inhoud(self, map_: Path) -> None:
         """All files of the tree and the uninstaller, byte for byte, and nothing else."""
-        gelijk(bestanden(map_), bestanden(self.boom) | {"uninstall.exe"}, "files installed")
+        gelijk(bestanden(map_), bestanden(self.boom) | {UIT}, "files installed")
         for naam in bestanden(self.boom):
-            gelijk((map_ / naam).read_bytes(), (self.boom / naam).read_bytes(), naam)
+            assert (map_ / naam).read_bytes() == (self.boom / naam).read_bytes(), f"{naam} is another"
 
     def keur_schoon(self, *over: Path) -> None:
         """Nothing is left but these files."""
@@ -104,8 +108,8 @@ def keur_register(i: Installatie) -> None:
     gelijk(gevonden, {
         "DisplayName": "Kestrolin", "DisplayVersion": VERSIE, "DisplayIcon": rf"{map_}\bin\Kestrolin.exe",
         "Publisher": "The Kestrolin team", "URLInfoAbout": "https://kestrolin.example",
-        "InstallLocation": map_, "UninstallString": rf'"{map_}\uninstall.exe"',
-        "QuietUninstallString": rf'"{map_}\uninstall.exe" /S', "NoModify": "1", "NoRepair": "1",
+        "InstallLocation": map_, "UninstallString": rf'"{map_}\{UIT}"',
+        "QuietUninstallString": rf'"{map_}\{UIT}" /S', "NoModify": "1", "NoRepair": "1",
     }, "what Windows is told")
 
 
@@ -134,7 +138,7 @@ def keur_start(i: Installatie) -> None:
     with i.wijn.start(i.map / "bin/Kestrolin.exe") as venster:
         wacht(staat, f'a window named "{TITEL}"')
         i.installeer(status=LOOPT)
-        i.wijn.doe(i.map / "uninstall.exe", "/S", f"_?={i.wijn.windows_pad(i.map)}", status=LOOPT)
+        i.wijn.doe(i.map / UIT, "/S", f"_?={i.wijn.windows_pad(i.map)}", status=LOOPT)
         i.keur_inhoud(i.map)
         toets("alt+F4")
         gelijk(venster.wait(), 0, "status of the window")
@@ -200,19 +204,82 @@ def keur_bladzijden(i: Installatie) -> None:
         time.sleep(1)
     i.wijn.rust()
     assert "PathEntry" not in i.wijn.lees(SLEUTEL), "the search path was not asked for"
-    blader(i, i.map / "uninstall.exe", "Kestrolin-deïnstallatie")
+    blader(i, i.map / UIT, "Kestrolin-deïnstallatie")
     i.wijn.rust()
     i.keur_schoon(i.instellingen)
 
 
-GEVALLEN = {"stil": keur_stil, "bladzijden": keur_bladzijden}
-TALEN = {"stil": "C.UTF-8", "bladzijden": "nl_NL.UTF-8"}
+def keur_andermans_bestanden(i: Installatie) -> None:
+    """A folder with an uninstaller of another program is as it was afterwards; one with its library is not taken."""
+    elders = i.wijn.schijf / "Tools"
+    ander, dll = elders / "uninstall.exe", elders / "bin/libsndfile.dll"
+    dll.parent.mkdir(parents=True)
+    ander.write_text("of another program\n")
+    i.installeer(doel=elders)
+    i.verwijder()
+    gelijk(bestanden(elders), {ander.name}, "what is left of the folder")
+    dll.parent.mkdir()
+    dll.write_text("of another program\n")
+    i.installeer(doel=elders, status=MISLUKT)
+    i.wijn.rust()
+    i.keur_schoon(elders, ander, dll.parent, dll)
+    gelijk(dll.read_text(), "of another program\n", "the library")
+    # No folder can be made in a file.
+    i.installeer(doel=ander / "Kestrolin", status=MISLUKT)
+    i.wijn.rust()
+    i.keur_schoon(elders, ander, dll.parent, dll)
+    shutil.rmtree(elders)
 
 
-def main(geval: str, cmake: str, bouw: str) -> None:
+def keur_halve(i: Installatie) -> None:
+    """An installation that cannot write everything says so, and can be taken away."""
+    in_de_weg = i.map / "share"
+    in_de_weg.parent.mkdir(parents=True)
+    in_de_weg.write_text("in the way\n")
+    i.installeer(status=MISLUKT)
+    i.wijn.rust()
+    gelijk(i.wijn.lees(SLEUTEL)["DisplayVersion"], VERSIE, "what Windows is told")
+    i.verwijder()
+    gelijk(bestanden(i.map), {in_de_weg.name}, "what is left of the folder")
+    shutil.rmtree(i.map)
+    i.keur_schoon()
+
+
+def keur_vastgehouden(i: Installatie) -> None:
+    """While another program has a file open, the uninstaller says that it failed, and can be run again."""
+    i.installeer("/PATH")
+    for naam, status in (("share/doc/kestrolin/html/manual.html", MISLUKT), ("bin/libsndfile.dll", LOOPT)):
+        with i.wijn.start(i.hou_vast, i.map / naam, invoer=subprocess.PIPE) as houder:
+            assert houder.stdout and houder.stdout.readline().strip() == b"open", f"{naam} is not held"
+            i.wijn.doe(i.map / UIT, "/S", f"_?={i.wijn.windows_pad(i.map)}", status=status)
+            houder.communicate()
+        i.wijn.rust()
+        assert (i.map / UIT).is_file(), "there is nothing to remove the rest with"
+        i.installeer()
+        i.keur_inhoud(i.map)
+    # That is no program that runs.
+    (i.map / "bin/Kestrolin.exe").chmod(0o444)
+    i.installeer()
+    i.keur_inhoud(i.map)
+    i.verwijder()
+    i.keur_schoon()
+
+
+def keur_gebreken(i: Installatie) -> None:
+    keur_andermans_bestanden(i)
+    keur_halve(i)
+    keur_vastgehouden(i)
+
+
+GEVALLEN = {"gebreken": keur_gebreken, "stil": keur_stil, "bladzijden": keur_bladzijden}
+TALEN = {"gebreken": "C.UTF-8", "stil": "C.UTF-8", "bladzijden": "nl_NL.UTF-8"}
+
+
+def main(geval: str, cmake: str, bouw: str, hou_vast: str) -> None:
     sla_over_zonder("wine", "makensis")
     with tempfile.TemporaryDirectory() as werk:
         i = Installatie(Path(werk), cmake, Path(bouw).resolve(), TALEN[geval])
+        i.hou_vast = Path(hou_vast)
         try:
             GEVALLEN[geval](i)
         finally:

@@ -62,9 +62,9 @@ class Wijn:
     def windows_pad(self, pad: Path) -> str:
         return "C:\\" + str(pad.relative_to(self.schijf)).replace("/", "\\")
 
-    def start(self, *woorden: str | Path, **omgeving: str) -> subprocess.Popen[bytes]:
-        return subprocess.Popen(["wine", *map(str, woorden)], env={**self._omgeving, **omgeving},
-                                stdin=subprocess.DEVNULL, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+    def start(self, *woorden: str | Path, invoer: int = subprocess.DEVNULL) -> subprocess.Popen[bytes]:
+        return subprocess.Popen(["wine", *map(str, woorden)], env=self._omgeving, stdin=invoer,
+                                stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
 
     def doe(self, *woorden: str | Path, status: Optional[int] = 0) -> str:
         """What a program says; it ends with this status, or, for None, with any."""
@@ -80,8 +80,7 @@ class Wijn:
     @contextmanager
     def open_(self) -> Iterator[None]:
         """This Windows stays started meanwhile, for what runs many programs one after the other."""
-        with subprocess.Popen(["wine", "cmd"], env=self._omgeving, stdin=subprocess.PIPE, stdout=subprocess.DEVNULL,
-                              stderr=subprocess.DEVNULL) as wacht:
+        with self.start("cmd", invoer=subprocess.PIPE) as wacht:
             yield
             wacht.communicate(b"exit\r\n")
 

@@ -63,8 +63,8 @@ class Zoekpad:
 
     def verwijder(self) -> None:
         """In its own place, so that it can be waited for: it stays there then, as its last piece."""
-        self.wijn.doe(rf"{self.map}\uninstall.exe", "/S", f"_?={self.map}")
-        self.wijn.pad(rf"{self.map}\uninstall.exe").unlink()
+        self.wijn.doe(rf"{self.map}\uninstall-kestrolin.exe", "/S", f"_?={self.map}")
+        self.wijn.pad(rf"{self.map}\uninstall-kestrolin.exe").unlink()
 
 
 def keur_geval(pad: Zoekpad, soort: str | None, waarde: str | None) -> None:

@@ -1,0 +1,21 @@
+// Keeps a file open, so that nobody else deletes or writes it, until its standard input ends.
+//
+//   houVast FILE
+#include <windows.h>
+
+#include <cstdio>
+
+int wmain(int aantal, wchar_t** woorden) {
+  HANDLE const bestand = aantal == 2 ? CreateFileW(woorden[1], GENERIC_READ, FILE_SHARE_READ,
+                                                   nullptr, OPEN_EXISTING, 0, nullptr)
+                                     : INVALID_HANDLE_VALUE;
+  if (bestand == INVALID_HANDLE_VALUE) {
+    return 1;
+  }
+  std::puts("open");
+  std::fflush(stdout);
+  while (std::getchar() != EOF) {
+  }
+  CloseHandle(bestand);
+  return 0;
+}
