@@ -6,8 +6,7 @@
 #include <wx/log.h>
 #include <wx/stattext.h>
 
-// The time is the last of the dialog's labels. Where the dialog is the system's own it has none,
-// and a clock of its own.
+// The time is the last of the dialog's labels.
 void VoortgangVenster::toonTijd() {
   wxWindowList const& vensters = GetChildren();
   wxStaticText* tijd = nullptr;

@@ -11,10 +11,11 @@
 
 class wxCheckBox;
 
-// The toolkit's dialog, with a clock that can go on while the value stays.
-class VoortgangVenster : public wxProgressDialog {
+// The toolkit's own dialog, with a clock that can go on while the value stays. That of Windows runs
+// in a thread of its own, and at its end can wait for ever for a message that does not come.
+class VoortgangVenster : public wxGenericProgressDialog {
  public:
-  using wxProgressDialog::wxProgressDialog;
+  using wxGenericProgressDialog::wxGenericProgressDialog;
 
   void toonTijd();
 };
