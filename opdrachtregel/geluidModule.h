@@ -28,5 +28,6 @@ class GeluidModule {
   explicit GeluidModule(std::string const& pad);
 
   std::unique_ptr<wxDynamicLibrary> module;
-  GeluidFunctie functie;
+  // Null where the system plays by itself.
+  [[maybe_unused]] GeluidFunctie functie = nullptr;
 };

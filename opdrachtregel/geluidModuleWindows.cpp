@@ -8,7 +8,7 @@
 #include "opdrachtregel/melding.h"
 
 // Windows plays by itself: no module is loaded.
-GeluidModule::GeluidModule(std::string const& /*pad*/) : functie(nullptr) {}
+GeluidModule::GeluidModule(std::string const& /*pad*/) {}
 
 std::optional<GeluidModule> GeluidModule::laad() {
   return GeluidModule(std::string());
