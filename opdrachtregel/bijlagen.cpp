@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <system_error>
 
 #include "audio/codec/uitvoerTaal.h"
+#include "opdrachtregel/paden.h"
 
 namespace fs = std::filesystem;
 
@@ -105,12 +105,10 @@ std::string bronTekst(std::string const& declaraties, std::string const& tekst,
 }
 
 std::string insluitPad(std::string const& doel, std::string const& bron) {
-  std::error_code fout;
-  fs::path const map = fs::absolute(fs::u8path(bron), fout).lexically_normal().parent_path();
-  fs::path const geheel = fs::absolute(fs::u8path(doel), fout).lexically_normal();
-  fs::path const deel = geheel.lexically_relative(map);
+  fs::path const geheel = volledigPad(doel);
+  fs::path const deel = geheel.lexically_relative(volledigPad(bron).parent_path());
   // From one drive to another there is no other way.
-  return (deel.empty() ? geheel : deel).generic_u8string();
+  return metSchuineStrepen((deel.empty() ? geheel : deel).u8string());
 }
 
 std::string afhankelijkheidTekst(std::string const& doel, std::vector<std::string> const& bronnen) {

@@ -5,6 +5,7 @@
 
 #include "opdrachtregel/bestandBytes.h"
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/paden.h"
 #include "opdrachtregel/systeem.h"
 
 Doel::Doel(std::string const& gegeven) : naam(gegeven), pad(gegeven) {}

@@ -7,6 +7,7 @@
 #include <system_error>
 
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/paden.h"
 #include "opdrachtregel/signalen.h"
 #include "opdrachtregel/systeem.h"
 

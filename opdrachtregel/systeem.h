@@ -23,7 +23,8 @@ bool kanRegelVerversen();
 int openLezend(std::string const& pad);
 int openSchrijvend(std::string const& pad);
 int openKanaal(int kanaal);
-// A new, empty file in the folder, for this user alone; `pad` becomes its name.
+// A new, empty file in the folder, for this user alone or, on Windows, for those of the folder;
+// `pad` becomes its name.
 int openNieuw(std::string const& map, std::string& pad);
 
 // How many bytes went, 0 at the end. Negative where that fails.
@@ -38,11 +39,6 @@ bool sluitBestand(int handvat);
 enum class Plaats { leeg, bestand, map, toestel, onbekend };
 // Unknown where the system does not tell.
 Plaats watStaatOp(std::string const& pad);
-// Where a file of this name will be: the end of a chain of links, also where nothing is there yet.
-std::string achterLinks(std::string const& naam);
-// The same for two names of one place in a folder that is there.
-std::filesystem::path plaatsVan(std::string const& map, std::string const& pad);
-
 // What changes when a file does.
 struct BestandStaat {
   std::uintmax_t bytes = 0;
@@ -53,7 +49,7 @@ BestandStaat leesStaat(std::string const& pad);
 bool magLezen(std::string const& pad);
 bool magSchrijven(std::string const& pad);
 // Gives the open, new file the rights of the one at `pad`, or those of any new file where there is
-// none.
+// none. On Windows it keeps those of its folder.
 bool neemRechtenOver(int handvat, std::string const& pad, bool isEr);
 
 bool maakMap(std::string const& pad);

@@ -106,22 +106,6 @@ Plaats watStaatOp(std::string const& pad) {
   return Plaats::leeg;
 }
 
-std::string achterLinks(std::string const& naam) {
-  constexpr int meesteLinks = 40;
-  fs::path pad = naam;
-  std::error_code fout;
-  for (int i = 0; i < meesteLinks && fs::is_symlink(fs::symlink_status(pad, fout)); ++i) {
-    fs::path const doel = fs::read_symlink(pad, fout);
-    pad = doel.is_absolute() ? doel : pad.parent_path() / doel;
-  }
-  return pad.string();
-}
-
-fs::path plaatsVan(std::string const& map, std::string const& pad) {
-  std::error_code fout;
-  return fs::canonical(map, fout) / fs::path(pad).filename();
-}
-
 BestandStaat leesStaat(std::string const& pad) {
   std::error_code fout;
   return {fs::file_size(pad, fout), fs::last_write_time(pad, fout)};

@@ -12,77 +12,13 @@
 #include <string_view>
 #include <utility>
 
+#include "opdrachtregel/handvatWindows.h"
 #include "opdrachtregel/systeem.h"
-#include "opdrachtregel/windowsTerminal.h"
+#include "opdrachtregel/terminalWindows.h"
 
 namespace fs = std::filesystem;
 
 namespace {
-
-std::wstring breed(std::string const& tekst) {
-  return fs::u8path(tekst).wstring();
-}
-
-// The errno of what the system called an error by this number.
-int errnoVan(DWORD fout) {
-  switch (fout) {
-    case ERROR_FILE_NOT_FOUND:
-    case ERROR_PATH_NOT_FOUND:
-    case ERROR_INVALID_DRIVE:
-    case ERROR_INVALID_NAME:
-    case ERROR_BAD_PATHNAME:
-    case ERROR_BAD_NETPATH:
-    case ERROR_BAD_NET_NAME:
-      return ENOENT;
-    case ERROR_ACCESS_DENIED:
-    case ERROR_SHARING_VIOLATION:
-    case ERROR_LOCK_VIOLATION:
-    case ERROR_CURRENT_DIRECTORY:
-    case ERROR_WRITE_PROTECT:
-      return EACCES;
-    case ERROR_FILE_EXISTS:
-    case ERROR_ALREADY_EXISTS:
-      return EEXIST;
-    case ERROR_DIRECTORY:
-      return ENOTDIR;
-    case ERROR_DISK_FULL:
-    case ERROR_HANDLE_DISK_FULL:
-      return ENOSPC;
-    case ERROR_FILENAME_EXCED_RANGE:
-      return ENAMETOOLONG;
-    case ERROR_NOT_ENOUGH_MEMORY:
-    case ERROR_OUTOFMEMORY:
-      return ENOMEM;
-    case ERROR_TOO_MANY_OPEN_FILES:
-      return EMFILE;
-    default:
-      return EIO;
-  }
-}
-
-// Whether the call did what it was to do; where not, errno tells why.
-bool isGelukt(BOOL uitslag) {
-  if (uitslag == 0) {
-    errno = errnoVan(GetLastError());
-  }
-  return uitslag != 0;
-}
-
-struct Sluiter {
-  void operator()(void* handvat) const { CloseHandle(handvat); }
-};
-using Open = std::unique_ptr<void, Sluiter>;
-
-// Null, with errno, where that fails. Others may do with the file what they like meanwhile.
-Open open(std::wstring const& pad, DWORD toegang, DWORD wijze = OPEN_EXISTING, DWORD soort = 0) {
-  void* const handvat =
-      CreateFileW(pad.c_str(), toegang, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
-                  nullptr, wijze, soort, nullptr);
-  if (!isGelukt(handvat == INVALID_HANDLE_VALUE ? FALSE : TRUE)) {
-    return nullptr;
-  }
-  return Open(handvat);
-}
 
 // As a number of the C library, which owns it then.
 int alsNummer(Open handvat, int wijze) {
@@ -94,16 +30,6 @@ int alsNummer(Open handvat, int wijze) {
     static_cast<void>(handvat.release());
   }
   return nummer;
-}
-
-// The path that the system itself would give, without links. Empty where nothing is there.
-std::wstring eindPad(std::wstring const& pad) {
-  Open const er = open(pad, 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
-  std::wstring uit(er ? GetFinalPathNameByHandleW(er.get(), nullptr, 0, 0) : 0, L'\0');
-  if (!uit.empty()) {
-    uit.resize(GetFinalPathNameByHandleW(er.get(), uit.data(), static_cast<DWORD>(uit.size()), 0));
-  }
-  return uit;
 }
 
 }  // namespace
@@ -127,11 +53,11 @@ bool kanRegelVerversen() {
 }
 
 int openLezend(std::string const& pad) {
-  return alsNummer(open(breed(pad), GENERIC_READ), _O_RDONLY | _O_BINARY);
+  return alsNummer(openHandvat(breed(pad), GENERIC_READ), _O_RDONLY | _O_BINARY);
 }
 
 int openSchrijvend(std::string const& pad) {
-  return alsNummer(open(breed(pad), GENERIC_WRITE), _O_WRONLY | _O_BINARY);
+  return alsNummer(openHandvat(breed(pad), GENERIC_WRITE), _O_WRONLY | _O_BINARY);
 }
 
 int openKanaal(int kanaal) {
@@ -149,7 +75,8 @@ int openNieuw(std::string const& map, std::string& pad) {
     std::generate_n(std::back_inserter(naam), langste,
                     [&] { return tekens[toeval() % tekens.size()]; });
     pad = (fs::u8path(map) / naam).u8string();
-    nummer = alsNummer(open(breed(pad), GENERIC_READ | GENERIC_WRITE, CREATE_NEW), _O_BINARY);
+    nummer =
+        alsNummer(openHandvat(breed(pad), GENERIC_READ | GENERIC_WRITE, CREATE_NEW), _O_BINARY);
   } while (nummer < 0 && errno == EEXIST);
   return nummer;
 }
@@ -161,7 +88,7 @@ std::ptrdiff_t leesDeel(int handvat, char* doel, std::size_t bytes) {
 
 std::ptrdiff_t schrijfDeel(int handvat, char const* begin, std::size_t bytes) {
   // A terminal takes no more at once than some systems have of memory for it.
-  constexpr std::size_t meest = 1U << 15U;
+  constexpr std::size_t meest = 1U << 13U;
   std::size_t const deel = std::min(bytes, meest);
   return isTerminal(handvat) ? schrijfNaarTerminal(handvat, begin, deel)
                              : _write(handvat, begin, static_cast<unsigned int>(deel));
@@ -172,7 +99,8 @@ bool gaNaarBegin(int handvat) {
 }
 
 bool legBestandVast(int handvat) {
-  return _commit(handvat) == 0;
+  return isGelukt(FlushFileBuffers(handvatVan(handvat))) ||
+         GetLastError() == ERROR_INVALID_FUNCTION || GetLastError() == ERROR_NOT_SUPPORTED;
 }
 
 bool sluitBestand(int handvat) {
@@ -180,34 +108,19 @@ bool sluitBestand(int handvat) {
 }
 
 Plaats watStaatOp(std::string const& pad) {
-  Open const er = open(breed(pad), 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
+  Open const er = openHandvat(breed(pad), 0, OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS);
   if (!er) {
     return errno == ENOENT ? Plaats::leeg : Plaats::onbekend;
   }
-  BY_HANDLE_FILE_INFORMATION gegevens{};
-  if (GetFileType(er.get()) != FILE_TYPE_DISK ||
-      GetFileInformationByHandle(er.get(), &gegevens) == 0) {
+  if (GetFileType(er.get()) != FILE_TYPE_DISK) {
     return Plaats::toestel;
+  }
+  BY_HANDLE_FILE_INFORMATION gegevens{};
+  if (!isGelukt(GetFileInformationByHandle(er.get(), &gegevens))) {
+    return Plaats::onbekend;
   }
   bool const isMap = (gegevens.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
   return isMap ? Plaats::map : Plaats::bestand;
-}
-
-std::string achterLinks(std::string const& naam) {
-  std::wstring const pad = breed(naam);
-  DWORD const aard = GetFileAttributesW(pad.c_str());
-  bool const isLink = aard != INVALID_FILE_ATTRIBUTES && (aard & FILE_ATTRIBUTE_REPARSE_POINT) != 0;
-  std::wstring const einde = isLink ? eindPad(pad) : std::wstring();
-  return einde.empty() ? naam : fs::path(einde).u8string();
-}
-
-fs::path plaatsVan(std::string const& map, std::string const& pad) {
-  std::wstring plaats = (fs::path(eindPad(breed(map))) / fs::u8path(pad).filename()).wstring();
-  // What is called alike but for its capitals is the same file.
-  LCMapStringEx(LOCALE_NAME_INVARIANT, LCMAP_UPPERCASE, plaats.c_str(),
-                static_cast<int>(plaats.size()), plaats.data(), static_cast<int>(plaats.size()),
-                nullptr, nullptr, 0);
-  return plaats;
 }
 
 BestandStaat leesStaat(std::string const& pad) {
@@ -225,7 +138,7 @@ BestandStaat leesStaat(std::string const& pad) {
 }
 
 bool magLezen(std::string const& pad) {
-  return open(breed(pad), GENERIC_READ) != nullptr;
+  return openHandvat(breed(pad), GENERIC_READ) != nullptr;
 }
 
 bool magSchrijven(std::string const& pad) {
@@ -235,7 +148,7 @@ bool magSchrijven(std::string const& pad) {
     errno = EACCES;
     return false;
   }
-  return open(breed(pad), GENERIC_WRITE | DELETE) != nullptr;
+  return openHandvat(breed(pad), GENERIC_WRITE | DELETE) != nullptr;
 }
 
 bool neemRechtenOver(int /*handvat*/, std::string const& /*pad*/, bool /*isEr*/) {
@@ -256,8 +169,19 @@ bool verwijderBestand(std::string const& pad) {
 }
 
 bool hernoemBestand(std::string const& pad, std::string const& doel) {
-  return isGelukt(MoveFileExW(breed(pad).c_str(), breed(doel).c_str(),
-                              MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+  // A scanner of viruses, an indexer or an editor may have the old file open for a moment.
+  constexpr int pogingen = 50;
+  constexpr DWORD pauze = 20;  // ms
+  auto const probeer = [van = breed(pad), naar = breed(doel)] {
+    return isGelukt(
+        MoveFileExW(van.c_str(), naar.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH));
+  };
+  bool isHernoemd = probeer();
+  for (int i = 1; i < pogingen && !isHernoemd && errno == EACCES; ++i) {
+    Sleep(pauze);
+    isHernoemd = probeer();
+  }
+  return isHernoemd;
 }
 
 int bewaarOnder(std::string const& pad, std::string const& nieuw) {

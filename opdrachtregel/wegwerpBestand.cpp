@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "opdrachtregel/melding.h"
+#include "opdrachtregel/paden.h"
 #include "opdrachtregel/signalen.h"
 #include "opdrachtregel/systeem.h"
 
@@ -36,20 +37,14 @@ bool vergeet(WegwerpKnoop const& knoop) {
   return gevonden;
 }
 
-// Another machine of the network, which is no folder: on Windows a path may begin with one.
-bool isMachine(fs::path const& pad) {
-  return pad.has_root_name() && pad == pad.root_path() && !pad.root_name().u8string().empty() &&
-         pad.root_name().u8string().back() != ':';
-}
-
 }  // namespace
 
 bool ruimNuOp() {
   bool isAllesWeg = true;
   for (WegwerpKnoop const* een = eerste; een != nullptr; een = een->volgende) {
     // A folder was noted before what lies in it, so that it comes behind that.
-    isAllesWeg =
-        (verwijderBestand(een->pad) || verwijderMap(een->pad) || errno != EACCES) && isAllesWeg;
+    bool const isWeg = een->isMap ? verwijderMap(een->pad) : verwijderBestand(een->pad);
+    isAllesWeg = (isWeg || errno != EACCES) && isAllesWeg;
   }
   return isAllesWeg;
 }
@@ -94,10 +89,11 @@ bool WegwerpBestand::hernoem(std::string const& doel) {
 // What is made before an exception goes too: the other constructor has ended by then.
 WegwerpMap::WegwerpMap(std::string const& pad) : WegwerpMap() {
   SignaalPauze const pauze;
-  fs::path tot;
-  for (fs::path const& deel : fs::u8path(pad)) {
+  std::size_t const begin = lengteVanBegin(pad);
+  fs::path tot = fs::u8path(pad.substr(0, begin));
+  for (fs::path const& deel : fs::u8path(pad.substr(begin))) {
     tot /= deel;
-    if (!isMachine(tot) && !maak(tot.u8string())) {
+    if (!maak(tot.u8string())) {
       return;
     }
   }
@@ -107,6 +103,7 @@ WegwerpMap::WegwerpMap(std::string const& pad) : WegwerpMap() {
 bool WegwerpMap::maak(std::string const& pad) {
   auto& knoop = gemaakt.emplace_back(std::make_unique<WegwerpKnoop>());
   knoop->pad = pad;
+  knoop->isMap = true;
   if (maakMap(pad)) {
     noteer(*knoop);
     return true;

@@ -8,6 +8,7 @@
 // One of the files and folders that a signal removes.
 struct WegwerpKnoop {
   std::string pad;
+  bool isMap = false;
   WegwerpKnoop* volgende = nullptr;
 };
 

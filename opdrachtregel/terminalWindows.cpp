@@ -1,6 +1,5 @@
-#include "opdrachtregel/windowsTerminal.h"
+#include "opdrachtregel/terminalWindows.h"
 
-#include <io.h>
 #include <windows.h>
 
 #include <cerrno>
@@ -9,13 +8,10 @@
 #include <string>
 
 #include "opdrachtregel/bestandBytes.h"
+#include "opdrachtregel/handvatWindows.h"
 #include "opdrachtregel/systeem.h"
 
 namespace {
-
-void* handvatVan(int kanaal) {
-  return reinterpret_cast<void*>(_get_osfhandle(kanaal));
-}
 
 // How many of these bytes of UTF-8 are whole characters. All of them, where the last one cannot
 // become one.
