@@ -32,7 +32,8 @@ function(_voeg_speex_toe naam map zonder)
   # The warnings of others' code are their own affair.
   target_compile_options(${naam}Bron PRIVATE -w -O2 -ffp-contract=off)
   target_link_libraries(${naam}Bron PUBLIC m)
-  set_target_properties(${naam}Bron PROPERTIES C_EXTENSIONS ON POSITION_INDEPENDENT_CODE ON)
+  set_target_properties(${naam}Bron PROPERTIES C_EXTENSIONS ON)
+  bewaak(${naam}Bron)
   add_library(PkgConfig::${naam} ALIAS ${naam}Bron)
 endfunction()
 
