@@ -1,5 +1,6 @@
-"""Texts are the same on Windows and on Linux, but for the name of the system, and of the place of its settings: those of a table of runs of
-kestrolin-cli, with what it says and its status, and those of fragmentTeksten.
+"""Texts are the same on Windows and on Linux, but for the name of the system, and of the place of its
+settings: those of a table of runs of kestrolin-cli, with what it says and its status, and those of
+fragmentTeksten.
 
     tekstenTest.py BUILD_OF_WINDOWS BUILD_OF_LINUX
 
@@ -73,13 +74,12 @@ ANDERE: list[list[str]] = [
 ]
 
 
-
-
 class Bouw:
     """The programs of one system."""
 
-    def __init__(self, map_: str, isWindows: bool) -> None:
-        self.bin, self.voor, self.einde = Path(map_).resolve() / "bin", [str(WIJN)] if isWindows else [], ".exe" if isWindows else ""
+    def __init__(self, map_: str, is_windows: bool) -> None:
+        self.bin = Path(map_).resolve() / "bin"
+        self.voor, self.einde = ([str(WIJN)], ".exe") if is_windows else ([], "")
 
     def programma(self, naam: str) -> list[str]:
         return [*self.voor, str(self.bin / (naam + self.einde))]
@@ -142,8 +142,10 @@ def keur_rij(nummer: int, woorden: list[str], windows: Bouw, linux: Bouw, map_: 
         invoer = oud.bestanden["oud.c"] if "-" in woorden else b""
         einden.append(draai(bouw.programma("kestrolin-cli"), woorden, hier, invoer))
     gebrek = verschil(*einden)
-    if not gebrek and woorden in GEMAAKT and not (einden[0].status == 0 and SYSTEMEN[0] in einden[0].bestanden["uit/tekst.c"]):
-        gebrek = f"no text of Windows was made: {einden[0].fout!r}"
+    if not gebrek and woorden in GEMAAKT:
+        van_windows = einden[0]
+        if van_windows.status or SYSTEMEN[0] not in van_windows.bestanden["uit/tekst.c"]:
+            gebrek = f"no text of Windows was made: {van_windows.fout!r}"
     return f"{' '.join(woorden)}: {gebrek}" if gebrek else ""
 
 
