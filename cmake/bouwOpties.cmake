@@ -71,6 +71,13 @@ function(bewaak doel)
   endif()
 endfunction()
 
+# What each system does in its own way stands in a file of its own: NAME${systeem} in a list of sources.
+if(WIN32)
+  set(systeem Windows.cpp)
+else()
+  set(systeem Posix.cpp)
+endif()
+
 # voeg_kamer_toe(naam bron...): one folder's static library, built with the shared options.
 function(voeg_kamer_toe naam)
   add_library(${naam} STATIC ${ARGN})
