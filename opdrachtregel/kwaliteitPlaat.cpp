@@ -8,6 +8,7 @@
 #include "audio/weergave/tekstLezer.h"
 #include "opdrachtregel/labelVakken.h"
 #include "opdrachtregel/svg.h"
+#include "opdrachtregel/utf8.h"
 #include "opdrachtregel/vergelijkTekst.h"
 
 namespace {
@@ -182,15 +183,15 @@ std::string labels(std::vector<std::vector<Punt>> const& perReeks) {
 }
 
 // As much of a name as a panel has room for.
-std::string kort(wxString const& naam) {
+std::string kort(std::string const& naam) {
   constexpr std::size_t meeste = 40;
-  return (naam.length() > meeste ? naam.Left(meeste - 1) + L"\u2026" : naam).utf8_string();
+  return aantalTekens(naam) > meeste ? eersteTekens(naam, meeste - 1) + u8"\u2026" : naam;
 }
 
 std::string paneel(Vergelijking const& vergelijking, BytesAs const& as) {
   Opname const& opname = vergelijking.opname;
-  std::string const kop =
-      kort(opname.bestand.GetFullName()) + ", " + std::to_string(opname.info.samplerate) + " Hz";
+  std::string const kop = kort(opname.bestand.GetFullName().utf8_string()) + ", " +
+                          std::to_string(opname.info.samplerate) + " Hz";
   std::string uit = svgTekst({midden.x, linksBoven.y - 16}, kop, inHetMidden) + assen(as);
   std::vector<std::vector<Punt>> perReeks;
   for (Reeksteken const& reeks : reeksen) {

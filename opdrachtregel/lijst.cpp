@@ -8,6 +8,7 @@
 
 #include "opdrachtregel/melding.h"
 #include "opdrachtregel/tekstInvoer.h"
+#include "opdrachtregel/utf8.h"
 
 namespace {
 
@@ -38,15 +39,6 @@ std::string seconden(double duur) {
   return tekst.data();
 }
 
-// How many characters a text has, where it is UTF-8.
-std::size_t breedte(std::string const& tekst) {
-  constexpr unsigned char soort = 0xC0;
-  constexpr unsigned char vervolg = 0x80;
-  return static_cast<std::size_t>(std::count_if(tekst.begin(), tekst.end(), [](char teken) {
-    return (static_cast<unsigned char>(teken) & soort) != vervolg;
-  }));
-}
-
 Kolommen kolommenVan(LijstRij const& rij) {
   TekstArray const& array = rij.array;
   return {opEenRegel(rij.bestand),
@@ -65,7 +57,7 @@ std::string regelVan(Kolommen const& kolommen,
     if (breedten[i] == 0) {
       continue;
     }
-    std::string const wit(breedten[i] - breedte(kolommen[i]), ' ');
+    std::string const wit(breedten[i] - aantalTekens(kolommen[i]), ' ');
     regel +=
         (regel.empty() ? "" : "  ") + (i < aantalNamen ? kolommen[i] + wit : wit + kolommen[i]);
   }
@@ -93,7 +85,7 @@ std::string tabel(std::vector<LijstRij> const& rijen) {
   std::array<std::size_t, aantalKolommen> breedten{};
   for (Kolommen const& regel : regels) {
     for (std::size_t i = isEen ? 1 : 0; i < aantalKolommen; ++i) {
-      breedten[i] = std::max(breedten[i], breedte(regel[i]));
+      breedten[i] = std::max(breedten[i], aantalTekens(regel[i]));
     }
   }
   return std::accumulate(regels.begin(), regels.end(), std::string(),

@@ -168,3 +168,19 @@ TEST(KwaliteitPlaat, ShortensNamesThatHaveNoRoom) {
                  R"re(y="24.0" text-anchor="middle">([^<]*))re"),
             std::vector<std::string>{std::string(39, 'x') + "\xE2\x80\xA6, 8000 Hz"});
 }
+
+// A sign of four bytes is two of a wchar_t on Windows.
+TEST(KwaliteitPlaat, ShortensNamesBetweenCharacters) {
+  std::string const vogel = "\xF0\x9F\x90\xA6";
+  std::string heel;
+  for (int i = 0; i < 40; ++i) {
+    heel += vogel;
+  }
+  std::string const negenendertig = heel.substr(0, 39 * vogel.size());
+  auto const kop = [](std::string const& naam) {
+    return alle(tekenPlaat({vergelijking(naam, {speex(2, 500, 11)})}),
+                R"re(y="24.0" text-anchor="middle">([^<]*))re");
+  };
+  EXPECT_EQ(kop(heel), std::vector<std::string>{heel + ", 8000 Hz"});
+  EXPECT_EQ(kop(heel + "x"), std::vector<std::string>{negenendertig + "\xE2\x80\xA6, 8000 Hz"});
+}
