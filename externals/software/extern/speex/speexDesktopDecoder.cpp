@@ -156,9 +156,11 @@ bool SpeexDesktopDecoder::leesFragment(FrameLezer& tekst, Uitvoer& uit,
     return false;
   }
   ++aantalFragmenten;
-  wxLogMessage(_("Fragment %d: sampling frequency %ld Hz, number of frames %ld"),
-               static_cast<int>(aantalFragmenten), static_cast<long>(frequentie),
-               static_cast<long>(frames));
+  wxString regel = _("Fragment %d: sampling frequency %ld Hz, number of frames %ld");
+  // A long has 32 bits on some systems.
+  regel.Replace("%ld", "%" wxLongLongFmtSpec "d");
+  wxLogMessage(regel, static_cast<int>(aantalFragmenten), static_cast<wxLongLong_t>(frequentie),
+               static_cast<wxLongLong_t>(frames));
   for (unsigned long frame = 0; frame < frames; ++frame) {
     // A count above what two bytes hold comes from an edited text. It goes on while there is text,
     // but would fill the disk with the last block behind it.
