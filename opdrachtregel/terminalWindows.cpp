@@ -65,10 +65,16 @@ class Omleiding {
   Omleiding(std::ostream& eigenStroom, int kanaal)
       : buffer(kanaal),
         stroom(eigenStroom),
-        vorige(isTerminal(kanaal) ? stroom.rdbuf(&buffer) : stroom.rdbuf()) {}
+        terminal(handvatVan(kanaal)),
+        wasTerminal(GetConsoleMode(terminal, &wijze) != 0),
+        vorige(wasTerminal ? stroom.rdbuf(&buffer) : stroom.rdbuf()) {}
   ~Omleiding() {
     stroom.flush();
     stroom.rdbuf(vorige);
+    // The terminal goes on behind this program, with what it obeyed before.
+    if (wasTerminal) {
+      SetConsoleMode(terminal, wijze);
+    }
   }
   Omleiding(Omleiding const&) = delete;
   Omleiding& operator=(Omleiding const&) = delete;
@@ -78,6 +84,9 @@ class Omleiding {
  private:
   TerminalBuffer buffer;
   std::ostream& stroom;
+  HANDLE terminal;
+  DWORD wijze = 0;
+  bool wasTerminal;
   std::streambuf* vorige;
 };
 
