@@ -7,7 +7,6 @@
 #include <wx/translation.h>
 
 #include <filesystem>
-#include <system_error>
 
 #include "externals/desktop/systeem.h"
 
@@ -56,9 +55,7 @@ wxString ConfigBestand::schrijf(wxMemoryOutputStream const& tekst) const {
     return "can't write user configuration file.";
   }
   // In one step: the toolkit's own way removes the old file first.
-  std::error_code fout;
-  std::filesystem::rename(alsPad(nieuw), alsPad(pad), fout);
-  if (fout) {
+  if (!hernoemBestand(alsPad(nieuw), alsPad(pad))) {
     wxRemoveFile(nieuw);
     return "Failed to update user configuration file.";
   }

@@ -3,6 +3,8 @@
 
 #include <wx/platinfo.h>
 
+#include <filesystem>
+
 class wxString;
 
 // What a wxPlatformInfo says. Making one of those starts a shell for each of its questions about a
@@ -14,3 +16,6 @@ void zetTekensoort();
 
 // Gives the file `nieuw` the rights of `oud`, or those of any new file where there is no `oud`.
 void geefRechten(wxString const& nieuw, wxString const& oud);
+
+// Gives a file another name, in place of the file that had that name. False where that fails.
+bool hernoemBestand(std::filesystem::path const& pad, std::filesystem::path const& doel);

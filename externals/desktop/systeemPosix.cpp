@@ -5,6 +5,7 @@
 
 #include <clocale>
 #include <cstring>
+#include <system_error>
 
 #include "externals/desktop/systeem.h"
 
@@ -46,4 +47,10 @@ void geefRechten(wxString const& nieuw, wxString const& oud) {
     rechten = 0666U & ~masker;
   }
   static_cast<void>(chmod(nieuw.fn_str(), rechten));
+}
+
+bool hernoemBestand(std::filesystem::path const& pad, std::filesystem::path const& doel) {
+  std::error_code fout;
+  std::filesystem::rename(pad, doel, fout);
+  return !fout;
 }
