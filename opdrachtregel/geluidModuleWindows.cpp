@@ -15,10 +15,12 @@ std::optional<GeluidModule> GeluidModule::laad() {
 }
 
 bool GeluidModule::speel(DoelGeluid const& geluid) const {
-  wxMemoryOutputStream wav;
-  if (pastInWav(geluid)) {
-    schrijfWav(geluid, wav);
+  if (!pastInWav(geluid)) {
+    meld("nothing can be heard: the sound is longer than a WAV file can hold");
+    return false;
   }
+  wxMemoryOutputStream wav;
+  schrijfWav(geluid, wav);
   auto const* const begin =
       static_cast<wchar_t const*>(wav.GetOutputStreamBuffer()->GetBufferStart());
   bool const isGehoord =

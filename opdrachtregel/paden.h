@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-// The bytes at the begin that name no folder which could be made: on Windows a drive, or a machine
+// The bytes at the start that name no folder which could be made: on Windows a drive, or a machine
 // and its share.
 std::size_t lengteVanBegin(std::string const& pad);
 

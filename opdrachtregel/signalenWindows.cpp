@@ -3,6 +3,7 @@
 #include <mutex>
 
 #include "opdrachtregel/signalen.h"
+#include "opdrachtregel/terminalWindows.h"
 #include "opdrachtregel/wegwerpBestand.h"
 
 namespace {
@@ -22,6 +23,7 @@ BOOL WINAPI ruimOp(DWORD /*signaal*/) {
   for (int i = 0; i < pogingen && !ruimNuOp(); ++i) {
     Sleep(pauze);
   }
+  geefTerminalTerug();
   // As without this function.
   return TerminateProcess(GetCurrentProcess(), STATUS_CONTROL_C_EXIT);
 }

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <atomic>
 #include <cerrno>
 #include <iostream>
 #include <streambuf>
@@ -65,16 +66,11 @@ class Omleiding {
   Omleiding(std::ostream& eigenStroom, int kanaal)
       : buffer(kanaal),
         stroom(eigenStroom),
-        terminal(handvatVan(kanaal)),
-        wasTerminal(GetConsoleMode(terminal, &wijze) != 0),
-        vorige(wasTerminal ? stroom.rdbuf(&buffer) : stroom.rdbuf()) {}
+        vorige(isTerminal(kanaal) ? stroom.rdbuf(&buffer) : stroom.rdbuf()) {}
   ~Omleiding() {
     stroom.flush();
     stroom.rdbuf(vorige);
-    // The terminal goes on behind this program, with what it obeyed before.
-    if (wasTerminal) {
-      SetConsoleMode(terminal, wijze);
-    }
+    geefTerminalTerug();
   }
   Omleiding(Omleiding const&) = delete;
   Omleiding& operator=(Omleiding const&) = delete;
@@ -84,11 +80,19 @@ class Omleiding {
  private:
   TerminalBuffer buffer;
   std::ostream& stroom;
-  HANDLE terminal;
-  DWORD wijze = 0;
-  bool wasTerminal;
   std::streambuf* vorige;
 };
+
+// What a terminal obeyed before it was asked for more. A signal reads this in a thread of its own.
+struct Eerder {
+  std::atomic<HANDLE> terminal = nullptr;
+  std::atomic<DWORD> wijze = 0;
+};
+
+Eerder& eerder() {
+  static Eerder enige;
+  return enige;
+}
 
 }  // namespace
 
@@ -119,6 +123,17 @@ std::ptrdiff_t schrijfNaarTerminal(int kanaal, char const* begin, std::size_t by
 
 bool kanTerminalVegen(int kanaal) {
   DWORD wijze = 0;
-  return GetConsoleMode(handvatVan(kanaal), &wijze) != 0 &&
-         SetConsoleMode(handvatVan(kanaal), wijze | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+  void* const terminal = handvatVan(kanaal);
+  if (GetConsoleMode(terminal, &wijze) == 0) {
+    return false;
+  }
+  eerder().wijze = wijze;
+  eerder().terminal = terminal;
+  return SetConsoleMode(terminal, wijze | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
+}
+
+void geefTerminalTerug() {
+  if (eerder().terminal != nullptr) {
+    SetConsoleMode(eerder().terminal, eerder().wijze);
+  }
 }
