@@ -85,6 +85,17 @@ VIAddVersionKey "LegalCopyright" "The Kestrolin team, MIT licence"
   ${EndIf}
 !macroend
 
+# Sets the flag of errors where a file is there that nobody can delete now.
+!macro KijkOfVrij pad
+  System::Call 'kernel32::CreateFileW(w "${pad}", i 0x10000, i 7, p 0, i 3, i 0, p 0) p .R1 ?e'
+  Pop $R3
+  ${If} $R1 <> -1
+    System::Call 'kernel32::CloseHandle(p R1)'
+  ${ElseIf} $R3 = ${IN_GEBRUIK}
+    SetErrors
+  ${EndIf}
+!macroend
+
 # Takes a folder from the stack, and goes on once no program of it runs.
 !macro FunctieEindeNodig un
 Function ${un}eindeNodig
@@ -233,10 +244,15 @@ Section "un.Kestrolin" OnProgramma
   # Nobody can delete the folder that a process stands in.
   SetOutPath "$TEMP"
 
-  # What else stands in the folder is the user's, and stays. A file that another program has open stays as well, and
-  # then so does all that can take it away later.
+  # What else stands in the folder is the user's, and stays. While another program has one of the files open, all
+  # of them stay: an update that cannot go on leaves the version that was there.
   ClearErrors
-  !insertmacro VERWIJDER_BESTANDEN
+  !insertmacro KIJK_BESTANDEN
+  ${IfNot} ${Errors}
+    !insertmacro VERWIJDER_BESTANDEN
+  ${Else}
+    SetErrors
+  ${EndIf}
   ${If} ${Errors}
     MessageBox MB_OK|MB_ICONSTOP "$(un.nietAlles)" /SD IDOK
     Abort "$(un.nietAlles)"

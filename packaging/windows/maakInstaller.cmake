@@ -15,6 +15,7 @@ endif()
 
 set(_mappen "")
 set(_plaats "")
+set(_kijk "")
 set(_verwijder "")
 set(_ruim "")
 set(_vorige "")
@@ -27,6 +28,7 @@ foreach(_bestand IN LISTS _bestanden)
     set(_vorige "${_map}")
   endif()
   string(APPEND _plaats "  File \"${MAP}/${_bestand}\"\n")
+  string(APPEND _kijk "  !insertmacro KijkOfVrij \"$INSTDIR\\${_doel}\"\n")
   string(APPEND _verwijder "  Delete \"$INSTDIR\\${_doel}\"\n")
   while(_map)
     list(APPEND _mappen "${_map}")
@@ -44,6 +46,7 @@ endforeach()
 
 set(_lijst "${UIT}.nsh")
 file(WRITE "${_lijst}" "!macro PLAATS_BESTANDEN\n${_plaats}!macroend\n"
+                       "!macro KIJK_BESTANDEN\n${_kijk}!macroend\n"
                        "!macro VERWIJDER_BESTANDEN\n${_verwijder}!macroend\n"
                        "!macro VERWIJDER_MAPPEN\n${_ruim}!macroend\n")
 

@@ -246,15 +246,18 @@ def keur_halve(i: Installatie) -> None:
 
 
 def keur_vastgehouden(i: Installatie) -> None:
-    """While another program has a file open, the uninstaller says that it failed, and can be run again."""
+    """While another program has a file open, the uninstaller says that it failed, and leaves all as it was; and so does
+    an update."""
     i.installeer("/PATH")
     for naam, status in (("share/doc/kestrolin/html/manual.html", MISLUKT), ("bin/libsndfile.dll", LOOPT)):
         with i.wijn.start(i.hou_vast, i.map / naam, invoer=subprocess.PIPE) as houder:
             assert houder.stdout and houder.stdout.readline().strip() == b"open", f"{naam} is not held"
             i.wijn.doe(i.map / UIT, "/S", f"_?={i.wijn.windows_pad(i.map)}", status=status)
+            i.keur_inhoud(i.map)
+            i.installeer(status=status)
+            i.keur_inhoud(i.map)
             houder.communicate()
         i.wijn.rust()
-        assert (i.map / UIT).is_file(), "there is nothing to remove the rest with"
         i.installeer()
         i.keur_inhoud(i.map)
     # That is no program that runs.
