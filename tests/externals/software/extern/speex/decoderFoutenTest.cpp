@@ -223,6 +223,9 @@ TEST_F(SpeexDecodeerFouten, AnEndlessCountEndsWhereTheBomRulesTheRestOut) {
   EXPECT_EQ(gevonden.fragmenten, 1U);
   EXPECT_GE(gevonden.samples.size(), geluid.size());
   EXPECT_LE(gevonden.samples.size(), std::size_t{10 + 65535} * 160);
+  ASSERT_FALSE(gevonden.log.empty());
+  EXPECT_EQ(gevonden.log[0].tekst,
+            "Fragment 1: sampling frequency 8000 Hz, number of frames 4294967295");
 }
 
 TEST_F(SpeexDecodeerFouten, ACountAbove65535PlaysAllFramesThatTheTextHas) {
