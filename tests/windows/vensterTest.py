@@ -32,6 +32,10 @@ MENU_OPEN, MENU_TAAL, MENU_OVER = 5000, 22, 5014
 KLASSE, DAC, TEKST = 14, 17, 20
 # No code page holds both of its scripts. The command takes no such name, and gets the other.
 VREEMD, GEWOON = "звук 音", "zvuk"
+# What the catalogs have of a text.
+VERTAALD = ("/* Put these declarations in a header file :*/\n",
+            "\n/* Bytes 0..3: Number of samples (Little Endian)\n    Bytes 4..5: Sampling frequency\n"
+            "    Bytes 6..End:Data  */\n\n")
 
 
 class Proef(NamedTuple):
@@ -250,6 +254,24 @@ def knopteksten(groep: Groep) -> set[str]:
     return {deel.tekst for deel in groep.delen if deel.soort == "Button"}
 
 
+def codeer_vertaald(proef: Proef, p: Programma, wavs: list[Path], ons: Callable[[str], str]) -> None:
+    """The text has the catalog's comments, and is the English one otherwise."""
+    verwacht = van_hier(proef, wavs, "--encoder", "pcm", "--dac", "16")
+    for commentaar in VERTAALD:
+        assert commentaar in verwacht and ons(commentaar) != commentaar, commentaar
+        verwacht = verwacht.replace(commentaar, ons(commentaar))
+    p.knop("PCM")
+    p.knop("C ")
+    p.knop("Encode")
+    p.antwoord("PCM encoding succeeded", "OK")
+    wacht(lambda: p.status() == ons("Audio encoded in PCM embedded format"), "the status")
+    doel = proef.map / "vertaald.c"
+    p.toets("ctrl+s")
+    p.noem_bestand(ons(BEWAREN), str(windows_pad(doel)))
+    wacht(lambda: p.status() == ons("Speex embedded data saved in ") + doel.name, "the status")
+    keur_tekst(doel, verwacht, len(wavs))
+
+
 def taal(proef: Proef) -> None:
     """The next start is Dutch, with the toolkit's own words, and the one after that English."""
     catalogi = proef.programma.parents[1] / "share" / "locale"
@@ -265,6 +287,7 @@ def taal(proef: Proef) -> None:
     with proef.start() as p:
         assert eigen <= knopteksten(p.hoofd()), f"{eigen}: {knopteksten(p.hoofd())}"
         laad(p, wavs, ons("Audio files loaded"), ons(OPENEN))
+        codeer_vertaald(proef, p, wavs, ons)
         kies_taal(p, ons("Kies een taal"), frame("English"), frame("Restart the application"),
                   (hun("&OK").replace("&", ""), "Yes"))
     gelijk(lees_instellingen()["Gebruikersinstellingen"]["Taal"], "175", "Taal")
