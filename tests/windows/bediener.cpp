@@ -14,6 +14,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <cstdio>
 #include <iostream>
@@ -54,9 +55,10 @@ std::string json(std::wstring const& tekst) {
       uit += '\\';
       uit += teken;
     } else if (static_cast<unsigned char>(teken) < ' ') {
-      char code[8];
-      std::snprintf(code, sizeof code, "\\u%04x", static_cast<unsigned>(teken));
-      uit += code;
+      std::array<char, 8> code{};
+      static_cast<void>(
+          std::snprintf(code.data(), code.size(), "\\u%04x", static_cast<unsigned>(teken)));
+      uit += code.data();
     } else {
       uit += teken;
     }
@@ -182,7 +184,7 @@ struct Zoek {
 };
 
 BOOL CALLBACK voegToe(HWND venster, LPARAM gegevens) {
-  auto& zoek = *reinterpret_cast<Zoek*>(gegevens);
+  auto& zoek = *reinterpret_cast<Zoek*>(gegevens);  // NOLINT(performance-no-int-to-ptr)
   DWORD proces = 0;
   GetWindowThreadProcessId(venster, &proces);
   if (proces != zoek.proces || IsWindowVisible(venster) == 0) {
@@ -254,7 +256,7 @@ std::string voerUit(Programma& programma, std::string const& opdracht, std::istr
   }
   std::intptr_t waarde = 0;
   rest >> waarde;
-  auto* const venster = reinterpret_cast<HWND>(waarde);
+  auto* const venster = reinterpret_cast<HWND>(waarde);  // NOLINT(performance-no-int-to-ptr)
   if (opdracht == "tekst") {
     return json(tekstVan(venster));
   }

@@ -6,14 +6,14 @@
 #include <cstdio>
 
 int wmain(int aantal, wchar_t** woorden) {
-  HANDLE const bestand = aantal == 2 ? CreateFileW(woorden[1], GENERIC_READ, FILE_SHARE_READ,
-                                                   nullptr, OPEN_EXISTING, 0, nullptr)
-                                     : INVALID_HANDLE_VALUE;
+  void* const bestand = aantal == 2 ? CreateFileW(woorden[1], GENERIC_READ, FILE_SHARE_READ,
+                                                  nullptr, OPEN_EXISTING, 0, nullptr)
+                                    : INVALID_HANDLE_VALUE;
   if (bestand == INVALID_HANDLE_VALUE) {
     return 1;
   }
-  std::puts("open");
-  std::fflush(stdout);
+  static_cast<void>(std::puts("open"));
+  static_cast<void>(std::fflush(stdout));
   while (std::getchar() != EOF) {
   }
   CloseHandle(bestand);
