@@ -127,8 +127,11 @@ bool kanTerminalVegen(int kanaal) {
   if (GetConsoleMode(terminal, &wijze) == 0) {
     return false;
   }
-  eerder().wijze = wijze;
-  eerder().terminal = terminal;
+  // Asked again, it obeys what was asked of it before.
+  if (eerder().terminal == nullptr) {
+    eerder().wijze = wijze;
+    eerder().terminal = terminal;
+  }
   return SetConsoleMode(terminal, wijze | ENABLE_VIRTUAL_TERMINAL_PROCESSING) != 0;
 }
 

@@ -15,5 +15,6 @@ std::ptrdiff_t schrijfNaarTerminal(int kanaal, char const* begin, std::size_t by
 // Whether it is one that obeys the sequences of ANSI, which this asks of it.
 bool kanTerminalVegen(int kanaal);
 
-// It outlives the program, and obeys from here on what it obeyed before.
+// Gives the terminal the mode that it had before the function above changed it, if that was called:
+// the terminal outlives the program.
 void geefTerminalTerug();
