@@ -164,6 +164,13 @@ class GooiendLog : public wxLog {
   }
 };
 
+void codeerMetGooiendLog(std::string const& pad) {
+  GooiendLog log;
+  wxLog* const vorige = wxLog::SetActiveTarget(&log);
+  EXPECT_THROW(codeer(Instelling(), pad), std::runtime_error);
+  wxLog::SetActiveTarget(vorige);
+}
+
 TEST_F(EncoderFouten, FileIsClosedOnEveryWayOut) {
   std::string const goed = wav("toon.wav", golf(400));
   std::string const hoog = wav("high.wav", golf(400), 16000);
@@ -172,7 +179,15 @@ TEST_F(EncoderFouten, FileIsClosedOnEveryWayOut) {
   EXPECT_EQ(openBestanden(), voor);
 }
 
-// Windows removes no file that is open; a count of open files there is that of Wine's own as well.
+TEST_F(EncoderFouten, FileIsClosedWhenAnExceptionPasses) {
+  std::string const hoog = wav("high.wav", golf(400), 16000);
+  std::ptrdiff_t const voor = openBestanden();
+  codeerMetGooiendLog(hoog);
+  EXPECT_EQ(openBestanden(), voor);
+}
+
+// The two above run on Linux alone: under Wine a process has descriptors of Wine's own, whose
+// number changes. But Windows removes no file that is open.
 TEST_F(EncoderFouten, FilesCanBeRemovedAfterEveryWayOut) {
   std::string const goed = wav("toon.wav", golf(400));
   std::string const hoog = wav("high.wav", golf(400), 16000);
@@ -181,14 +196,10 @@ TEST_F(EncoderFouten, FilesCanBeRemovedAfterEveryWayOut) {
   EXPECT_TRUE(std::filesystem::remove(hoog));
 }
 
-TEST_F(EncoderFouten, FileIsClosedWhenAnExceptionPasses) {
+TEST_F(EncoderFouten, FileCanBeRemovedWhenAnExceptionHasPassed) {
   std::string const hoog = wav("high.wav", golf(400), 16000);
-  std::ptrdiff_t const voor = openBestanden();
-  GooiendLog log;
-  wxLog* const vorige = wxLog::SetActiveTarget(&log);
-  EXPECT_THROW(codeer(Instelling(), hoog), std::runtime_error);
-  wxLog::SetActiveTarget(vorige);
-  EXPECT_EQ(openBestanden(), voor);
+  codeerMetGooiendLog(hoog);
+  EXPECT_TRUE(std::filesystem::remove(hoog));
 }
 
 }  // namespace
