@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Turns decoded samples, which are signed and lie around zero, into the codes that the register of
  * a DAC takes, which are unsigned and lie around mid-scale:
  *
@@ -7,8 +9,11 @@
  *   12 bits     -2048 ..   2047     0 ..  4095        2048
  *   16 bits    -32768 ..  32767     0 .. 65535       32768
  *
- * Codes are right-aligned. A sample beyond the range is brought to its end: what comes out of Speex
- * and ADPCM lies there now and then.
+ * Codes are right-aligned. For a register that takes them left-aligned, in the high bits of 16,
+ * give KESTROLIN_DAC_16 as the width, and the samples' own width as `bits`. A sample beyond the
+ * range is brought to its end: what comes out of Speex and ADPCM lies there now and then.
+ *
+ * These operations keep no state: they may be called anywhere, and take a time of `count` alone.
  */
 #ifndef KESTROLIN_DAC_H
 #define KESTROLIN_DAC_H
@@ -28,12 +33,13 @@ typedef enum kestrolin_dac_width {
 
 /* A number of bits as the operations below take it: one below 1 counts as 1, one above 16 as 16. */
 static inline unsigned kestrolin_dac_bits(unsigned bits) {
-  return bits < 1 ? 1 : bits > 16 ? 16 : bits;
+  const unsigned raised = (bits < 1U) ? 1U : bits;
+  return (raised > 16U) ? 16U : raised;
 }
 
 /* The code of silence: what a DAC is left at between fragments, lest it clicks. */
 static inline uint16_t kestrolin_dac_mid(kestrolin_dac_width width) {
-  return (uint16_t)(1U << (kestrolin_dac_bits(width) - 1U));
+  return (uint16_t)(1U << (kestrolin_dac_bits((unsigned)width) - 1U));
 }
 
 /* The code of a sample of the DAC's own width. */
@@ -50,6 +56,10 @@ void kestrolin_dac_codes(uint16_t* codes, const int16_t* samples, size_t count,
                          kestrolin_dac_width width);
 void kestrolin_dac_codes_from(uint16_t* codes, const int16_t* samples, size_t count, unsigned bits,
                               kestrolin_dac_width width);
+
+/* The codes of a DAC of 8 bits, one byte each, of samples that are `bits` wide. `codes` may lie
+ * where the samples lie, and takes the first half of their room then. */
+void kestrolin_dac_bytes_from(uint8_t* codes, const int16_t* samples, size_t count, unsigned bits);
 
 #ifdef __cplusplus
 }

@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Decodes IMA ADPCM, one code at a time: the part that ADPCM arrays and the blocks of WAV images
  * have in common. Four bits a sample, by the tables and the steps that the Interactive Multimedia
  * Association published in 1992.
@@ -11,7 +13,7 @@
 extern "C" {
 #endif
 
-enum { KESTROLIN_IMA_INDEX_MAX = 88 };
+#define KESTROLIN_IMA_INDEX_MAX 88
 
 typedef struct kestrolin_ima {
   int16_t predictor; /* the last sample */

@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Reads PCM arrays.
  *
  *   byte  0     1     2     3     4     5     6     7     8     9    ...
@@ -27,6 +29,7 @@ extern "C" {
 typedef struct kestrolin_pcm {
   const unsigned char* next; /* low byte of the next sample */
   size_t left;               /* samples not read yet; right after opening, all of them */
+  size_t count;              /* samples in the fragment */
   uint16_t rate;             /* samples a second */
 } kestrolin_pcm;
 
@@ -46,6 +49,9 @@ kestrolin_status kestrolin_pcm_open(kestrolin_pcm* pcm, const unsigned char* arr
  */
 kestrolin_status kestrolin_pcm_open_headerless(kestrolin_pcm* pcm, const unsigned char* array,
                                                size_t size, uint16_t rate);
+
+/* Goes back to the first sample, so that the fragment can be played again. */
+void kestrolin_pcm_rewind(kestrolin_pcm* pcm);
 
 /* Copies the next samples, `room` at most, and returns how many; 0 at the end. */
 size_t kestrolin_pcm_read(kestrolin_pcm* pcm, int16_t* samples, size_t room);

@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Walks the frames of a Speex array, for the decoder of libspeex to decode.
  *
  *   byte  0     1     2     3     4      5      ...     5+n0   6+n0   ...
@@ -22,12 +24,22 @@
  *     if (kestrolin_speex_open(&speex, array, array_size) == KESTROLIN_OK) {
  *       while (kestrolin_speex_next(&speex, &frame, &size) == KESTROLIN_OK) {
  *         speex_bits_read_from(&bits, frame, size);
- *         speex_decode_int(decoder, size > 0 ? &bits : NULL, samples);
+ *         if (size == 0 || speex_decode_int(decoder, &bits, samples) != 0) {
+ *           speex_decode_int(decoder, NULL, samples);
+ *         }
  *         ... play speex.frame_samples samples ...
  *       }
  *     }
  *
  * where the decoder is speex_decoder_init of speex_lib_get_mode(speex.mode), with SPEEX_SET_ENH on.
+ * A decoder that is given no bits makes up 20 ms out of what it has heard. It has to for a frame of
+ * which nothing was kept, and for a damaged one, of which speex_decode_int returns a negative
+ * number.
+ *
+ * The encoder of the tool runs on from file to file, and so may the decoder, over the fragments in
+ * the order of the text. A decoder made for one fragment starts from another state than the encoder
+ * was in, and settles in some milliseconds. Where that can be heard, begin recordings with silence.
+ *
  * What comes out is signed and lies around zero, at the width of the DAC that the array was made
  * for, or a little beyond; kestrolin_dac.h turns it into what the DAC's register takes.
  */
@@ -44,6 +56,7 @@ extern "C" {
 typedef struct kestrolin_speex {
   const signed char* next; /* the size byte of the next frame */
   size_t left;             /* bytes from there to the end of the array */
+  size_t size;             /* bytes of all frames */
   uint32_t frames;         /* number of frames in the array */
   uint32_t samples;        /* number of samples in the fragment; without header frames x 160, ... */
   uint16_t rate;           /* samples a second */
@@ -52,7 +65,8 @@ typedef struct kestrolin_speex {
 } kestrolin_speex;
 
 /* Opens an array with header, of `size` bytes, exactly: nothing else marks its end. It is walked
- * once from end to end, so that an error shows before the first sound.
+ * once from end to end, so that an error shows before the first sound; that has no place in an
+ * interrupt.
  *
  * KESTROLIN_TRUNCATED: the array is shorter than its header, or ends within a frame.
  * KESTROLIN_CORRUPT: a frequency that is none of the three; a frame of more than 200 bytes; a
@@ -67,9 +81,13 @@ kestrolin_status kestrolin_speex_open(kestrolin_speex* speex, const signed char*
 kestrolin_status kestrolin_speex_open_headerless(kestrolin_speex* speex, const signed char* array,
                                                  size_t size, uint16_t rate);
 
+/* Goes back to the first frame. The decoder of libspeex goes back by SPEEX_RESET_STATE. */
+void kestrolin_speex_rewind(kestrolin_speex* speex);
+
 /* Points `frame` at the bytes of the next frame and tells their number, 0 to 200, as
  * speex_bits_read_from takes both. A frame of no bytes stands for 20 ms of which nothing was kept;
- * libspeex makes them up when it is given no bits.
+ * libspeex makes them up when it is given no bits. On AVR, where arrays lie in flash of its own
+ * address space, the bytes have to be copied by KESTROLIN_READ_BYTE.
  *
  * KESTROLIN_END: there are no more; `frame` and `size` stay as they are. The errors of opening
  * cannot come here, unless the fields were changed. */

@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Reads embedded WAV files: arrays that hold a whole file, as "Save As" writes them.
  *
  *   byte  0         4         8         12              20
@@ -43,12 +45,15 @@
 extern "C" {
 #endif
 
-enum { KESTROLIN_WAV_PCM = 1, KESTROLIN_WAV_IMA_ADPCM = 17, KESTROLIN_WAV_IMA_CHANNELS = 2 };
+#define KESTROLIN_WAV_PCM 1
+#define KESTROLIN_WAV_IMA_ADPCM 17
+#define KESTROLIN_WAV_IMA_CHANNELS 2
 
 /* A place in an image. The fields are for reading. */
 typedef struct kestrolin_wav {
   const unsigned char* next; /* PCM: the next sample; IMA ADPCM: the block that it lies in */
   size_t left;               /* samples not read yet, of all channels together */
+  size_t count;              /* samples in the sound, of all channels together */
   uint32_t rate;             /* samples a second and channel */
   uint16_t channels;
   uint16_t format;       /* KESTROLIN_WAV_PCM or KESTROLIN_WAV_IMA_ADPCM */
@@ -60,16 +65,22 @@ typedef struct kestrolin_wav {
 } kestrolin_wav;
 
 /* Finds format and sound in the image of `size` bytes. What lies behind the sound is passed over.
+ * Of IMA ADPCM the header of every block is looked at: the time follows the length of the sound, so
+ * that this has no place in an interrupt.
  *
  * KESTROLIN_TRUNCATED: the array ends within its header, or within a chunk that is needed or lies
  * before one, or holds no sound at all.
  * KESTROLIN_CORRUPT: no WAV file; no format before the sound; a format that contradicts itself; a
  * block or a sample that is not whole; an index above 88 at the start of a block.
  * KESTROLIN_UNSUPPORTED: neither PCM of 16 bits nor IMA ADPCM of 4; IMA ADPCM of more than two
- * channels. The tool embeds IMA ADPCM and PCM of 16 bits alone.
+ * channels; more samples than size_t counts, which may be where it has 16 bits. The tool embeds IMA
+ * ADPCM and PCM of 16 bits alone.
  *
  * Whatever is returned, the reader is usable: after an error it has no samples. */
 kestrolin_status kestrolin_wav_open(kestrolin_wav* wav, const unsigned char* array, size_t size);
+
+/* Goes back to the first sample, so that the fragment can be played again. */
+void kestrolin_wav_rewind(kestrolin_wav* wav);
 
 /* Copies or decodes the next samples, `room` at most, the channels in turn, and returns how many; 0
  * at the end. */
