@@ -1,6 +1,7 @@
 #include "opdrachtregel/bijlagen.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 
 #include "audio/codec/uitvoerTaal.h"
@@ -34,25 +35,58 @@ std::string wachter(std::string const& bestand, std::string const& inhoud) {
   return "KESTROLIN_" + naam + "_" + inhoud;
 }
 
-std::string declaratiesVanC(std::vector<Declaratie> const& arrays) {
-  std::string tekst = "#include <stddef.h>\n\n#ifdef __cplusplus\nextern \"C\" {\n#endif\n";
+// What stands behind the name of an array, so that it lies where the readers read.
+char const* plaats(Omgeving const& omgeving) {
+  return omgeving.metFlash ? " KESTROLIN_FLASH;\n" : ";\n";
+}
+
+// Compilers for AVR have no header of C++'s own library.
+char const* grootteType(Omgeving const& omgeving) {
+  return isCPP(omgeving) && !omgeving.metFlash ? "std::size_t " : "size_t ";
+}
+
+// Where that comes from.
+char const* plaatsKop(Omgeving const& omgeving) {
+  return omgeving.metFlash ? "#include \"kestrolin_status.h\"\n\n" : "";
+}
+
+std::string standDeclaratie(Omgeving const& omgeving, std::string const& opslag,
+                            std::string const& array) {
+  return omgeving.metStanden
+             ? opslag + " const unsigned char " + standNaam(array) + "[3]" + plaats(omgeving)
+             : std::string();
+}
+
+std::string declaratiesVanC(Omgeving const& omgeving, std::vector<Declaratie> const& arrays) {
+  std::string tekst = std::string("#include <stddef.h>\n\n") + plaatsKop(omgeving) +
+                      "#ifdef __cplusplus\nextern \"C\" {\n#endif\n";
   for (Declaratie const& een : arrays) {
-    tekst += "\n/* " + een.uitleg + " */\nextern const " + een.type + " " + een.naam +
-             "[];\nextern const size_t " + grootteNaam(een.naam) + ";\n";
+    tekst += "\n/* " + een.uitleg + " */\nextern const " + een.type + " " + een.naam + "[]" +
+             plaats(omgeving) + "extern const size_t " + grootteNaam(een.naam) + ";\n" +
+             standDeclaratie(omgeving, "extern", een.naam);
   }
   return tekst + "\n#ifdef __cplusplus\n}\n#endif\n";
 }
 
-std::string declaratiesVanCPP(std::string const& klasse, std::vector<Declaratie> const& arrays) {
-  std::string tekst = "#include <cstddef>\n\nclass " + klasse + " {\n public:\n";
+std::string declaratiesVanCPP(Omgeving const& omgeving, std::vector<Declaratie> const& arrays) {
+  std::string tekst = std::string("#include <") + (omgeving.metFlash ? "stddef.h" : "cstddef") +
+                      ">\n\n" + plaatsKop(omgeving) + "class " + omgeving.klasse + " {\n public:\n";
   char const* scheiding = "";
   for (Declaratie const& een : arrays) {
     tekst += scheiding;
-    tekst += "  // " + een.uitleg + "\n  static const " + een.type + " " + een.naam +
-             "[];\n  static const std::size_t " + grootteNaam(een.naam) + ";\n";
+    tekst += "  // " + een.uitleg + "\n  static const " + een.type + " " + een.naam + "[]" +
+             plaats(omgeving) + "  static const " + grootteType(omgeving) + grootteNaam(een.naam) +
+             ";\n" + standDeclaratie(omgeving, "  static", een.naam);
     scheiding = "\n";
   }
   return tekst + "};\n";
+}
+
+// Low byte, high byte and index.
+std::string standBytes(CoderStand const& stand) {
+  auto const bits = static_cast<std::uint16_t>(stand.voorspelling);
+  return "{" + std::to_string(bits & 0xFFU) + ", " + std::to_string(bits >> 8U) + ", " +
+         std::to_string(stand.index) + "}";
 }
 
 // With slashes alone, which are separators on each system.
@@ -82,24 +116,34 @@ std::string grootteNaam(std::string const& array) {
   return array + "_size";
 }
 
+std::string standNaam(std::string const& array) {
+  return array + "_state";
+}
+
 std::string declaratieTekst(std::string const& bestand, Omgeving const& omgeving,
                             std::vector<Declaratie> const& arrays) {
   std::string const inhoud = isCPP(omgeving) ? omgeving.klasse : arrays.front().naam;
   std::string const naam = wachter(bestand, inhoud);
   return herkomst + ("#ifndef " + naam) + "\n#define " + naam + "\n\n" +
-         (isCPP(omgeving) ? declaratiesVanCPP(omgeving.klasse, arrays) : declaratiesVanC(arrays)) +
+         (isCPP(omgeving) ? declaratiesVanCPP(omgeving, arrays)
+                          : declaratiesVanC(omgeving, arrays)) +
          "\n#endif\n";
 }
 
 std::string bronTekst(std::string const& declaraties, std::string const& tekst,
-                      Omgeving const& omgeving, std::vector<Declaratie> const& arrays) {
+                      Omgeving const& omgeving, std::vector<Declaratie> const& arrays,
+                      std::vector<CoderStand> const& standen) {
   std::string bron =
       herkomst + ("#include \"" + declaraties) + "\"\n\n#include \"" + tekst + "\"\n\n";
   std::string const lid = isCPP(omgeving) ? omgeving.klasse + "::" : std::string();
   for (Declaratie const& een : arrays) {
     // Within the initialiser of a member, names are looked up in its class.
-    bron += std::string("const ") + (isCPP(omgeving) ? "std::size_t " : "size_t ") + lid +
-            grootteNaam(een.naam) + " = sizeof " + een.naam + ";\n";
+    bron += std::string("const ") + grootteType(omgeving) + lid + grootteNaam(een.naam) +
+            " = sizeof " + een.naam + ";\n";
+  }
+  for (std::size_t i = 0; i < std::min(arrays.size(), standen.size()); ++i) {
+    bron += "const unsigned char " + lid + standNaam(arrays[i].naam) +
+            "[3] = " + standBytes(standen[i]) + ";\n";
   }
   return bron;
 }

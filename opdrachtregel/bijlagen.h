@@ -11,14 +11,26 @@ struct Declaratie {
   std::string uitleg;  // its kind, rate and number of samples
 };
 
+// What a decoder of ADPCM has to start from.
+struct CoderStand {
+  int voorspelling;  // -32768 to 32767
+  int index;         // 0 to 88
+};
+
 // What the declarations belong to.
 struct Omgeving {
-  int taal;            // UitvoerTaalC or UitvoerTaalCPP
-  std::string klasse;  // in C++
+  int taal;                 // UitvoerTaalC or UitvoerTaalCPP
+  std::string klasse;       // in C++
+  bool metFlash = false;    // arrays lie where the readers of the target read
+  bool metStanden = false;  // each array has a state to start from
 };
 
 // The name of the size of an array, a size_t.
 std::string grootteNaam(std::string const& array);
+
+// The name of the state that the decoder of an array starts from: three bytes, laid out as in the
+// header of an ADPCM array.
+std::string standNaam(std::string const& array);
 
 // A header that declares the arrays and their sizes; `bestand` is its path, from which, and from
 // the first array or the class, the include guard is made. A header for C can be included from C++
@@ -26,10 +38,12 @@ std::string grootteNaam(std::string const& array);
 std::string declaratieTekst(std::string const& bestand, Omgeving const& omgeving,
                             std::vector<Declaratie> const& arrays);
 
-// A source that takes in the text and defines the sizes. `declaraties` and `tekst` are the paths of
-// the header and of the text as that source includes them.
+// A source that takes in the text and defines the sizes, and with `metStanden` the states, one for
+// each array. `declaraties` and `tekst` are the paths of the header and of the text as that source
+// includes them.
 std::string bronTekst(std::string const& declaraties, std::string const& tekst,
-                      Omgeving const& omgeving, std::vector<Declaratie> const& arrays);
+                      Omgeving const& omgeving, std::vector<Declaratie> const& arrays,
+                      std::vector<CoderStand> const& standen);
 
 // Whether a path can stand in an #include.
 bool pastInInsluiting(std::string const& pad);

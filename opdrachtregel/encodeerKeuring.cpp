@@ -34,9 +34,26 @@ void meldBezwaar(Opname const& opname, std::string const& reden) {
   meld(opname.gegeven + ": " + reden);
 }
 
+// A name that is made of an array's, and what it stands for.
+struct Bijnaam {
+  std::string (*naam)(std::string const& array);
+  char const* woord;
+};
+
+std::vector<Bijnaam> bijnamen(Declareert wat) {
+  std::vector<Bijnaam> alle;
+  if (wat.metHeader) {
+    alle.push_back({grootteNaam, "size"});
+  }
+  if (wat.metStanden) {
+    alle.push_back({standNaam, "state"});
+  }
+  return alle;
+}
+
 // Why a recording cannot give its name to an array, empty where it can.
 std::string bezwaar(EncodeerVraag const& vraag, Opname const& opname, std::string const& naam,
-                    bool metHeader) {
+                    Declareert wat) {
   if (!pastInCommentaar(opname.bestand.GetFullName().utf8_string())) {
     return "its name cannot stand in a comment; rename the file";
   }
@@ -44,13 +61,15 @@ std::string bezwaar(EncodeerVraag const& vraag, Opname const& opname, std::strin
     return "its array would be called \"" + naam + "\", which is no name in " + taalNaam(vraag) +
            "; rename the file";
   }
-  if (metHeader && !isBruikbareNaam(naam, UitvoerTaalCPP)) {
+  if (wat.metHeader && !isBruikbareNaam(naam, UitvoerTaalCPP)) {
     return "its array would be called \"" + naam +
            "\", which is no name in C++, where the header can be included too; rename the file";
   }
-  if (metHeader && isCPP(vraag) && grootteNaam(naam) == vraag.klasse) {
-    return "the size of its array would be called \"" + vraag.klasse +
-           "\", as its class is; rename the file or the class";
+  for (Bijnaam const& een : bijnamen(wat)) {
+    if (isCPP(vraag) && een.naam(naam) == vraag.klasse) {
+      return std::string("the ") + een.woord + " of its array would be called \"" + vraag.klasse +
+             "\", as its class is; rename the file or the class";
+    }
   }
   if (isCPP(vraag) && naam == vraag.klasse) {
     return "its array would be called \"" + naam +
@@ -80,12 +99,12 @@ bool keurFrequenties(std::vector<Opname> const& opnamen) {
   return aantalGemeld() == voor;
 }
 
-bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, bool metHeader) {
+bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, Declareert wat) {
   int const voor = aantalGemeld();
   std::map<std::string, std::string> vergeven;
   for (Opname const& een : opnamen) {
     std::string const naam = een.bestand.GetName().utf8_string();
-    std::string const reden = bezwaar(vraag, een, naam, metHeader);
+    std::string const reden = bezwaar(vraag, een, naam, wat);
     if (!reden.empty()) {
       meldBezwaar(een, reden);
       continue;
@@ -96,12 +115,12 @@ bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, b
                            "; rename one of them");
     }
   }
-  if (metHeader) {
+  for (Bijnaam const& bijnaam : bijnamen(wat)) {
     for (auto const& [naam, bestand] : vergeven) {
-      auto const ander = vergeven.find(grootteNaam(naam));
+      auto const ander = vergeven.find(bijnaam.naam(naam));
       if (ander != vergeven.end()) {
-        meld(ander->second + ": its array would be called \"" + ander->first +
-             "\", as the size of that of " + bestand + "; rename one of them");
+        meld(ander->second + ": its array would be called \"" + ander->first + "\", as the " +
+             bijnaam.woord + " of that of " + bestand + "; rename one of them");
       }
     }
   }

@@ -11,10 +11,16 @@
 // All recordings have one rate: that of the first.
 bool keurFrequenties(std::vector<Opname> const& opnamen);
 
+// What is declared beside the text.
+struct Declareert {
+  bool metHeader;   // the arrays and their sizes, for C++ too
+  bool metStanden;  // the states of the arrays
+};
+
 // The names of the arrays, which are those of the files, are names of the output language, and
-// differ. With `metHeader` a header declares them, for C++ too: then they are names there as well,
-// and those of their sizes differ from them all.
-bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, bool metHeader);
+// differ. Where a header declares them, they are names in C++ as well, and those of their sizes and
+// states differ from them all.
+bool keurNamen(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen, Declareert wat);
 
 // The generated text at `pad`, to which theirs is appended, has no array of such a name yet.
 bool keurAanvulling(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,

@@ -68,12 +68,24 @@ Declaratie declareer(EncodeerVraag const& vraag, Opname const& opname) {
               " Hz, " + std::to_string(aantalSamples(vraag.soort, opname.info)) + " samples"};
 }
 
+std::vector<Declaratie> declareerAlle(EncodeerVraag const& vraag,
+                                      std::vector<Opname> const& opnamen) {
+  std::vector<Declaratie> arrays;
+  std::transform(opnamen.begin(), opnamen.end(), std::back_inserter(arrays),
+                 [&vraag](Opname const& opname) { return declareer(vraag, opname); });
+  return arrays;
+}
+
+void schrijfIn(Doel& doel, std::string const& tekst) {
+  doel.Write(tekst.data(), tekst.size());
+}
+
 bool schrijf(DoelGroep& doelen, std::string const& pad, std::string const& tekst) {
   Doel* const doel = doelen.voegToe(pad);
   if (doel == nullptr) {
     return false;
   }
-  doel->Write(tekst.data(), tekst.size());
+  schrijfIn(*doel, tekst);
   return true;
 }
 
@@ -95,8 +107,8 @@ Uitslag EncodeerOpdracht::voerUit() {
   }
   std::optional<std::vector<Opname>> opnamen = leesOpnamen(opties.wavs);
   if (!opnamen || !keurFrequenties(*opnamen) ||
-      !keurNamen(*vraag, *opnamen, !opties.declaraties.empty()) || !keurDoelen() ||
-      !keurVermeldingen() ||
+      !keurNamen(*vraag, *opnamen, {!opties.declaraties.empty(), opties.standen}) ||
+      !keurDoelen() || !keurVermeldingen() ||
       (opties.aanvullen && !keurAanvulling(*vraag, *opnamen, opties.uitvoer)) ||
       !neemMomentOver()) {
     return mislukt;
@@ -144,6 +156,15 @@ Uitslag EncodeerOpdracht::keurGebruik(EncodeerVraag const& vraag) const {
   }
   if (!opties.bron.empty() && opties.declaraties.empty()) {
     return meldGebruik(*app, "--source needs a header to include", "--declarations");
+  }
+  if (opties.flash && opties.declaraties.empty()) {
+    return meldGebruik(*app, "--flash needs a header to declare the arrays in", "--declarations");
+  }
+  if (opties.standen && vraag.soort != ArraySoort::adpcm) {
+    return meldGebruik(*app, "--states are those of adpcm, and of no other encoder", "--encoder");
+  }
+  if (opties.standen && opties.bron.empty()) {
+    return meldGebruik(*app, "--states needs a source to define them in", "--source");
   }
   bool const heeftBijlagen =
       !opties.declaraties.empty() || !opties.bron.empty() || !opties.afhankelijkheden.empty();
@@ -210,26 +231,46 @@ std::vector<std::string> EncodeerOpdracht::afhankelijkheden() const {
 bool EncodeerOpdracht::schrijfAlles(EncodeerVraag const& vraag, std::vector<Opname> const& opnamen,
                                     DoelGroep& doelen) const {
   Doel* const doel = doelen.voegToe(opties.uitvoer, opties.aanvullen);
+  Doel* bron = nullptr;
+  std::vector<CoderStand> standen;
   // The other places are looked at before the long work.
-  return doel != nullptr && schrijfBijlagen(vraag, opnamen, doelen) &&
-         schrijfTekst(vraag, opnamen, *doel);
+  if (doel == nullptr || !schrijfBijlagen(vraag, opnamen, doelen, bron) ||
+      !schrijfTekst(vraag, opnamen, *doel, opties.standen ? &standen : nullptr)) {
+    return false;
+  }
+  if (bron != nullptr) {
+    schrijfIn(*bron, maakBron(vraag, opnamen, standen));
+  }
+  return true;
+}
+
+Omgeving EncodeerOpdracht::omgevingVan(EncodeerVraag const& vraag) const {
+  return {vraag.instellingen.speexOutputLanguage, vraag.klasse, opties.flash, opties.standen};
+}
+
+std::string EncodeerOpdracht::maakBron(EncodeerVraag const& vraag,
+                                       std::vector<Opname> const& opnamen,
+                                       std::vector<CoderStand> const& standen) const {
+  return bronTekst(insluitPad(opties.declaraties, opties.bron),
+                   insluitPad(opties.uitvoer, opties.bron), omgevingVan(vraag),
+                   declareerAlle(vraag, opnamen), standen);
 }
 
 bool EncodeerOpdracht::schrijfBijlagen(EncodeerVraag const& vraag,
-                                       std::vector<Opname> const& opnamen,
-                                       DoelGroep& doelen) const {
-  Omgeving const omgeving{vraag.instellingen.speexOutputLanguage, vraag.klasse};
-  std::vector<Declaratie> arrays;
-  std::transform(opnamen.begin(), opnamen.end(), std::back_inserter(arrays),
-                 [&vraag](Opname const& opname) { return declareer(vraag, opname); });
+                                       std::vector<Opname> const& opnamen, DoelGroep& doelen,
+                                       Doel*& latereBron) const {
   if (!opties.declaraties.empty() &&
-      !schrijf(doelen, opties.declaraties, declaratieTekst(opties.declaraties, omgeving, arrays))) {
+      !schrijf(
+          doelen, opties.declaraties,
+          declaratieTekst(opties.declaraties, omgevingVan(vraag), declareerAlle(vraag, opnamen)))) {
     return false;
   }
-  if (!opties.bron.empty() &&
-      !schrijf(doelen, opties.bron,
-               bronTekst(insluitPad(opties.declaraties, opties.bron),
-                         insluitPad(opties.uitvoer, opties.bron), omgeving, arrays))) {
+  if (opties.standen) {
+    latereBron = doelen.voegToe(opties.bron);
+    if (latereBron == nullptr) {
+      return false;
+    }
+  } else if (!opties.bron.empty() && !schrijf(doelen, opties.bron, maakBron(vraag, opnamen, {}))) {
     return false;
   }
   if (opties.afhankelijkheden.empty()) {

@@ -110,6 +110,14 @@ void voegBestandOptiesToe(CLI::App& app, EncodeerOpties& opties) {
       ->check(bestandsNaam())
       ->type_name("FILE.c")
       ->group(groepBestanden);
+  app.add_flag("--flash", opties.flash,
+               "Declare arrays with KESTROLIN_FLASH, which puts them into the flash of an AVR; "
+               "needs --declarations")
+      ->group(groepBestanden);
+  app.add_flag("--states", opties.standen,
+               "Also declare and define the state that each adpcm array is decoded from, so that "
+               "it can be played alone; needs --source")
+      ->group(groepBestanden);
   app.add_option("--depfile", opties.afhankelijkheden,
                  "Also write what the text depends on, for make and ninja")
       ->check(bestandsNaam())

@@ -32,6 +32,8 @@ struct EncodeerOpties {
   bool aanvullen = false;
   std::string declaraties;
   std::string bron;
+  bool flash = false;
+  bool standen = false;
   std::string afhankelijkheden;
   bool uitgebreid = false;
 };

@@ -53,6 +53,11 @@ class ADPCMConverter {
   // where the last packet left it.
   void encodeer(VelmoraPCMPakket const& bron, VelmoraADPCMPakket const& doel);
 
+  // Where the encoder stands, and so what a decoder of the next packet has to start from: the
+  // prediction, -32768 to 32767, and the index, 0 to 88.
+  int geefEncVoorspelling() const { return encVoorspelling; }
+  short geefEncIndex() const { return encIndex; }
+
   // Decodes the whole packet, from the start state in its header, into the block of `doel`, which
   // must have at least bron.geefAantalSamples() samples. The samples keep the scale that the
   // encoder worked in. A start index above 88 counts as 88.

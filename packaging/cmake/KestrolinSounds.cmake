@@ -6,6 +6,8 @@
 #   [QUALITY 0..10] [COMPLEXITY 0..10] [BITRATE fixed|variable|average] [MAX_BITRATE n]
 #   [NO_VAD] [NO_DENOISE] [NO_AGC]   for Speex
 #   [NO_HEADER]                      arrays without their header, which the readers take
+#   [FLASH]                          arrays in the flash of an AVR, by KESTROLIN_FLASH
+#   [STATES]                         for ADPCM, the state NAME_state that each array is decoded from
 #   [SETTINGS file]                  other defaults, from a settings file of the window
 #   [OPTIONS option...])             more options of kestrolin-cli encode
 #
@@ -26,7 +28,7 @@ set(_KESTROLIN_BITRATE fixed variable average)
 set(_KESTROLIN_CHOICES ENCODER DAC LANGUAGE QUALITY COMPLEXITY BITRATE)
 
 function(kestrolin_add_sounds name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "NO_VAD;NO_DENOISE;NO_AGC;NO_HEADER"
+  cmake_parse_arguments(PARSE_ARGV 1 arg "NO_VAD;NO_DENOISE;NO_AGC;NO_HEADER;FLASH;STATES"
                         "${_KESTROLIN_CHOICES};CLASS;MAX_BITRATE;SETTINGS" "FILES;OPTIONS")
   if(NOT DEFINED arg_LANGUAGE)
     # Whatever a settings file says.
@@ -140,7 +142,7 @@ function(_kestrolin_list_options)
       list(APPEND options "${option}" "${arg_${key}}")
     endif()
   endforeach()
-  foreach(flag IN ITEMS NO_VAD NO_DENOISE NO_AGC NO_HEADER)
+  foreach(flag IN ITEMS NO_VAD NO_DENOISE NO_AGC NO_HEADER FLASH STATES)
     if(arg_${flag})
       string(TOLOWER "--${flag}" option)
       string(REPLACE "_" "-" option "${option}")

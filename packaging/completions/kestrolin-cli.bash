@@ -36,7 +36,7 @@ _kestrolin_cli() {
     encode)
       options+=' --encoder --language --class --dac --header --no-header --quality --complexity
         --bitrate --max-bitrate --vad --no-vad --denoise --no-denoise --agc --no-agc -o --output
-        --append --declarations --source --depfile --settings -v --verbose'
+        --append --declarations --source --flash --states --depfile --settings -v --verbose'
       files='*.[wW][aA][vV]'
       ;;
     list) options+=' --json' ;;

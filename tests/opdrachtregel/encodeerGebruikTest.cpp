@@ -37,6 +37,18 @@ TEST_F(Gebruik, OutputsThatDoNotGoTogether) {
   eis({"--source", "t.c"}, "--source needs a header to include",
       "  --declarations FILE.h   Also write a header to include: the arrays and their\n"
       "                          sizes\n");
+  eis({"--flash"}, "--flash needs a header to declare the arrays in",
+      "  --declarations FILE.h   Also write a header to include: the arrays and their\n"
+      "                          sizes\n");
+  eis({"--encoder", "adpcm", "--states", "--declarations", "t.h"},
+      "--states needs a source to define them in",
+      "  --source FILE.c         Also write the source to compile, which takes in the\n"
+      "                          text and defines the sizes; needs --declarations\n");
+  eis({"--states", "--declarations", "t.h", "--source", "t.c"},
+      "--states are those of adpcm, and of no other encoder",
+      "  --encoder speex|adpcm|pcm|wav\n"
+      "                          How samples are stored; wav embeds whole WAV files, as\n"
+      "                          the window's Save As (default: pcm)\n");
   eis({"--append", "--declarations", "t.h"},
       "a header declares the arrays of one run, and not what was there before",
       "  --append                Append the text to FILE, which must not have these\n"

@@ -22,9 +22,10 @@ kestrolin_add_sounds(full ENCODER speex DAC 8 LANGUAGE C++ CLASS Bell QUALITY 10
   BITRATE variable MAX_BITRATE 8000 NO_VAD NO_DENOISE NO_AGC NO_HEADER SETTINGS settings
   OPTIONS --verbose --dac 10 FILES ready.wav)
 kestrolin_add_sounds(none FILES "${CMAKE_CURRENT_SOURCE_DIR}/warning.wav")
+kestrolin_add_sounds(alone ENCODER adpcm FLASH STATES FILES chime.wav)
 """, f"-DKESTROLIN_CLI={tool.path}", "-G", "Ninja")
     project.write("settings", SETTINGS.format(4))
-    recordings = [project.record(f"{name}.wav", name) for name in ("ready", "warning")]
+    recordings = [project.record(f"{name}.wav", name) for name in ("ready", "warning", "chime")]
     configure(project)
     wanted = {
         ("full", "cpp"): ["--encoder", "speex", "--dac", "8", "--language", "c++", "--quality", "10",
@@ -32,6 +33,7 @@ kestrolin_add_sounds(none FILES "${CMAKE_CURRENT_SOURCE_DIR}/warning.wav")
                          "8000", "--settings", str(project.folder / "settings"), "--no-vad", "--no-denoise",
                          "--no-agc", "--no-header", "--verbose", "--dac", "10"],
         ("none", "c"): ["--language", "c"],
+        ("alone", "c"): ["--encoder", "adpcm", "--language", "c", "--flash", "--states"],
     }
     for (library, suffix), words in wanted.items():
         # The first one names its width twice.
@@ -140,7 +142,8 @@ def strict(place: Place) -> None:
         f"kestrolin_add_sounds({encoder}_{name} ENCODER {encoder} LANGUAGE {language} CLASS Sounds{header}\n"
         "  FILES ready.wav warning.wav)\n"
         for encoder in ("speex", "adpcm", "pcm", "wav")
-        for name, language, header in (("c", "C", ""), ("cpp", "C++", ""), ("bare", "C", " NO_HEADER")))
+        for name, language, header in (("c", "C", ""), ("cpp", "C++", " FLASH"),
+                                       ("bare", "C", f" NO_HEADER{' STATES' * (encoder == 'adpcm')}")))
     for compiler in (("gcc", "g++"), ("clang", "clang++")):
         for standards in (("99", "11"), ("17", "20")):
             lists = (f"cmake_minimum_required(VERSION 3.21)\nset(CMAKE_C_STANDARD {standards[0]})\n"
