@@ -38,7 +38,8 @@ ZSH = "share/zsh/site-functions/_kestrolin-cli"
 # What plays, where it was built with sound.
 MODULE = "lib/kestrolin/geluid.so"
 DEBIAN_ZSH = "share/zsh/vendor-completions/_kestrolin-cli"
-CMAKE = {f"share/cmake/Kestrolin/Kestrolin{deel}.cmake" for deel in ("Config", "ConfigVersion", "Sounds")}
+CMAKE = {f"share/cmake/{pakket}/{pakket}{deel}.cmake" for pakket in ("Kestrolin", "KestrolinReaders")
+         for deel in ("Config", "ConfigVersion")} | {"share/cmake/Kestrolin/KestrolinSounds.cmake"}
 MATEN = (16, 22, 24, 32, 48, 64, 96, 128, 256, 512)
 # What appstreamcli may say. No domain ends in the one of the component, which is set apart for names that
 # are nobody's. AppStream 0.16, of Debian 12, does not know the developer's tag that 1.0 asks for.
