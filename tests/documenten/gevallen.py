@@ -22,6 +22,7 @@ GOEDE_KOPPELINGEN = {**DOEL, "README.md": """\
 | `hulp/voorzieningen doel` | `firmware/kestrolin_*.h` and `kestrolin_pcm.*`, `firmware/` |
 
 `build/tour` `share/locale` `-DX=ON` `firmware/kestrolin_{pcm,pcm}.h:12` `#include "firmware/x y"`
+`kestrolin_readers.{c,h}`
 
 <a id="html"></a> [k](#html)
 

@@ -18,6 +18,8 @@ ADRES = re.compile(r"https?://[^\s)>\]]*")
 REGEL_ACHTER = re.compile(r":\d+$")
 # The readers are named without their folder.
 LEZER = re.compile(r"kestrolin_[a-z*]+\.(?:[ch]|\*)")
+# What firmware/layouts makes of the readers.
+GEMAAKT = ("kestrolin_readers.c", "kestrolin_readers.h", "kestrolin_readers.*")
 
 
 def bladzijden(boom: Boom) -> list[Bladzijde]:
@@ -61,7 +63,7 @@ def namen_in(boom: Boom, code: str) -> Iterator[str]:
     """The words of a code that name a file or a folder of the tree."""
     for woord in chain.from_iterable(map(_met_accolades, code.split())):
         naam = REGEL_ACHTER.sub("", woord.rstrip(",;"))
-        if LEZER.fullmatch(naam):
+        if LEZER.fullmatch(naam) and naam not in GEMAAKT:
             yield f"firmware/{naam}"
         elif PAD.fullmatch(naam) and naam.split("/")[0] in boom.bovenste:
             yield naam.rstrip("/")

@@ -52,6 +52,8 @@ BLADZIJDEN = {f"share/doc/kestrolin/html/{naam}" for naam in ("manual.html", "fi
 # What makes the example from the source tree is of no use without it, and the page about the source
 # is none for users.
 NIET_VOOR_GEBRUIKERS = {"firmware/example/run", "docs/architecture.md"}
+# What makes the layouts of the readers, which are installed themselves.
+INDELINGEN = "firmware/layouts/"
 
 
 def gelijk(gevonden: object, verwacht: object, wat: str) -> None:
@@ -81,13 +83,35 @@ def van_boom(naam: str) -> set[str]:
 def deelbaar() -> set[str]:
     """What of the source tree is installed as it is."""
     fragmenten = {pad for pad in van_boom("fragmenten") if pad.endswith(".wav")}
-    return (van_boom("firmware") | van_boom("docs") | fragmenten) - NIET_VOOR_GEBRUIKERS
+    indelingen = van_boom(INDELINGEN.rstrip("/"))
+    return (van_boom("firmware") | van_boom("docs") | fragmenten) - NIET_VOOR_GEBRUIKERS - indelingen
+
+
+def ingedeeld() -> dict[str, str]:
+    """What lies in the Arduino library as it is in the source tree, and where."""
+    arduino = f"{INDELINGEN}arduino/"
+    eigen = {pad.removeprefix(arduino): pad for pad in van_boom(arduino.rstrip("/"))}
+    lezers = {f"src/{Path(pad).name}": pad for pad in van_boom("firmware")
+              if re.fullmatch(r"firmware/kestrolin_\w+\.[ch]", pad)}
+    alle = {**eigen, **lezers, "LICENSE": "firmware/LICENSE"}
+    return {f"share/kestrolin/arduino/Kestrolin/{naam}": pad for naam, pad in alle.items()}
+
+
+# What is made of the readers.
+GEMAAKT = {"share/kestrolin/arduino/Kestrolin/src/Kestrolin.h",
+           *(f"share/kestrolin/two-files/kestrolin_readers.{soort}" for soort in "ch")}
+
+
+def keur_bytes(prefix: Path) -> None:
+    """What is installed as it is."""
+    for naam, pad in {**{f"share/kestrolin/{pad}": pad for pad in deelbaar()}, **ingedeeld()}.items():
+        gelijk((prefix / naam).read_bytes(), (ROOT / pad).read_bytes(), naam)
 
 
 def keur_namen(prefix: Path, andere: set[str]) -> None:
     """Everything lies in its place, these other files among it, and nothing else does."""
     verwacht = {"bin/Kestrolin", "bin/kestrolin-cli", MENU, METAINFO, *KLEIN, *TEKSTEN, *BLADZIJDEN,
-                *MAN, *AANVULLING, *CMAKE,
+                *MAN, *AANVULLING, *CMAKE, *GEMAAKT, *ingedeeld(),
                 "share/icons/hicolor/scalable/apps/kestrolin.svg"}
     verwacht |= {f"share/icons/hicolor/{m}x{m}/apps/kestrolin.png" for m in MATEN}
     verwacht |= {f"share/locale/{t}/LC_MESSAGES/{d}.mo"
@@ -97,8 +121,7 @@ def keur_namen(prefix: Path, andere: set[str]) -> None:
     gelijk(verwacht - bestanden(prefix), set(), "what is not installed")
     gelijk(bestanden(prefix) - verwacht, set(), "what is installed too")
     gelijk({naam: str((prefix / naam).readlink()) for naam in KLEIN}, KLEIN, "names in small letters")
-    for pad in deelbaar():
-        gelijk((prefix / "share/kestrolin" / pad).read_bytes(), (ROOT / pad).read_bytes(), pad)
+    keur_bytes(prefix)
     handleiding = prefix / "share/doc/kestrolin/manual/manual.md"
     gelijk(handleiding.read_bytes(), (ROOT / "docs/manual.md").read_bytes(), "the manual by its link")
 

@@ -18,7 +18,8 @@ WORTEL = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(WORTEL / "tests/installatie"))
 
 # pylint: disable=wrong-import-position
-from inhoudTest import BLADZIJDEN, CMAKE, TALEN, TEKSTEN, VERSIE, bestanden, deelbaar, gelijk, zeg
+from inhoudTest import (BLADZIJDEN, CMAKE, GEMAAKT, TALEN, TEKSTEN, VERSIE, bestanden, deelbaar, gelijk,
+                        ingedeeld, keur_bytes, zeg)
 from wijn import sla_over_zonder
 
 NAAM = f"Kestrolin-{VERSIE}"
@@ -45,14 +46,14 @@ VAN_INSTALLER = {"nsis-common"}
 
 def keur_namen(boom: Path) -> None:
     verwacht = {f"bin/{naam}.exe" for naam in PROGRAMMAS} | {DLL, *TEKSTEN, *BLADZIJDEN, *CMAKE}
+    verwacht |= {*GEMAAKT, *ingedeeld()}
     verwacht |= {f"share/locale/{taal}/LC_MESSAGES/{naam}.mo" for taal in TALEN for naam in CATALOGI}
     verwacht |= {f"share/doc/kestrolin/{naam}" for naam in ("CHANGELOG.md", "LICENSE")}
     verwacht |= {f"share/kestrolin/{pad}" for pad in deelbaar()}
     gevonden = {naam for naam in bestanden(boom) if not naam.startswith(f"{LICENTIES}/")}
     gelijk(verwacht - gevonden, set(), "what is missing")
     gelijk(gevonden - verwacht, set(), "what is there too")
-    for pad in deelbaar():
-        assert (boom / "share/kestrolin" / pad).read_bytes() == (WORTEL / pad).read_bytes(), f"{pad} is another"
+    keur_bytes(boom)
 
 
 def keur_zip(boom: Path, zip_: Path) -> None:
