@@ -22,14 +22,14 @@ sys.path[:0] = [str(HERE.parent / "build"), str(HERE.parent / "example")]
 # pylint: disable=wrong-import-position
 from exampleTest import skip
 from player import Sounds
-from project import ROOT, STRICT, equal, succeed
+from project import ROOT, STRICT, equal, run, succeed
 
 FIRMWARE = ROOT / "firmware"
 PAIR = ("kestrolin_readers.c", "kestrolin_readers.h")
 # Twice, as headers of a product may do.
 READERS = '#include "kestrolin_readers.h"\n' * 2
 # The compilers of other processors, and what each needs to be told. An Arduino is built with the second.
-TARGETS = (("arm-none-eabi-gcc", "-mcpu=cortex-m0", "gcc-arm-none-eabi"),
+TARGETS = (("arm-none-eabi-gcc", "-mcpu=cortex-m0", "gcc-arm-none-eabi libnewlib-arm-none-eabi"),
            ("avr-gcc", "-mmcu=atmega328p", "gcc-avr avr-libc"))
 
 
@@ -86,7 +86,10 @@ def in_cpp(work: Path) -> None:
 
 def targets(work: Path) -> None:
     folder = make(work)
-    there = [row for row in TARGETS if shutil.which(row[0])]
+    # A C library is a package of its own.
+    (work / "probe.c").write_text("#include <string.h>\n", encoding="utf-8")
+    there = [row for row in TARGETS
+             if shutil.which(row[0]) and run(row[0], row[1], "-E", work / "probe.c").status == 0]
     missing = [row for row in TARGETS if row not in there]
     if missing and (not there or os.environ.get("KESTROLIN_TARGET") == "required"):
         skip(f"not installed: packages {' '.join(row[2] for row in missing)}")
