@@ -48,13 +48,14 @@ def keur_pakketten(tekst: str, pakketten: str) -> None:
 def keur(fragment: Path, map_: Path, getoond: str) -> None:
     samples, frequentie = samples_in(fragment)
     codes = list(array("H", (map_ / "ready.dac").read_bytes()))
-    assert codes == [int(sample / 16) + 2048 for sample in samples], "the DAC got something else"
+    # Behind the last sample the DAC goes to mid-scale.
+    assert codes == [*(int(sample / 16) + 2048 for sample in samples), 2048], "the DAC got something else"
     getallen = [int(woord) for regel in getoond.splitlines() for woord in regel.split()[1:]]
     assert getallen == codes[400:500], f"od shows {getallen}"
     gehoord, snelheid = samples_in(map_ / "heard.wav")
     assert snelheid == frequentie, f"it is heard at {snelheid} Hz"
-    assert len(gehoord) == len(samples), f"{len(gehoord)} samples can be heard"
-    verschil = max(abs(een - ander) for een, ander in zip(gehoord, samples))
+    assert len(gehoord) == len(codes), f"{len(gehoord)} samples can be heard"
+    verschil = max(abs(een - ander) for een, ander in zip(gehoord, [*samples, 0]))
     assert verschil <= 16, f"what is heard is {verschil} off"
 
 

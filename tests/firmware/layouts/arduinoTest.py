@@ -122,10 +122,14 @@ def heard(work: Path, library: Path, program: Path, least: int) -> list[tuple[fl
     return codes
 
 
-def sketch(work: Path, _build: Path) -> None:
+def need_tools() -> None:
     missing = [package for path, package in NEEDED.items() if not Path(path).exists()]
     if missing:
         skip(f"not installed: packages {' '.join(missing)}")
+
+
+def sketch(work: Path, _build: Path) -> None:
+    need_tools()
     library = make(work)
     program = compiled(work, library)
     samples = wanted(library / EXAMPLE)
