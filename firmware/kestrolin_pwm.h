@@ -5,8 +5,7 @@
  *
  * The counter of the timer runs from 0 to `top`, and the output is high while it is below the
  * compare value. Silence is (top + 1) / 2, half of the period. The loudest sample gives `top` where
- * top + 1 is a power of two that is no larger than the width of the samples allows; no sample gives
- * more.
+ * top + 1 is at most 2^bits, and less where the samples are narrower; no sample gives more.
  *
  * These operations keep no state: they may be called anywhere, and take a time of `count` alone.
  */

@@ -134,11 +134,14 @@ kestrolin_status kestrolin_wav_open(kestrolin_wav* wav, const unsigned char* arr
 
 void kestrolin_wav_rewind(kestrolin_wav* wav) {
   const size_t given = wav->count - wav->left;
-  if (wav->format == (unsigned)KESTROLIN_WAV_IMA_ADPCM) {
-    const uint32_t block_samples = (uint32_t)wav->block_frames * wav->channels;
-    wav->next -= (given / (size_t)block_samples) * wav->block_size;
-  } else {
-    wav->next -= 2U * given;
+  /* Where opening answered an error, a block may have no samples. */
+  if (given > 0U) {
+    size_t bytes = 2U * given;
+    if (wav->format == (unsigned)KESTROLIN_WAV_IMA_ADPCM) {
+      const size_t block_samples = (size_t)wav->block_frames * wav->channels;
+      bytes = (given / block_samples) * wav->block_size;
+    }
+    wav->next -= bytes;
   }
   wav->left = wav->count;
   wav->frame = 0;
