@@ -1,46 +1,23 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
-#include <numeric>
 #include <vector>
 
 #include "kestrolin_dac.h"
+#include "tests/firmware/outputModel.h"
+#include "tests/steun/bytes.h"
 
 namespace {
 
 constexpr std::initializer_list<kestrolin_dac_width> widths{KESTROLIN_DAC_8, KESTROLIN_DAC_10,
                                                             KESTROLIN_DAC_12, KESTROLIN_DAC_16};
 
-std::vector<std::int16_t> const& allSamples() {
-  static std::vector<std::int16_t> const all = [] {
-    std::vector<std::int16_t> samples(65536);
-    std::iota(samples.begin(), samples.end() - 1, std::int16_t{-32768});
-    samples.back() = 32767;
-    return samples;
-  }();
-  return all;
-}
-
-// 2 to the power `bits`.
-int power(unsigned bits) {
-  return static_cast<int>(std::exp2(bits));
-}
-
-// A sample of `bits` bits for a DAC of `width` bits: brought within its range, put around
-// mid-scale, and multiplied or divided by the power of two that the widths differ by.
-int codeByHand(int sample, unsigned bits, unsigned width) {
-  int const half = power(bits) / 2;
-  int const code = half + std::min(half - 1, std::max(-half, sample));
-  return width >= bits ? code * power(width - bits) : code / power(bits - width);
-}
-
-// The number of samples that have another code than by hand.
+// The number of samples that have another code than the model.
 template <typename Code>
 std::ptrdiff_t others(Code code, unsigned bits, unsigned width) {
   return std::count_if(allSamples().begin(), allSamples().end(), [&](std::int16_t sample) {
-    return code(sample) != codeByHand(sample, bits, width);
+    return code(sample) != modelDac(sample, bits, width);
   });
 }
 
@@ -163,10 +140,58 @@ TEST(Dac, PutsTheCodesWhereTheSamplesLie) {
   EXPECT_EQ(row, (std::vector<std::int16_t>{128, 64, 192, 99}));
 }
 
+// By hand: the high ends of 16 bits, with zeros below.
+TEST(Dac, AlignsCodesToTheLeftAtSixteenBits) {
+  std::vector<std::int16_t> const samples{0, -1, 1, 2047, -2048, 5000, -5000};
+  std::vector<std::uint16_t> codes(samples.size() + 1, 7);
+  kestrolin_dac_codes_from(codes.data(), samples.data(), samples.size(), 12, KESTROLIN_DAC_16);
+  EXPECT_EQ(codes, (std::vector<std::uint16_t>{0x8000, 0x7FF0, 0x8010, 0xFFF0, 0, 0xFFF0, 0, 7}));
+  kestrolin_dac_codes_from(codes.data(), samples.data(), 3, 10, KESTROLIN_DAC_16);
+  EXPECT_EQ(codes.at(0), 0x8000);
+  EXPECT_EQ(codes.at(1), 0x7FC0);
+  EXPECT_EQ(codes.at(2), 0x8040);
+}
+
+// By hand: 4 bits around 8, times 16; from 16 bits around 32768, divided by 256 and rounded down.
+TEST(Dac, GivesTheBytesOfARow) {
+  std::vector<std::int16_t> const samples{0, -1, 7, -8, 9, -9};
+  Bytes bytes(samples.size() + 1, 7);
+  kestrolin_dac_bytes_from(bytes.data(), samples.data(), samples.size(), 4);
+  EXPECT_EQ(bytes, (Bytes{128, 112, 240, 0, 240, 0, 7}));
+  std::vector<std::int16_t> const wide{0, -1, 255, 256, 32767, -32768};
+  kestrolin_dac_bytes_from(bytes.data(), wide.data(), wide.size(), 16);
+  EXPECT_EQ(bytes, (Bytes{128, 127, 128, 129, 255, 0, 7}));
+}
+
+TEST(Dac, GivesTheByteOfEverySampleFromAnyNumberOfBits) {
+  for (unsigned bits = 1; bits <= 16; ++bits) {
+    Bytes bytes(allSamples().size());
+    kestrolin_dac_bytes_from(bytes.data(), allSamples().data(), bytes.size(), bits);
+    Bytes expected(bytes.size());
+    std::transform(allSamples().begin(), allSamples().end(), expected.begin(), [bits](int sample) {
+      return static_cast<unsigned char>(modelDac(sample, bits, 8));
+    });
+    EXPECT_EQ(bytes, expected) << bits;
+  }
+}
+
+TEST(Dac, PutsTheBytesWhereTheSamplesLieInTheFirstHalfOfTheirRoom) {
+  std::vector<std::int16_t> row{0, -1, 127, -128, 300, 0x6363};
+  auto* const bytes = reinterpret_cast<std::uint8_t*>(row.data());
+  kestrolin_dac_bytes_from(bytes, row.data(), row.size() - 1, 8);
+  EXPECT_EQ(Bytes(bytes, bytes + 5), (Bytes{128, 127, 255, 0, 255}));
+  EXPECT_EQ(row.at(3), -128);
+  EXPECT_EQ(row.at(4), 300);
+  EXPECT_EQ(row.at(5), 0x6363);
+}
+
 TEST(Dac, WritesNothingForNoSamples) {
   std::uint16_t code = 7;
   std::int16_t const sample = 1;
   kestrolin_dac_codes(&code, &sample, 0, KESTROLIN_DAC_8);
   kestrolin_dac_codes_from(&code, &sample, 0, 4, KESTROLIN_DAC_8);
   EXPECT_EQ(code, 7);
+  std::uint8_t byte = 7;
+  kestrolin_dac_bytes_from(&byte, &sample, 0, 4);
+  EXPECT_EQ(byte, 7);
 }

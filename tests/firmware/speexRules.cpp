@@ -21,7 +21,10 @@ char const* refusedRules(kestrolin_speex& speex, kestrolin_status status) {
   if (status != KESTROLIN_TRUNCATED && status != KESTROLIN_CORRUPT) {
     return "an answer that opening does not have";
   }
-  return speex.left == 0 && speex.frames == 0 && speex.samples == 0 && staysAtEnd(speex)
+  signed char const* const next = speex.next;
+  kestrolin_speex_rewind(&speex);
+  return speex.next == next && speex.size == 0 && speex.left == 0 && speex.frames == 0 &&
+                 speex.samples == 0 && staysAtEnd(speex)
              ? nullptr
              : "frames after an error";
 }
@@ -60,6 +63,24 @@ char const* walkRules(kestrolin_speex& speex, Bytes const& bytes, ExactCopy cons
   return at == bytes.size() && staysAtEnd(speex) && staysAtEnd(speex) ? nullptr : "no end";
 }
 
+// A reader that stands at its end goes back from there, from the first frame, and from another.
+char const* rewindRules(kestrolin_speex& speex, Attempt const& attempt, ExactCopy const& array,
+                        std::size_t begin) {
+  for (std::size_t const place : {std::size_t{0}, attempt.room}) {
+    kestrolin_speex_rewind(&speex);
+    for (std::size_t i = 0; i < place; ++i) {
+      char const* frame = nullptr;
+      int size = 0;
+      kestrolin_speex_next(&speex, &frame, &size);
+    }
+    kestrolin_speex_rewind(&speex);
+    if (speex.left != speex.size || speex.next != array.signedData() + begin) {
+      return "the reader does not go back to the first frame";
+    }
+  }
+  return walkRules(speex, attempt.array, array, begin);
+}
+
 }  // namespace
 
 char const* speexRules(Attempt const& attempt) {
@@ -79,5 +100,10 @@ char const* speexRules(Attempt const& attempt) {
       (!attempt.headerless && speex.samples % 65536 != numberAt(attempt.array, 2, 2))) {
     return "fields that the header contradicts";
   }
-  return walkRules(speex, attempt.array, array, attempt.headerless ? 0 : header);
+  std::size_t const begin = attempt.headerless ? 0 : header;
+  if (speex.size != array.size() - begin || speex.left != speex.size) {
+    return "another number of bytes";
+  }
+  char const* const broken = walkRules(speex, attempt.array, array, begin);
+  return broken != nullptr ? broken : rewindRules(speex, attempt, array, begin);
 }

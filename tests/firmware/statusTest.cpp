@@ -1,11 +1,31 @@
-// The numbers that all readers take out of arrays.
+// The numbers that all readers take out of arrays, and the version of the readers.
 #include <gtest/gtest.h>
+
+#include <string>
 
 #include "kestrolin_status.h"
 #include "tests/steun/bytes.h"
 
 TEST(Status, OkIsZero) {
   EXPECT_EQ(KESTROLIN_OK, 0);
+}
+
+// What the project's own CMakeLists.txt says, as KESTROLIN_PROJECT_VERSION.
+TEST(Status, ReadersHaveTheVersionOfTheProject) {
+  EXPECT_EQ(std::to_string(KESTROLIN_READERS_MAJOR) + '.' +
+                std::to_string(KESTROLIN_READERS_MINOR) + '.' +
+                std::to_string(KESTROLIN_READERS_PATCH),
+            KESTROLIN_PROJECT_VERSION);
+}
+
+// Two figures each for the minor number and for the patch.
+TEST(Status, VersionCanBeCompared) {
+  EXPECT_EQ(KESTROLIN_READERS_VERSION / 10000, KESTROLIN_READERS_MAJOR);
+  EXPECT_EQ(KESTROLIN_READERS_VERSION / 100 % 100, KESTROLIN_READERS_MINOR);
+  EXPECT_EQ(KESTROLIN_READERS_VERSION % 100, KESTROLIN_READERS_PATCH);
+#if KESTROLIN_READERS_VERSION < 10100
+  FAIL() << "the preprocessor compares otherwise";
+#endif
 }
 
 TEST(Status, NumbersHaveTheirLowByteFirst) {
