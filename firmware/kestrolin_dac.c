@@ -17,7 +17,7 @@ uint16_t kestrolin_dac_code(int16_t sample, kestrolin_dac_width width) {
 uint16_t kestrolin_dac_code_from(int16_t sample, unsigned bits, kestrolin_dac_width width) {
   const unsigned narrow = kestrolin_dac_bits(bits);
   const unsigned wide = kestrolin_dac_bits((unsigned)width);
-  const uint32_t mid = (uint32_t)1U << (narrow - 1U);
+  const unsigned mid = 1U << (narrow - 1U);
   const unsigned code = shifted_up(sample, (int32_t)mid);
   return (uint16_t)((wide > narrow) ? (code << (wide - narrow)) : (code >> (narrow - wide)));
 }

@@ -13,7 +13,7 @@ static int32_t ima_clamp(int32_t number, int32_t low, int32_t high) {
 }
 
 /* The size of a step, by its index. */
-static uint32_t step_size(uint32_t index) {
+static uint16_t step_size(uint32_t index) {
   static const uint16_t step_sizes[KESTROLIN_IMA_INDEX_MAX + 1] KESTROLIN_TABLE = {
       7,     8,     9,     10,    11,    12,    13,    14,    16,    17,    19,   21,    23,
       25,    28,    31,    34,    37,    41,    45,    50,    55,    60,    66,   73,    80,
