@@ -4,7 +4,7 @@
  *
  *   pin 9 --- resistor of 1 kilohm ---+--- input of an amplifier
  *                                     |
- *                       capacitor of 22 nF to GND
+ *                       capacitor of 47 nF to GND
  *
  *   pin 2 --- button --- GND
  *
