@@ -56,7 +56,7 @@ extern "C" {
 typedef struct kestrolin_speex {
   const signed char* next; /* the size byte of the next frame */
   size_t left;             /* bytes from there to the end of the array */
-  size_t size;             /* bytes of all frames */
+  size_t size;             /* bytes of all frames, with their size bytes */
   uint32_t frames;         /* number of frames in the array */
   uint32_t samples;        /* number of samples in the fragment; without header frames x 160, ... */
   uint16_t rate;           /* samples a second */

@@ -8,9 +8,9 @@
  * may stand over one array.
  *
  * Interrupts. A reader is a plain structure without a lock: it belongs to one context at a time,
- * the main program or one interrupt. To open, rewind or resume a reader while an interrupt reads
- * from it is a race. Open a second reader in the main program, and hand it over by one store that
- * the processor does in one piece, such as the byte that tells which of the two is played:
+ * the main program or one interrupt. To open, start, resume or rewind a reader while an interrupt
+ * reads from it is a race. Open a second reader in the main program, and hand it over by one store
+ * that the processor does in one piece, such as the byte that tells which of the two is played:
  * firmware/example/prompts.c does so. Most operations take a time that depends on the number of
  * samples asked for alone. Those that walk the whole array say so; they have no place in an
  * interrupt.
@@ -49,10 +49,10 @@
  *
  *     extern const unsigned char ready[] KESTROLIN_FLASH;
  *
- * in front of the generated text, whose own definition takes it over. It is empty where the read is
- * plain. On AVR it is PROGMEM; arrays have to lie in the first 64 KiB of flash, where the linker
- * puts them. KESTROLIN_TABLE and KESTROLIN_TABLE_WORD are the same for tables of the readers
- * themselves.
+ * in front of the generated text: the definition of the array there takes the attribute over. It is
+ * empty where the read is plain. On AVR it is PROGMEM; arrays have to lie in the first 64 KiB of
+ * flash, where the linker puts them. KESTROLIN_TABLE and KESTROLIN_TABLE_WORD are the same for
+ * tables of the readers themselves.
  *
  * To read arrays from elsewhere, define KESTROLIN_READ_BYTE and KESTROLIN_FLASH both. */
 #ifdef __AVR__
