@@ -40,6 +40,11 @@ std::vector<FoutWeg> const foutWegen = {
     {"AllNew", metAlles, {{"kop/", ""}}},
     {"AllReplaced", metAlles, oudeUitvoer},
     {"SomeReplaced", metAlles, {{"kop/", ""}, {"uit_bron.c", "old source\n"}}},
+    // What the source tells of states is written behind the run.
+    {"States",
+     {"encode", "--encoder", "adpcm", "--flash", "--states", "./in/zoem.wav", "./in/bel.wav", "-o",
+      "./uit.c", "--declarations", "./kop/uit.h", "--source", "./uit_bron.c"},
+     oudeUitvoer},
     {"Append",
      {"encode", "./in/bel.wav", "-o", "./uit.c", "--append", "--depfile", "./uit.d"},
      oudeUitvoer},
