@@ -151,7 +151,7 @@ void kestrolin_wav_rewind(kestrolin_wav* wav) {
 /* Decodes the next sample of a block. */
 static int16_t next_of_block(kestrolin_wav* wav) {
   const unsigned unit = IMA_UNIT * (unsigned)wav->channels;
-  const unsigned char* mine = &wav->next[IMA_UNIT * wav->channel];
+  const unsigned char* mine = &wav->next[(size_t)IMA_UNIT * wav->channel];
   kestrolin_ima* ima = &wav->ima[wav->channel];
   if (wav->frame == 0U) {
     ima->predictor = kestrolin_s16(mine);

@@ -29,7 +29,9 @@ class Disguise {
     current = this;
   }
   Disguise(Disguise const&) = delete;
+  Disguise(Disguise&&) = delete;
   Disguise& operator=(Disguise const&) = delete;
+  Disguise& operator=(Disguise&&) = delete;
   ~Disguise() {
     EXPECT_FALSE(strayed) << "something else than the array was read";
     current = nullptr;
