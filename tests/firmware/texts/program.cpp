@@ -15,14 +15,20 @@ std::string arrayOf(Program const& program, TextFragment const& fragment) {
   return (program.language == UitvoerTaalCPP ? std::string(className) + "::" : "") + fragment.name;
 }
 
+// The declarations of the arrays, which put them where the readers read.
+std::string declarationsOf(Program const& program, std::string const& storage) {
+  std::string const type = program.kind == Kind::Speex ? "signed char" : "unsigned char";
+  std::string source;
+  for (TextFragment const& fragment : program.fragments) {
+    source += storage + " const " + type + " " + fragment.name + "[] KESTROLIN_FLASH;\n";
+  }
+  return source;
+}
+
 // The class, which the text defines the members of.
 std::string classOf(Program const& program) {
-  std::string const type = program.kind == Kind::Speex ? "signed char" : "unsigned char";
-  std::string source = "class " + std::string(className) + " {\n public:\n";
-  for (TextFragment const& fragment : program.fragments) {
-    source += "  static const " + type + " " + fragment.name + "[];\n";
-  }
-  return source + "};\n";
+  return "class " + std::string(className) + " {\n public:\n" +
+         declarationsOf(program, "  static") + "};\n";
 }
 
 std::string rowOf(Program const& program, TextFragment const& fragment) {
@@ -72,14 +78,13 @@ Program makeProgram(Kind kind, UitvoerTaal language, std::string const& folder) 
   return makers.at(static_cast<std::size_t>(kind))(folder, language);
 }
 
-std::string sourceOf(Program const& program) {
-  std::string source = "#include \"runner.h\"\n";
-  if (program.language == UitvoerTaalCPP) {
-    source += classOf(program);
-  }
+std::string sourceOf(Program const& program, std::size_t first, std::size_t last) {
+  std::string source = "#include \"kestrolin_status.h\"\n#include \"runner.h\"\n";
+  source +=
+      program.language == UitvoerTaalCPP ? classOf(program) : declarationsOf(program, "extern");
   source += program.text + "const runner_fragment runner_fragments[] = {\n";
-  for (TextFragment const& fragment : program.fragments) {
-    source += rowOf(program, fragment);
+  for (std::size_t i = first; i < last; ++i) {
+    source += rowOf(program, program.fragments.at(i));
   }
   return source +
          "};\n"

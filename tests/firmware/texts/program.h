@@ -2,6 +2,7 @@
 // out of them, by the rules of the formats and without the tool.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -68,6 +69,6 @@ Program speexProgram(std::string const& folder, UitvoerTaal language);
 Program wavProgram(std::string const& folder, UitvoerTaal language);
 Program makeProgram(Kind kind, UitvoerTaal language, std::string const& folder);
 
-// The source file that holds the program's fragments and their table: C or C++, to be compiled with
-// runner.h.
-std::string sourceOf(Program const& program);
+// The source file that holds the program's fragments and the table of those from number `first` to
+// before `last`: C or C++, to be compiled with runner.h and the readers' headers.
+std::string sourceOf(Program const& program, std::size_t first, std::size_t last);

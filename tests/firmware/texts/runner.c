@@ -64,7 +64,8 @@ static void put_no_speex(void) {
 static void put_frame(const char* frame, size_t count) {
   put32((uint32_t)count);
   for (size_t i = 0; i < count; ++i) {
-    put16((unsigned char)frame[i]);
+    /* Where arrays lie, frames do. */
+    put16((unsigned char)KESTROLIN_READ_BYTE((const unsigned char*)&frame[i]));
   }
 }
 

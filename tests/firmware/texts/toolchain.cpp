@@ -1,8 +1,10 @@
 #include "tests/firmware/texts/toolchain.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <numeric>
+#include <string_view>
 #include <utility>
 
 #include "tests/audio/codec/codecHulp.h"
@@ -19,8 +21,12 @@ std::string const readersFlags = " -std=c99 -Wpedantic -I" + firmware + " -I" + 
 std::string const readers = " " + firmware + "/kestrolin_*.c " + texts + "/runner.c ";
 
 bool isThere(std::string const& program) {
-  return voerUit("command -v " + program + " > /dev/null 2>&1") == 0;
+  return program.front() == '/' ? std::filesystem::exists(program)
+                                : voerUit("command -v " + program + " > /dev/null 2>&1") == 0;
 }
+
+// Bytes of the number in front of a stream.
+constexpr std::ptrdiff_t countSize = 4;
 
 std::string withBlanks(std::vector<std::string> const& words) {
   return std::accumulate(
@@ -48,24 +54,6 @@ Toolchain hostToolchain(HostCompilers compilers, bool decodes) {
   return host;
 }
 
-Toolchain targetToolchain() {
-  std::string const example = firmware + "/example";
-  std::string const machine = " -mcpu=cortex-m4 -mthumb";
-  std::string const flags = machine + " -Os -ffreestanding" + warnings;
-  Toolchain target;
-  target.name = "target";
-  target.programs = {"arm-none-eabi-gcc", "arm-none-eabi-g++", "qemu-system-arm"};
-  target.packages = {"gcc-arm-none-eabi", "libnewlib-arm-none-eabi", "qemu-system-arm"};
-  target.c = "arm-none-eabi-gcc" + flags;
-  target.cpp = "arm-none-eabi-g++ -fno-exceptions -fno-rtti" + flags;
-  target.support = "-I" + example + " " + example + "/startup.c " + example + "/semihosting.c " +
-                   texts + "/target_main.c";
-  // With the compiler of C: the text needs nothing of the library of C++.
-  target.link = "arm-none-eabi-gcc" + machine + " -nostartfiles -T " + example + "/mps2-an386.ld";
-  target.run = example + "/emulate program";
-  return target;
-}
-
 testing::AssertionResult isInstalled(Toolchain const& toolchain) {
   auto const missing =
       std::find_if_not(toolchain.programs.begin(), toolchain.programs.end(), isThere);
@@ -74,6 +62,11 @@ testing::AssertionResult isInstalled(Toolchain const& toolchain) {
   }
   return testing::AssertionFailure()
          << *missing << " is not installed: apt-get install" << withBlanks(toolchain.packages);
+}
+
+bool isTargetRequired() {
+  char const* const target = std::getenv("KESTROLIN_TARGET");
+  return target != nullptr && target == std::string_view("required");
 }
 
 ProgramMaker::ProgramMaker(Toolchain chain, std::string const& folder)
@@ -90,20 +83,35 @@ bool ProgramMaker::prepare() {
   return prepared;
 }
 
-Bytes ProgramMaker::streamOf(Program const& program) {
-  if (!prepare()) {
-    return {};
-  }
+Bytes ProgramMaker::partOf(Program const& program, std::size_t first, std::size_t last) {
   bool const inC = program.language == UitvoerTaalC;
   std::string const source = inC ? "program.c" : "program.cpp";
-  maakBestand(place + "/" + source, sourceOf(program));
+  maakBestand(place + "/" + source, sourceOf(program, first, last));
   std::filesystem::remove(place + "/stream.bin");
   std::string const compile = (inC ? toolchain.c + " -std=c99" : toolchain.cpp + " -std=c++11") +
-                              " -I" + texts + " -c " + source;
+                              " -I" + firmware + " -I" + texts + " -c " + source;
   std::string const link =
       toolchain.link + " program.o readers/*.o -o program" + toolchain.libraries;
   testing::AssertionResult const ran =
       luktIn(place, compile + " && " + link + " && " + toolchain.run);
   EXPECT_TRUE(ran);
   return ran ? leesBytes(place + "/stream.bin") : Bytes();
+}
+
+Bytes ProgramMaker::streamOf(Program const& program) {
+  if (!prepare()) {
+    return {};
+  }
+  std::size_t const all = program.fragments.size();
+  // The count in front of each part becomes one for all.
+  Bytes stream = laagEerst(all, countSize);
+  for (std::size_t part = 0; part < toolchain.parts; ++part) {
+    Bytes const own =
+        partOf(program, all * part / toolchain.parts, all * (part + 1) / toolchain.parts);
+    if (own.size() < countSize) {
+      return {};
+    }
+    stream.insert(stream.end(), own.begin() + countSize, own.end());
+  }
+  return stream;
 }
