@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Says that it is ready, warns and chimes, on a DAC of 12 bits. What the DAC got is left in files
  * of the names of the arrays. The build makes the arrays and their headers.
  */

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 The Kestrolin team
+# SPDX-License-Identifier: MIT
 # For the Cortex-M4 of the board, with the GNU compiler.
 set(CMAKE_SYSTEM_NAME Generic)
 set(CMAKE_SYSTEM_PROCESSOR cortex-m4)

@@ -1,11 +1,13 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* What a program needs of a board to play: a timer interrupt at the sampling frequency, and a DAC.
  *
  * board_mps2.c is an emulated MPS2 board with a Cortex-M4, board_host.c any computer with a C
  * library. Neither has a DAC, so what is written to it goes into a file, two bytes a code, low byte
  * first.
  */
-#ifndef BOARD_H
-#define BOARD_H
+#ifndef KESTROLIN_EXAMPLE_BOARD_H
+#define KESTROLIN_EXAMPLE_BOARD_H
 
 #include <stdint.h>
 

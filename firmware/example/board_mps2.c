@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* The registers are those of the Cortex-M system design kit's timer, which the MPS2 board has at
  * the addresses of its application note AN386, and of the Cortex-M4's interrupt controller.
  */
@@ -36,7 +38,7 @@ void timer0_handler(void);
 
 void timer0_handler(void) {
   timer0->interrupt = 1; /* done with */
-  ++interrupts;
+  interrupts = interrupts + 1U;
   timer_function();
 }
 
@@ -76,8 +78,10 @@ void board_stop_timer(void) {
 }
 
 void board_write_dac(uint16_t code) {
-  if (captured_count < CAPTURE_SIZE) {
-    captured[captured_count++] = code;
+  const uint32_t count = captured_count;
+  if (count < CAPTURE_SIZE) {
+    captured[count] = code;
+    captured_count = count + 1U;
   } else {
     failed = 1;
   }

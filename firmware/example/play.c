@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Plays arrays of every kind, one after the other, on a DAC of 12 bits. What the DAC got is left in
  * one file a fragment, of the array's name.
  */

@@ -1,22 +1,30 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 #include "player.h"
 
 #include "board.h"
-#include "queue.h"
+#include "player_queue.h"
 
 enum { BLOCK = 160 };
 
-static queue codes;
+static player_queue codes;
 static uint16_t silence;
-static volatile int ended; /* the last code is in the queue */
+static volatile uint8_t complete; /* the last code is in the queue */
+static volatile uint8_t silent;   /* the DAC is at mid-scale, behind the last code */
 static volatile uint32_t underruns;
 
+/* At the end the DAC goes to mid-scale, once: left at the last sample, it would click. */
 static void next_code(void) {
   uint16_t code = silence;
-  if (!queue_take(&codes, &code)) {
-    if (ended) {
-      return;
+  if (silent) {
+    return;
+  }
+  if (!player_queue_take(&codes, &code)) {
+    if (complete) {
+      silent = 1;
+    } else {
+      underruns = underruns + 1U;
     }
-    ++underruns;
   }
   board_write_dac(code);
 }
@@ -28,7 +36,7 @@ static size_t feed(const player_sound* sound, kestrolin_dac_width width, int* ru
   const size_t count = sound->read(sound->reader, samples, BLOCK);
   for (size_t i = 0; i < count; ++i) {
     const uint16_t code = kestrolin_dac_code_from(samples[i], sound->bits, width);
-    while (!queue_put(&codes, code)) {
+    while (!player_queue_put(&codes, code)) {
       if (!*running) {
         board_start_timer(sound->rate, next_code);
         *running = 1;
@@ -45,15 +53,16 @@ int player_play(const char* name, const player_sound* sound, kestrolin_dac_width
   }
   int running = 0;
   silence = kestrolin_dac_mid(width);
-  ended = 0;
+  complete = 0;
+  silent = 0;
   underruns = 0;
   while (feed(sound, width, &running) > 0) {
   }
-  ended = 1;
+  complete = 1;
   if (!running) {
     board_start_timer(sound->rate, next_code);
   }
-  while (queue_count(&codes) > 0) {
+  while (!silent) {
     board_wait();
   }
   board_stop_timer();

@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 #include "semihosting.h"
 
 #include <stdint.h>

@@ -1,9 +1,11 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Files of the host and the end of the program, by Arm semihosting: the emulator (or a debug probe)
  * carries the call out when the processor stops at a breakpoint instruction with 0xAB. Operation
  * numbers and their blocks of parameters are those of Arm's "Semihosting for AArch32 and AArch64".
  */
-#ifndef SEMIHOSTING_H
-#define SEMIHOSTING_H
+#ifndef KESTROLIN_EXAMPLE_SEMIHOSTING_H
+#define KESTROLIN_EXAMPLE_SEMIHOSTING_H
 
 #include <stddef.h>
 

@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Takes in the texts as they were saved, so that each can be saved anew without a thought for this
  * file, and tells the sizes, which only the file that defines an array knows.
  */

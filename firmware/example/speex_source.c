@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 #include "speex_source.h"
 
 int speex_source_open(speex_source* source, const kestrolin_speex* reader) {

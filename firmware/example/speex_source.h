@@ -1,9 +1,11 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* A Speex array as a stream of samples: the frames that the reader finds, decoded by libspeex,
  * without the codec's delay at the start and without what fills up the last frame, as far as the
  * array tells.
  */
-#ifndef SPEEX_SOURCE_H
-#define SPEEX_SOURCE_H
+#ifndef KESTROLIN_EXAMPLE_SPEEX_SOURCE_H
+#define KESTROLIN_EXAMPLE_SPEEX_SOURCE_H
 
 #include <speex/speex.h>
 

@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* What runs before main, for the MPS2 board with a Cortex-M4 (FPGA image AN386): the table of
  * vectors, and the reset handler that the processor starts with. The linker script
  * mps2-an386.ld gives the addresses.

@@ -1,6 +1,8 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* How libspeex is built for a processor without floating point, as a decoder alone. */
-#ifndef SPEEX_CONFIG_H
-#define SPEEX_CONFIG_H
+#ifndef KESTROLIN_EXAMPLE_SPEEX_CONFIG_H
+#define KESTROLIN_EXAMPLE_SPEEX_CONFIG_H
 
 #define FIXED_POINT
 #define DISABLE_ENCODER

@@ -1,10 +1,16 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* What libspeex asks of the system it runs on: memory from one static block (arena.c), and nothing
  * to print on.
  */
-#ifndef OS_SUPPORT_CUSTOM_H
-#define OS_SUPPORT_CUSTOM_H
+#ifndef KESTROLIN_EXAMPLE_SPEEX_OS_SUPPORT_CUSTOM_H
+#define KESTROLIN_EXAMPLE_SPEEX_OS_SUPPORT_CUSTOM_H
 
 #include "arena.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
 
 #define OVERRIDE_SPEEX_ALLOC
 static inline void* speex_alloc(int size) {
@@ -56,5 +62,9 @@ static inline void _speex_putc(int character, void* file) {
   (void)character;
   (void)file;
 }
+
+#ifdef __cplusplus
+}
+#endif
 
 #endif

@@ -1,6 +1,8 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* The integer types of libspeex, as its own configuration would write them. */
-#ifndef SPEEX_CONFIG_TYPES_H
-#define SPEEX_CONFIG_TYPES_H
+#ifndef KESTROLIN_EXAMPLE_SPEEX_CONFIG_TYPES_H
+#define KESTROLIN_EXAMPLE_SPEEX_CONFIG_TYPES_H
 
 #include <stdint.h>
 

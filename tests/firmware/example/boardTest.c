@@ -28,7 +28,7 @@ static volatile uint32_t last;
 static volatile int constructed;
 static void construct(void) __attribute__((constructor));
 static void construct(void) {
-  ++constructed;
+  constructed = constructed + 1;
 }
 
 /* Memory is all zeros when the emulator starts, so variables are looked at after a second start. */
@@ -44,9 +44,10 @@ static int variables_are_set_up(void) {
 
 static void count_interrupt(void) {
   last = *timer_value;
-  if (interrupts++ == 0) {
+  if (interrupts == 0) {
     first = last;
   }
+  interrupts = interrupts + 1;
 }
 
 static int timer_has_the_rate(void) {
@@ -75,7 +76,7 @@ static size_t read_tone(void* left, int16_t* samples, size_t room) {
 
 /* Takes longer, some 50 ms, than the codes in the queue last. */
 static size_t read_too_slowly(void* left, int16_t* samples, size_t room) {
-  for (volatile uint32_t turns = 0; turns < 1000000; ++turns) {
+  for (volatile uint32_t turns = 0; turns < 1000000; turns = turns + 1U) {
   }
   return read_tone(left, samples, room);
 }
@@ -89,7 +90,7 @@ static void write_much(void) {
   for (int i = 0; i < 5000; ++i) {
     board_write_dac(0);
   }
-  ++interrupts;
+  interrupts = interrupts + 1;
 }
 
 /* More codes between two waits than are kept. */
