@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Counts the instructions that the readers take, on an emulator that lets each of them last a fixed
  * time: run it with `-icount shift=3`, which is 8 ns. Prints a line a reader, with tabs in between:
  * its name, the instructions of opening, those of reading in blocks of 160 samples and of reading
