@@ -273,6 +273,12 @@ def figures(example: Example) -> None:
     run(ROOT / "bench" / "firmware" / "target", example.texts, speex_source(), example.work / "figures", "--check")
 
 
+def main(cases: dict[str, Callable[[Example], None]]) -> None:
+    """Runs the case that the command line names."""
+    with tempfile.TemporaryDirectory(prefix="kestrolinExample") as folder:
+        cases[sys.argv[1]](Example(Path(sys.argv[2]), Path(folder)))
+
+
 CASES: dict[str, Callable[[Example], None]] = {
     "host": host,
     "target": target,
@@ -285,5 +291,4 @@ CASES: dict[str, Callable[[Example], None]] = {
 }
 
 if __name__ == "__main__":
-    with tempfile.TemporaryDirectory(prefix="kestrolinExample") as folder:
-        CASES[sys.argv[1]](Example(Path(sys.argv[2]), Path(folder)))
+    main(CASES)
