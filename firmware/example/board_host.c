@@ -6,6 +6,7 @@
 
 static FILE* dac;
 static void (*timer)(void);
+static void (*deferred)(void);
 
 int board_open_dac(const char* name) {
   dac = fopen(name, "wb");
@@ -30,6 +31,19 @@ void board_wait(void) {
   if (timer != NULL) {
     timer();
   }
+  void (*const function)(void) = deferred;
+  deferred = NULL;
+  if (function != NULL) {
+    function();
+  }
+}
+
+void board_defer(void (*function)(void)) {
+  deferred = function;
+}
+
+void board_publish(void) {
+  __asm__ volatile("" ::: "memory");
 }
 
 int board_close_dac(void) {

@@ -22,6 +22,11 @@ static timer_registers* const timer0 = (timer_registers*)0x40000000;
 static volatile uint32_t* const interrupt_enable = (volatile uint32_t*)0xE000E100;
 enum { TIMER0_BIT = 1 << 8 };
 
+/* The exception PendSV, which a program raises itself. */
+static volatile uint32_t* const interrupt_control = (volatile uint32_t*)0xE000ED04;
+static volatile uint32_t* const pendsv_priority = (volatile uint32_t*)0xE000ED20;
+enum { PENDSV_RAISE = 1 << 28, PENDSV_LOWEST = 0xFF << 16 };
+
 /* What stands in for the DAC's register: the interrupt appends, the main program empties. The
  * emulated board stands still while the emulator writes to a file, so no interrupt is lost
  * meanwhile. */
@@ -32,6 +37,7 @@ static volatile uint32_t captured_count;
 static int file;
 static int failed;
 static void (*timer_function)(void);
+static void (*deferred)(void);
 static volatile uint32_t interrupts;
 
 void timer0_handler(void);
@@ -40,6 +46,24 @@ void timer0_handler(void) {
   timer0->interrupt = 1; /* done with */
   interrupts = interrupts + 1U;
   timer_function();
+}
+
+void pendsv_handler(void);
+
+void pendsv_handler(void) {
+  deferred();
+}
+
+void board_defer(void (*function)(void)) {
+  deferred = function;
+  *pendsv_priority = PENDSV_LOWEST;
+  *interrupt_control = PENDSV_RAISE;
+}
+
+/* On one core the compiler alone could put writes in another order. The instruction is for what
+ * else reads the memory: a DMA controller, another core. */
+void board_publish(void) {
+  __asm__ volatile("dmb" ::: "memory");
 }
 
 static void disable_interrupts(void) {

@@ -41,7 +41,8 @@ static void unexpected_handler(void) {
   semihosting_exit(FAULT_STATUS);
 }
 
-/* A program that starts the timer brings the handler of its own. */
+/* A program that starts the timer brings handlers of its own. */
+void pendsv_handler(void) __attribute__((weak, alias("unexpected_handler")));
 void timer0_handler(void) __attribute__((weak, alias("unexpected_handler")));
 
 typedef union vector {
@@ -49,7 +50,7 @@ typedef union vector {
   const void* stack;
 } vector;
 
-enum { EXCEPTIONS = 16, TIMER0_INTERRUPT = 8 };
+enum { PENDSV = 14, EXCEPTIONS = 16, TIMER0_INTERRUPT = 8 };
 
 /* The first word is where the stack starts, the second one where the processor does. Exceptions 2
  * to 15 follow, and the interrupts up to that of timer 0, the one that is ever switched on. */
@@ -61,7 +62,8 @@ enum { EXCEPTIONS = 16, TIMER0_INTERRUPT = 8 };
 __attribute__((section(".vectors"), used))
 static const vector vectors[EXCEPTIONS + TIMER0_INTERRUPT + 1] = {
     {.stack = stack_top}, {reset_handler},
-    UNEXPECTED, UNEXPECTED, UNEXPECTED, UNEXPECTED, UNEXPECTED, UNEXPECTED, UNEXPECTED_8,
-    UNEXPECTED_8,
+    UNEXPECTED, UNEXPECTED, UNEXPECTED, UNEXPECTED, UNEXPECTED, UNEXPECTED,
+    UNEXPECTED, UNEXPECTED, UNEXPECTED, UNEXPECTED, UNEXPECTED, UNEXPECTED,
+    [PENDSV] = {pendsv_handler}, UNEXPECTED, UNEXPECTED_8,
     [EXCEPTIONS + TIMER0_INTERRUPT] = {timer0_handler}};
 /* clang-format on */

@@ -88,28 +88,21 @@ class Example:
         self.texts = work / "texts"
         run(generator, ROOT / "fragmenten", self.texts)
 
-    def build(self, name: str, *settings: str) -> Path:
-        program = self.work / name / "play.elf"
+    def build(self, name: str, *settings: str, elf: str = "play") -> Path:
+        program = self.work / name / f"{elf}.elf"
         run("make", "-s", "-j2", "-C", EXAMPLE, f"TEXTS={self.texts}", f"OUT={program.parent}",
             "WERROR=-Werror", *settings, program)
         return program
 
-    def play(self, name: str, *settings: str) -> dict[str, array]:
-        """Builds the example, plays it, and returns the codes of each fragment."""
-        program = self.build(name, *settings)
-        dac = self.work / f"{name}-dac"
+    def play(self, name: str, *settings: str, elf: str = "play") -> dict[str, array]:
+        """Builds a program of the example, runs it, and returns the codes of each file."""
+        program = self.build(name, *settings, elf=elf)
+        dac = self.work / f"{name}-{elf}-dac"
         dac.mkdir()
-        on_host = "BOARD=host" in settings
-        lines = run(*([program] if on_host else [EXAMPLE / "emulate", program]), cwd=dac)
+        lines = run(*([program] if "BOARD=host" in settings else [EXAMPLE / "emulate", program]), cwd=dac)
         played = {file.name: array("H", file.read_bytes()) for file in dac.iterdir()}
-        assert lines.split() == [
-            word for fragment in self.order(played) for word in (f"{fragment}:", "played")
-        ], lines
+        assert sorted(lines.splitlines()) == [f"{name}: played" for name in sorted(played)], lines
         return played
-
-    @staticmethod
-    def order(played: dict[str, array]) -> list[str]:
-        return [name for name in (*PLAIN, *SPEEX) if name in played]
 
 
 def codes_of(samples: list[int]) -> array:
