@@ -6,22 +6,23 @@
 #ifndef KESTROLIN_EXAMPLE_SOUNDS_H
 #define KESTROLIN_EXAMPLE_SOUNDS_H
 
-#include <stddef.h>
+#include "../kestrolin_status.h"
 
 #ifdef __cplusplus
 extern "C" {
 #endif
 
-extern const unsigned char ready_pcm[], chime_pcm[];
+extern const unsigned char ready_pcm[] KESTROLIN_FLASH, chime_pcm[] KESTROLIN_FLASH;
 extern const size_t ready_pcm_size, chime_pcm_size;
 
-extern const unsigned char ready_adpcm[], warning_adpcm[];
+extern const unsigned char ready_adpcm[] KESTROLIN_FLASH, warning_adpcm[] KESTROLIN_FLASH;
 extern const size_t ready_adpcm_size, warning_adpcm_size;
 
-extern const unsigned char chime_wav[], alarm_wav[];
+extern const unsigned char chime_wav[] KESTROLIN_FLASH, alarm_wav[] KESTROLIN_FLASH;
 extern const size_t chime_wav_size, alarm_wav_size;
 
-extern const signed char ready_speex[], warning_speex[], chime_speex[], alarm_speex[];
+extern const signed char ready_speex[] KESTROLIN_FLASH, warning_speex[] KESTROLIN_FLASH,
+    chime_speex[] KESTROLIN_FLASH, alarm_speex[] KESTROLIN_FLASH;
 extern const size_t ready_speex_size, warning_speex_size, chime_speex_size, alarm_speex_size;
 
 #ifdef __cplusplus

@@ -30,6 +30,16 @@ from nakijken import Stand, arrays_in, codes_van, samples_van
 EXAMPLE = ROOT / "firmware" / "example"
 TOOLS = ("arm-none-eabi-gcc", "qemu-system-arm")
 PACKAGES = "gcc-arm-none-eabi libnewlib-arm-none-eabi qemu-system-arm"
+# What else is measured, and the packages that have the tools for it.
+OTHER_TARGETS = {
+    "/usr/bin/avr-gcc": "gcc-avr",
+    "/usr/lib/avr/include/avr/pgmspace.h": "avr-libc",
+    "/usr/include/simavr/sim_avr.h": "libsimavr-dev",
+    "/usr/include/libelf.h": "libelf-dev",
+    "/usr/bin/riscv64-unknown-elf-gcc": "gcc-riscv64-unknown-elf",
+    "/usr/lib/picolibc/riscv64-unknown-elf/picolibc.specs": "picolibc-riscv64-unknown-elf",
+    "/usr/bin/qemu-system-riscv32": "qemu-system-misc",
+}
 SKIPPED = 77
 MID = 2048
 
@@ -263,6 +273,9 @@ def library(example: Example) -> None:
 def figures(example: Example) -> None:
     """The page tells the figures that are measured, and the goals are met."""
     need_tools()
+    missing = [package for path, package in OTHER_TARGETS.items() if not Path(path).exists()]
+    if missing:
+        skip(f"not installed: packages {' '.join(missing)}")
     run(ROOT / "bench" / "firmware" / "target", example.texts, speex_source(), example.work / "figures", "--check")
 
 
