@@ -27,7 +27,8 @@ void board_stop_timer(void);
 /* For the handler: the next output of the DAC. */
 void board_write_dac(uint16_t code);
 
-/* For the main program when it has nothing to do: returns after the next interrupt. */
+/* For the main program when it has nothing to do: returns after the timer's next interrupt, or when
+ * the timer stands still. */
 void board_wait(void);
 
 /* For a handler: calls `function` from an interrupt of lower priority than the timer's, as soon as

@@ -39,6 +39,7 @@ static int failed;
 static void (*timer_function)(void);
 static void (*deferred)(void);
 static volatile uint32_t interrupts;
+static volatile uint8_t running;
 
 void timer0_handler(void);
 
@@ -94,11 +95,13 @@ void board_start_timer(uint32_t rate, void (*handler)(void)) {
   timer0->reload = period - 1;
   timer0->value = period - 1;
   *interrupt_enable = TIMER0_BIT;
+  running = 1;
   timer0->control = CONTROL_ENABLE | CONTROL_INTERRUPT;
 }
 
 void board_stop_timer(void) {
   timer0->control = 0;
+  running = 0;
 }
 
 void board_write_dac(uint16_t code) {
@@ -116,7 +119,7 @@ void board_write_dac(uint16_t code) {
 void board_wait(void) {
   const uint32_t seen = interrupts;
   empty_capture();
-  while (interrupts == seen) {
+  while (interrupts == seen && running) {
   }
 }
 

@@ -3,11 +3,8 @@
 /* Plays arrays of every kind, one after the other, on a DAC of 12 bits. What the DAC got is left in
  * one file a fragment, of the array's name.
  */
-#include "../kestrolin_adpcm.h"
-#include "../kestrolin_pcm.h"
-#include "../kestrolin_wav.h"
-#include "board.h"
 #include "player.h"
+#include "player_readers.h"
 #include "sounds.h"
 #ifdef WITH_SPEEX
 #include "speex_source.h"
@@ -16,31 +13,13 @@
 static const kestrolin_dac_width DAC = KESTROLIN_DAC_12;
 enum { ADPCM_BITS = 8 };
 
-static size_t read_pcm(void* reader, int16_t* samples, size_t room) {
-  return kestrolin_pcm_read(reader, samples, room);
-}
-
-static size_t read_adpcm(void* reader, int16_t* samples, size_t room) {
-  return kestrolin_adpcm_read(reader, samples, room);
-}
-
-static size_t read_wav(void* reader, int16_t* samples, size_t room) {
-  return kestrolin_wav_read(reader, samples, room);
-}
-
-static int report(const char* name, int failed) {
-  board_print(name);
-  board_print(failed ? ": failed\n" : ": played\n");
-  return failed;
-}
-
 static int play_pcm(const char* name, const unsigned char* array, size_t size) {
   kestrolin_pcm pcm;
   if (kestrolin_pcm_open(&pcm, array, size) != KESTROLIN_OK) {
-    return report(name, 1);
+    return player_report(name, 1);
   }
-  const player_sound sound = {pcm.rate, DAC, read_pcm, &pcm};
-  return report(name, player_play(name, &sound, DAC));
+  const player_sound sound = {pcm.rate, DAC, player_read_pcm, &pcm};
+  return player_report(name, player_play(name, &sound, DAC));
 }
 
 /* The encoder ran on from one fragment to the next, so the decoder does: `adpcm` holds the state
@@ -49,20 +28,20 @@ static int play_adpcm(const char* name, const unsigned char* array, size_t size,
                       kestrolin_adpcm* adpcm) {
   const kestrolin_adpcm before = *adpcm;
   if (kestrolin_adpcm_open(adpcm, array, size) != KESTROLIN_OK) {
-    return report(name, 1);
+    return player_report(name, 1);
   }
   kestrolin_adpcm_resume(adpcm, &before);
-  const player_sound sound = {adpcm->rate, ADPCM_BITS, read_adpcm, adpcm};
-  return report(name, player_play(name, &sound, DAC));
+  const player_sound sound = {adpcm->rate, ADPCM_BITS, player_read_adpcm, adpcm};
+  return player_report(name, player_play(name, &sound, DAC));
 }
 
 static int play_wav(const char* name, const unsigned char* array, size_t size) {
   kestrolin_wav wav;
   if (kestrolin_wav_open(&wav, array, size) != KESTROLIN_OK || wav.channels != 1) {
-    return report(name, 1);
+    return player_report(name, 1);
   }
-  const player_sound sound = {wav.rate, DAC, read_wav, &wav};
-  return report(name, player_play(name, &sound, DAC));
+  const player_sound sound = {wav.rate, DAC, player_read_wav, &wav};
+  return player_report(name, player_play(name, &sound, DAC));
 }
 
 #ifdef WITH_SPEEX
@@ -75,12 +54,12 @@ static int play_speex(const char* name, const signed char* array, size_t size) {
   kestrolin_speex speex;
   if (kestrolin_speex_open(&speex, array, size) != KESTROLIN_OK ||
       speex_source_open(&source, &speex) != 0) {
-    return report(name, 1);
+    return player_report(name, 1);
   }
   const player_sound sound = {speex.rate, DAC, read_speex, &source};
   const int failed = player_play(name, &sound, DAC);
   speex_source_close(&source);
-  return report(name, failed);
+  return player_report(name, failed);
 }
 #endif
 

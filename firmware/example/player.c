@@ -68,3 +68,9 @@ int player_play(const char* name, const player_sound* sound, kestrolin_dac_width
   board_stop_timer();
   return board_close_dac() != 0 || underruns != 0;
 }
+
+int player_report(const char* name, int failed) {
+  board_print(name);
+  board_print(failed ? ": failed\n" : ": played\n");
+  return failed;
+}

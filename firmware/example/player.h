@@ -27,6 +27,9 @@ typedef struct player_sound {
  * and every code is in the file. */
 int player_play(const char* name, const player_sound* sound, kestrolin_dac_width width);
 
+/* Tells on a line whether the fragment was played. Returns `failed`. */
+int player_report(const char* name, int failed);
+
 #ifdef __cplusplus
 }
 #endif

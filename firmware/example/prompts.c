@@ -6,10 +6,10 @@
  *
  * The rules that make this safe without a lock:
  *
- *  - A reader belongs to one context. There are two: the interrupt reads from the one that
- * `playing` tells, the main program opens the other one.
- *  - The main program hands over by one store of a byte, which every processor does in one piece.
- *    board_publish before it sees to it that the reader is in memory by then.
+ *  - A reader belongs to one context. There are two readers: the byte `playing` tells from which
+ *    one the interrupt reads, and the main program opens the other one.
+ *  - The main program hands over by one store of that byte, which every processor does in one
+ *    piece. board_publish keeps the opening before that store, and the next opening behind it.
  *  - The main program alone writes `playing`. A prompt that has ended gives no samples, so that the
  *    interrupt needs not tell of it.
  *  - Events come from the main program, or from interrupts whose priority is not above the timer's:
@@ -24,6 +24,7 @@
 #include "../kestrolin_dac.h"
 #include "../kestrolin_pcm.h"
 #include "board.h"
+#include "player.h"
 #include "sounds.h"
 
 static const kestrolin_dac_width DAC = KESTROLIN_DAC_12;
@@ -66,6 +67,7 @@ static uint8_t free_reader(void) {
 static void hand_over(uint8_t which) {
   board_publish();
   playing = which;
+  board_publish();
 }
 
 /* For the main program. What plays goes on where these fail. */
@@ -169,7 +171,5 @@ int main(void) {
   }
   board_stop_timer();
   /* The chime has 16000 samples a second, so it is turned down. */
-  const int failed = board_close_dac() != 0 || failures != 1;
-  board_print(failed ? "prompts: failed\n" : "prompts: played\n");
-  return failed;
+  return player_report("prompts", board_close_dac() != 0 || failures != 1);
 }

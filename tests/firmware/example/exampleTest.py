@@ -40,6 +40,10 @@ OTHER_TARGETS = {
     "/usr/lib/picolibc/riscv64-unknown-elf/picolibc.specs": "picolibc-riscv64-unknown-elf",
     "/usr/bin/qemu-system-riscv32": "qemu-system-misc",
 }
+# A program of the board, with what the board brings along.
+TARGET = ("arm-none-eabi-gcc", "-Os", "-mcpu=cortex-m4", "-mthumb", "-nostartfiles", "--specs=nano.specs",
+          "-T", EXAMPLE / "mps2-an386.ld",
+          *(EXAMPLE / f"{name}.c" for name in ("board_mps2", "semihosting", "startup")))
 SKIPPED = 77
 MID = 2048
 
@@ -210,11 +214,8 @@ def board(example: Example) -> None:
     """The start-up code, the timer and the player, by a program that tries them on the board."""
     need_tools()
     program = example.work / "board.elf"
-    sources = ("player.c", "board_mps2.c", "semihosting.c", "startup.c", "../kestrolin_dac.c")
-    run("arm-none-eabi-gcc", "-std=c99", "-Wall", "-Wextra", "-Werror", "-Os", "-mcpu=cortex-m4",
-        "-mthumb", f"-I{EXAMPLE}", "-o", program, HERE / "boardTest.c",
-        *(EXAMPLE / source for source in sources), "-nostartfiles", "--specs=nano.specs", "-T",
-        EXAMPLE / "mps2-an386.ld")
+    run(*TARGET, "-std=c99", "-Wall", "-Wextra", "-Werror", f"-I{EXAMPLE}", "-o", program,
+        HERE / "boardTest.c", EXAMPLE / "player.c", EXAMPLE.parent / "kestrolin_dac.c")
     all_is_well = 7
     run(EXAMPLE / "emulate", program, cwd=example.work, status=all_is_well)
     names = ("tone", "short", "nothing", "slow")

@@ -1,0 +1,61 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
+#include "dma.h"
+
+#include "board.h"
+
+static dma_transfer current;
+static uint16_t at;  /* the next item of the half */
+static uint8_t half; /* that is played */
+static volatile uint8_t filled[DMA_HALVES];
+static volatile uint8_t played; /* the half that the program is to be told of */
+static volatile uint8_t late;
+
+static void tell(void) {
+  current.half_played(played);
+}
+
+static uint16_t next_item(void) {
+  const uint32_t index = (uint32_t)half * current.half_items + at;
+  return current.item_size == 1 ? ((const uint8_t*)current.buffer)[index]
+                                : ((const uint16_t*)current.buffer)[index];
+}
+
+/* The timer's interrupt. */
+static void transfer_item(void) {
+  if (at == 0 && !filled[half]) {
+    late = 1;
+  }
+  board_write_dac(next_item());
+  ++at;
+  if (at == current.half_items) {
+    filled[half] = 0;
+    played = half;
+    at = 0;
+    half = (uint8_t)(1 - half);
+    board_defer(tell);
+  }
+}
+
+void dma_start(uint32_t rate, const dma_transfer* transfer) {
+  current = *transfer;
+  at = 0;
+  half = 0;
+  late = 0;
+  dma_filled(0);
+  dma_filled(1);
+  board_start_timer(rate, transfer_item);
+}
+
+void dma_filled(uint8_t which) {
+  board_publish();
+  filled[which] = 1;
+}
+
+void dma_stop(void) {
+  board_stop_timer();
+}
+
+int dma_was_late(void) {
+  return late;
+}
