@@ -21,10 +21,13 @@ FIRMWARE = ROOT / "firmware"
 CPP = ("-std=c++20", "-Wall", "-Wextra", "-Werror", f"-I{EXAMPLE}", f"-I{EXAMPLE / 'speex'}")
 ONE_UNIT = ("-std=c99", "-Wall", "-Wextra", "-Wpedantic", "-Wconversion", "-Wsign-conversion", "-Wshadow",
             "-Wcast-qual", "-Wundef", "-Wmissing-prototypes", "-Wstrict-prototypes", "-Werror")
-# Only the processor of the board has it.
-NOT_HERE = "semihosting.h"
+# Only the processors of the boards have them.
+NOT_HERE = ("semihosting.h", "measure_target.h")
+# What the tool writes, and what has no comments.
+NO_NOTICE = ("firmware/LICENSE", "firmware/layouts/arduino/examples/Doorbell/ready.hpp",
+             "firmware/layouts/arduino/library.properties")
 NOTICE = re.compile(r"SPDX-FileCopyrightText: 2026 The Kestrolin team\n"
-                    r"(?:# | \* )SPDX-License-Identifier: MIT\b")
+                    r"(?:# | \* |     )SPDX-License-Identifier: MIT\b")
 
 
 def need(*tools: str) -> None:
@@ -43,13 +46,13 @@ def functions(header: Path) -> list[str]:
     """The functions that a header declares, but for those that libspeex names."""
     text = re.sub(r"/\*.*?\*/|^#.*?(?<!\\)$", "", header.read_text(encoding="utf-8"), flags=re.S | re.M)
     names = re.findall(r"^(?:static inline )?[a-z]\w*(?: [a-z]\w*)*\*? (\w+)\(", text, re.M)
-    return [name for name in names if not re.match(r"_?speex_(?!source_)", name)]
+    return [name for name in names if not re.match(r"_?speex_(?!source_)|__attribute__", name)]
 
 
 def is_apart(source: Path) -> bool:
     """A source of the example that is a program, or for the processor of the board."""
     text = source.read_text(encoding="utf-8")
-    return "int main(void) {" in text or NOT_HERE in text
+    return "int main(void) {" in text or any(header in text for header in NOT_HERE)
 
 
 def users(work: Path) -> tuple[list[Path], list[str]]:
@@ -57,7 +60,7 @@ def users(work: Path) -> tuple[list[Path], list[str]]:
     made, names = [], []
     for number, header in enumerate(headers()):
         declared = functions(header)
-        user = work / f"user{number}{'_board' if header.name == NOT_HERE else ''}.cpp"
+        user = work / f"user{number}{'_board' if header.name in NOT_HERE else ''}.cpp"
         user.write_text(
             f'#include "{header}"\n#include "{header}"\n' + "".join(
                 f"extern void (*use{number}_{name})();\n"
@@ -116,7 +119,7 @@ def licence(_: Example) -> None:
     files = sorted(name for name in Boom(ROOT).bestanden if name.startswith("firmware/"))
     assert len(files) >= 40 and "firmware/LICENSE" in files, files
     for name in files:
-        if name == "firmware/LICENSE":
+        if name in NO_NOTICE:
             continue
         lines = (ROOT / name).read_text(encoding="utf-8").split("\n")
         start = 1 if lines[0].startswith("#!") else 0

@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Says "ready" when the board starts, and again when the button is pressed.
  *
  * For an Uno, or another board with an ATmega328P.

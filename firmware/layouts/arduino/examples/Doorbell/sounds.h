@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* The sounds of the sketch. They lie in flash: an Uno has 32 KiB of that, and 2 KiB of RAM. */
 #ifndef SOUNDS_H
 #define SOUNDS_H

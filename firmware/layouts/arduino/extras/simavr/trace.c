@@ -1,3 +1,5 @@
+/* SPDX-FileCopyrightText: 2026 The Kestrolin team
+ * SPDX-License-Identifier: MIT */
 /* Tells simavr what to run a sketch on, and to write down what the compare register of timer 1
  * gets: see the script beside this file. */
 #include <avr/io.h>
