@@ -59,6 +59,7 @@ static int timer_has_the_rate(void) {
     board_wait();
   }
   board_stop_timer();
+  board_wait(); /* for nothing, where the timer stands still */
   const uint32_t clocks = first - last;
   const uint32_t expected = (uint32_t)(interrupts - 1) * ODD_PERIOD;
   return clocks + ODD_PERIOD / 10 > expected && clocks < expected + ODD_PERIOD / 10;
@@ -69,7 +70,8 @@ static volatile int broken_into;
 /* Lasts until the timer's interrupt has come three times, or for some 50 ms. */
 static void outlast_interrupts(void) {
   const int seen = interrupts;
-  for (volatile uint32_t turns = 0; turns < 1000000 && interrupts < seen + 3; turns = turns + 1U) {
+  for (volatile uint32_t turns = 0; turns < 1000000 && interrupts < seen + 3;) {
+    turns = turns + 1U;
   }
   broken_into = interrupts - seen;
 }
@@ -101,7 +103,8 @@ static size_t read_tone(void* left, int16_t* samples, size_t room) {
 
 /* Takes longer, some 50 ms, than the codes in the queue last. */
 static size_t read_too_slowly(void* left, int16_t* samples, size_t room) {
-  for (volatile uint32_t turns = 0; turns < 1000000; turns = turns + 1U) {
+  for (volatile uint32_t turns = 0; turns < 1000000;) {
+    turns = turns + 1U;
   }
   return read_tone(left, samples, room);
 }

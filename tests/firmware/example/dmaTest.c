@@ -29,7 +29,8 @@ static size_t read_in_drops(void* reader, int16_t* samples, size_t room) {
 
 /* Takes longer, some 50 ms, than the 20 ms that a half lasts. */
 static size_t read_too_slowly(void* reader, int16_t* samples, size_t room) {
-  for (volatile uint32_t turns = 0; turns < 1000000; turns = turns + 1U) {
+  for (volatile uint32_t turns = 0; turns < 1000000;) {
+    turns = turns + 1U;
   }
   return read_ramp(reader, samples, room);
 }

@@ -7,6 +7,7 @@ from __future__ import annotations
 
 import re
 import shutil
+import subprocess
 import sys
 from pathlib import Path
 
@@ -105,6 +106,16 @@ def one_unit(example: Example) -> None:
         run(compiler, *ONE_UNIT, "-O2", "-c", unit, "-o", unit.with_suffix(".o"))
 
 
+def volatile(example: Example) -> None:
+    """No source counts in place what is volatile. As C++ most do not compile, but all are warned of."""
+    need("g++")
+    for source in (*FIRMWARE.glob("*.c"), *EXAMPLE.rglob("*.c")):
+        done = subprocess.run(
+            ["g++", "-x", "c++", "-std=c++20", "-fpermissive", "-fsyntax-only", "-DWITH_SPEEX",
+             f"-I{EXAMPLE}", f"-I{example.texts}", source], check=False, text=True, stderr=subprocess.PIPE)
+        assert "fatal error" not in done.stderr and "[-Wvolatile]" not in done.stderr, done.stderr
+
+
 def guards(_: Example) -> None:
     """No guard is the name of a header of somebody else."""
     for header in headers():
@@ -127,7 +138,6 @@ def licence(_: Example) -> None:
         assert NOTICE.search(head), f"{name} starts with\n{head}"
 
 
-CASES = {"cplusplus": cplusplus, "oneUnit": one_unit, "guards": guards, "licence": licence}
-
 if __name__ == "__main__":
-    main(CASES)
+    main({"cplusplus": cplusplus, "oneUnit": one_unit, "volatile": volatile, "guards": guards,
+          "licence": licence})
