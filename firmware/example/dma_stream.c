@@ -3,12 +3,12 @@
 #include "dma_stream.h"
 
 #include "board.h"
-#include "dma.h"
+#include "board_dma.h"
 
 enum { ITEMS = 2, NONE = 255 };
 
 /* Samples are read into the half itself and become items there, which may take twice the room. */
-static int16_t buffer[DMA_HALVES * DMA_STREAM_HALF * ITEMS];
+static int16_t buffer[BOARD_DMA_HALVES * DMA_STREAM_HALF * ITEMS];
 /* Items of one byte are made beside it: the samples of a half would reach into the other one. */
 static int16_t beside[DMA_STREAM_HALF];
 
@@ -16,7 +16,7 @@ static const player_sound* source;
 static const dma_output* sink;
 static dma_fill context;
 static volatile uint8_t last; /* the half that the sound ends in, or NONE */
-static volatile uint8_t wanted[DMA_HALVES];
+static volatile uint8_t wanted[BOARD_DMA_HALVES];
 static volatile uint8_t playing;
 
 static size_t read_samples(int16_t* samples) {
@@ -58,13 +58,13 @@ static void fill_half(uint8_t half) {
 
 static void half_played(uint8_t half) {
   if (half == last) {
-    dma_stop();
+    board_stop_dma();
     playing = 0;
   } else if (context == DMA_FILL_IN_MAIN) {
     wanted[half] = 1;
   } else {
     fill_half(half);
-    dma_filled(half);
+    board_dma_filled(half);
   }
 }
 
@@ -72,7 +72,7 @@ static void fill_wanted(uint8_t half) {
   if (wanted[half]) {
     wanted[half] = 0;
     fill_half(half);
-    dma_filled(half);
+    board_dma_filled(half);
   }
 }
 
@@ -90,13 +90,14 @@ int dma_stream_play(const char* name, const player_sound* sound, const dma_outpu
   playing = 1;
   fill_half(0);
   fill_half(1);
-  const dma_transfer transfer = {buffer, (uint16_t)(DMA_STREAM_HALF * output->items_per_sample),
-                                 output->item_size, half_played};
-  dma_start(sound->rate * output->items_per_sample, &transfer);
+  const board_dma_transfer transfer = {buffer,
+                                       (uint16_t)(DMA_STREAM_HALF * output->items_per_sample),
+                                       output->item_size, half_played};
+  board_start_dma(sound->rate * output->items_per_sample, &transfer);
   while (playing) {
     fill_wanted(0);
     fill_wanted(1);
     board_wait();
   }
-  return board_close_dac() != 0 || dma_was_late();
+  return board_close_dac() != 0 || board_dma_was_late();
 }

@@ -107,7 +107,7 @@ def keep_ends(example: Example, compile_: tuple[str | Path, ...], *emulate: str 
     """Fragments that end before, at and behind the end of a half, and an empty one."""
     program = example.work / "ends.elf"
     readers = (READERS / f"kestrolin_{name}.c" for name in ("dac", "i2s", "pwm"))
-    own = (EXAMPLE / f"{name}.c" for name in ("dma", "dma_outputs", "dma_stream"))
+    own = (EXAMPLE / f"{name}.c" for name in ("board_dma", "dma_outputs", "dma_stream"))
     run(*compile_, "-std=c99", "-Wall", "-Wextra", "-Werror", f"-I{EXAMPLE}", "-o", program,
         HERE / "dmaTest.c", *readers, *own)
     heard = example.work / "heard"

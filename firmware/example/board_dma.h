@@ -7,8 +7,8 @@
  *
  * On a real board this is replaced by the controller's own set-up.
  */
-#ifndef KESTROLIN_EXAMPLE_DMA_H
-#define KESTROLIN_EXAMPLE_DMA_H
+#ifndef KESTROLIN_EXAMPLE_BOARD_DMA_H
+#define KESTROLIN_EXAMPLE_BOARD_DMA_H
 
 #include <stdint.h>
 
@@ -16,27 +16,28 @@
 extern "C" {
 #endif
 
-enum { DMA_HALVES = 2 };
+enum { BOARD_DMA_HALVES = 2 };
 
-typedef struct dma_transfer {
+typedef struct board_dma_transfer {
   const void* buffer;
   uint16_t half_items; /* items in each of its halves */
   uint8_t item_size;   /* bytes: 1 or 2 */
   /* The half, 0 or 1, that was just played. Comes from an interrupt of lower priority than the
    * timer's; the transfer goes on meanwhile, with the other half. */
   void (*half_played)(uint8_t half);
-} dma_transfer;
+} board_dma_transfer;
 
 /* Takes `rate` items a second from here on. Both halves are filled. */
-void dma_start(uint32_t rate, const dma_transfer* transfer);
+void board_start_dma(uint32_t rate, const board_dma_transfer* transfer);
 
 /* Tells that this half, which was played, holds new items. */
-void dma_filled(uint8_t which);
+void board_dma_filled(uint8_t which);
 
-void dma_stop(void);
+void board_stop_dma(void);
 
-/* Whether the transfer came to a half before dma_filled told of it: old items were played again. */
-int dma_was_late(void);
+/* Whether the transfer came to a half before board_dma_filled told of it: old items were played
+ * again. */
+int board_dma_was_late(void);
 
 #ifdef __cplusplus
 }

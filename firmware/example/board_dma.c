@@ -1,13 +1,13 @@
 /* SPDX-FileCopyrightText: 2026 The Kestrolin team
  * SPDX-License-Identifier: MIT */
-#include "dma.h"
+#include "board_dma.h"
 
 #include "board.h"
 
-static dma_transfer current;
+static board_dma_transfer current;
 static uint16_t at;  /* the next item of the half */
 static uint8_t half; /* that is played */
-static volatile uint8_t filled[DMA_HALVES];
+static volatile uint8_t filled[BOARD_DMA_HALVES];
 static volatile uint8_t played; /* the half that the program is to be told of */
 static volatile uint8_t late;
 
@@ -37,25 +37,25 @@ static void transfer_item(void) {
   }
 }
 
-void dma_start(uint32_t rate, const dma_transfer* transfer) {
+void board_start_dma(uint32_t rate, const board_dma_transfer* transfer) {
   current = *transfer;
   at = 0;
   half = 0;
   late = 0;
-  dma_filled(0);
-  dma_filled(1);
+  board_dma_filled(0);
+  board_dma_filled(1);
   board_start_timer(rate, transfer_item);
 }
 
-void dma_filled(uint8_t which) {
+void board_dma_filled(uint8_t which) {
   board_publish();
   filled[which] = 1;
 }
 
-void dma_stop(void) {
+void board_stop_dma(void) {
   board_stop_timer();
 }
 
-int dma_was_late(void) {
+int board_dma_was_late(void) {
   return late;
 }
