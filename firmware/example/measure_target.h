@@ -8,6 +8,10 @@
 
 #include <stdint.h>
 
+#ifdef __cplusplus
+extern "C" {
+#endif
+
 /* Starts the counter. Returns 0 where it counts as it should. */
 int target_start(void);
 
@@ -37,5 +41,9 @@ static inline __attribute__((always_inline)) volatile unsigned char* target_stac
 #endif
   return pointer;
 }
+
+#ifdef __cplusplus
+}
+#endif
 
 #endif
