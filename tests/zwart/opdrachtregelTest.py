@@ -41,7 +41,7 @@ FIGUUR = re.compile(r"-?\d+\.\d(?= |$)", re.M)
 
 def codes_van(*wavs: Path) -> list[int]:
     """What a DAC of 12 bits gets for these recordings."""
-    return [int(sample / 16) + 2048 for wav in wavs for sample in samples_in(wav)[0]]
+    return [int(sample / 16) + 2048 for wav in wavs for sample in [*samples_in(wav)[0], 0]]
 
 
 def keur_afdruk(gezegd: str, afdruk: str) -> None:
