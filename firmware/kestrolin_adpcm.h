@@ -39,7 +39,8 @@
 extern "C" {
 #endif
 
-/* A place in an array; 24 bytes where pointers have four. The fields are for reading. */
+/* A place in an array; 24 bytes where pointers have four. The fields are for reading. It belongs to
+ * one context at a time: see kestrolin_status.h, "Interrupts". */
 typedef struct kestrolin_adpcm {
   const unsigned char* next; /* the byte of the next code */
   size_t left;               /* samples not decoded yet; right after opening, all of them */

@@ -25,7 +25,8 @@
 extern "C" {
 #endif
 
-/* A place in an array. The fields are for reading. */
+/* A place in an array. The fields are for reading. It belongs to one context at a time: see
+ * kestrolin_status.h, "Interrupts". */
 typedef struct kestrolin_pcm {
   const unsigned char* next; /* low byte of the next sample */
   size_t left;               /* samples not read yet; right after opening, all of them */

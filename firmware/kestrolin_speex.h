@@ -52,7 +52,8 @@
 extern "C" {
 #endif
 
-/* A place in an array. The fields are for reading. */
+/* A place in an array. The fields are for reading. It belongs to one context at a time: see
+ * kestrolin_status.h, "Interrupts". */
 typedef struct kestrolin_speex {
   const signed char* next; /* the size byte of the next frame */
   size_t left;             /* bytes from there to the end of the array */

@@ -49,7 +49,8 @@ extern "C" {
 #define KESTROLIN_WAV_IMA_ADPCM 17
 #define KESTROLIN_WAV_IMA_CHANNELS 2
 
-/* A place in an image. The fields are for reading. */
+/* A place in an image. The fields are for reading. It belongs to one context at a time: see
+ * kestrolin_status.h, "Interrupts". */
 typedef struct kestrolin_wav {
   const unsigned char* next; /* PCM: the next sample; IMA ADPCM: the block that it lies in */
   size_t left;               /* samples not read yet, of all channels together */
