@@ -69,18 +69,18 @@ enum { PAINT = 0x5A };
 
 static inline __attribute__((always_inline)) void paint_stack(void) {
   volatile unsigned char* top = target_stack_pointer();
-  for (uint16_t byte = 1; byte <= TARGET_STACK; ++byte) {
+  for (size_t byte = 1; byte <= TARGET_STACK; ++byte) {
     *(top - byte) = PAINT;
   }
 }
 
 static inline __attribute__((always_inline)) uint32_t stack_used(void) {
   volatile unsigned char* top = target_stack_pointer();
-  uint16_t bytes = TARGET_STACK;
+  size_t bytes = TARGET_STACK;
   while (bytes > 0 && *(top - bytes) == PAINT) {
     --bytes;
   }
-  return bytes;
+  return (uint32_t)bytes;
 }
 
 /* Opens `array` with the reader `kind`, reads it to its end, and reports both. */
@@ -129,7 +129,7 @@ static int measure_readers(void) {
     measured.stack = stack_used();                           \
     measured.reading = hundredths(measured.reading, BLOCK);  \
     start = target_count();                                  \
-    for (uint16_t i = 0; i < BLOCK; ++i) {                   \
+    for (size_t i = 0; i < BLOCK; ++i) {                     \
       one;                                                   \
     }                                                        \
     measured.single = hundredths(count_since(start), BLOCK); \

@@ -6,6 +6,7 @@
 #ifndef KESTROLIN_EXAMPLE_MEASURE_TARGET_H
 #define KESTROLIN_EXAMPLE_MEASURE_TARGET_H
 
+#include <stddef.h>
 #include <stdint.h>
 
 #ifdef __cplusplus
@@ -31,7 +32,7 @@ enum { TARGET_STACK = 8192 };
 #endif
 
 static inline __attribute__((always_inline)) volatile unsigned char* target_stack_pointer(void) {
-  volatile unsigned char* pointer;
+  volatile unsigned char* pointer = NULL;
 #ifdef __AVR__
   __asm__ volatile("in %A0, __SP_L__\n\tin %B0, __SP_H__" : "=r"(pointer));
 #elif defined(__riscv)
