@@ -6,7 +6,7 @@
 TEST(AvrIntegers, BreakNothing) {
   Toolchain const target = avr();
   testing::AssertionResult const installed = isInstalled(target);
-  if (!installed && !isTargetRequired()) {
+  if (!installed && !isRequired(target)) {
     GTEST_SKIP() << installed.message();
   }
   ASSERT_TRUE(installed);

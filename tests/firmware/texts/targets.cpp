@@ -77,6 +77,7 @@ Toolchain riscV() {
 Toolchain bigEndian() {
   Toolchain target;
   target.name = "s390x";
+  target.demand = "KESTROLIN_PROCESSORS";  // as other tests of this processor
   target.programs = {"s390x-linux-gnu-gcc", "s390x-linux-gnu-g++", "qemu-s390x-static"};
   target.packages = {"g++-s390x-linux-gnu", "qemu-user-static"};
   target.c = "s390x-linux-gnu-gcc" + flags;

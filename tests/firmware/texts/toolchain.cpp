@@ -64,9 +64,9 @@ testing::AssertionResult isInstalled(Toolchain const& toolchain) {
          << *missing << " is not installed: apt-get install" << withBlanks(toolchain.packages);
 }
 
-bool isTargetRequired() {
-  char const* const target = std::getenv("KESTROLIN_TARGET");
-  return target != nullptr && target == std::string_view("required");
+bool isRequired(Toolchain const& toolchain) {
+  char const* const said = std::getenv(toolchain.demand.c_str());
+  return said != nullptr && said == std::string_view("required");
 }
 
 ProgramMaker::ProgramMaker(Toolchain chain, std::string const& folder)

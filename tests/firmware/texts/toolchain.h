@@ -22,6 +22,7 @@ struct Toolchain {
   std::string link;       // the linker, with its flags
   std::string libraries;  // behind the objects
   std::string run;        // runs "./program", which writes "stream.bin"
+  std::string demand = "KESTROLIN_TARGET";  // the variable that says "required" of these tools
   std::size_t parts = 1;  // programs that the fragments are dealt out to, for want of room
 };
 
@@ -40,8 +41,8 @@ Toolchain bigEndian();  // the other byte order, in a user's process
 // Tells of the first program or file that is not there, and of the packages.
 testing::AssertionResult isInstalled(Toolchain const& toolchain);
 
-// Whether a machine without a target's tools fails a test, where it would otherwise skip it.
-bool isTargetRequired();
+// Whether a machine without these tools fails a test, where it would otherwise skip it.
+bool isRequired(Toolchain const& toolchain);
 
 // Makes programs in a folder of its own, `folder` with the toolchain's name.
 class ProgramMaker {
