@@ -131,6 +131,9 @@ void VensterStart::rust() {
   if (leeft()) {
     wxTheApp->ProcessIdle();
     wxYield();
+  }
+  // A window that was closing may have gone meanwhile.
+  if (leeft()) {
     venster->UpdateWindowUI(wxUPDATE_UI_RECURSE);
   }
 }
