@@ -68,6 +68,8 @@ static bool play(const unsigned char* array, size_t size) {
   OCR2A = F_CPU / 8 / sound.rate - 1;
   TCNT2 = 0;
   TIFR2 = _BV(OCF2A);  // an interrupt that waits is an old one
+  // The compiler must not put off what it writes to the reader until the interrupt is on.
+  __asm__ volatile("" ::: "memory");
   TIMSK2 = _BV(OCIE2A);
   return true;
 }
