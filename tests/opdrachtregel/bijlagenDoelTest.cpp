@@ -177,4 +177,22 @@ TEST_F(BijlagenDoel, ASourceThatCannotBeWrittenStopsAll) {
   EXPECT_EQ(inhoud(), (std::vector<std::string>{"alarm.wav", "bel.wav"}));
 }
 
+TEST_F(BijlagenDoel, NamesThatTheStatesHave) {
+  std::vector<std::string> const opties{"--encoder",      "adpcm",    "--states", "-o",      "t",
+                                        "--declarations", "geluid.h", "--source", "geluid.c"};
+  auto const eis = [&](std::vector<std::string> woorden, std::string const& regel) {
+    woorden.insert(woorden.end(), opties.begin(), opties.end());
+    Afloop const afloop = voer(woorden);
+    EXPECT_EQ(afloop.status, 1);
+    EXPECT_EQ(afloop.fouten, "kestrolin-cli: " + regel + "\n");
+  };
+  maakWav(map.pad("bel_state.wav"), {1});
+  eis({"encode", "bel_state.wav", "bel.wav"},
+      "bel_state.wav: its array would be called \"bel_state\", as the state of that of bel.wav; "
+      "rename one of them");
+  eis({"encode", "bel.wav", "--language", "c++", "--class", "bel_state"},
+      "bel.wav: the state of its array would be called \"bel_state\", as its class is; rename the "
+      "file or the class");
+}
+
 }  // namespace

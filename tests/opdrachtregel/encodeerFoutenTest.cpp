@@ -151,18 +151,6 @@ TEST_F(EncodeerFouten, AnArrayCalledAsTheSizeOfAnother) {
   EXPECT_EQ(voer({"encode", "goed_size.wav", "goed.wav", "-o", "-"}).status, 0);
 }
 
-TEST_F(EncodeerFouten, AnArrayCalledAsTheStateOfAnother) {
-  maakWav(map.pad("goed_state.wav"), {1});
-  eis({"goed_state.wav", "goed.wav", "--encoder", "adpcm", "--states", "--declarations", "t.h",
-       "--source", "t.c"},
-      "kestrolin-cli: goed_state.wav: its array would be called \"goed_state\", as the state of "
-      "that of goed.wav; rename one of them\n");
-  eis({"goed.wav", "--encoder", "adpcm", "--states", "--language", "c++", "--class", "goed_state",
-       "--declarations", "t.h", "--source", "t.c"},
-      "kestrolin-cli: goed.wav: the state of its array would be called \"goed_state\", as its "
-      "class is; rename the file or the class\n");
-}
-
 TEST_F(EncodeerFouten, NamesThatCannotStandInAComment) {
   maakWav(map.pad("regel.wa\nv"), {1});
   eis({"regel.wa\nv"},

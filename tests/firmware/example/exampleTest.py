@@ -32,11 +32,9 @@ TOOLS = ("arm-none-eabi-gcc", "qemu-system-arm")
 PACKAGES = "gcc-arm-none-eabi libnewlib-arm-none-eabi qemu-system-arm"
 # What else is measured, and the packages that have the tools for it.
 OTHER_TARGETS = {
-    "/usr/bin/avr-gcc": "gcc-avr",
     "/usr/lib/avr/include/avr/pgmspace.h": "avr-libc",
     "/usr/include/simavr/sim_avr.h": "libsimavr-dev",
     "/usr/include/libelf.h": "libelf-dev",
-    "/usr/bin/riscv64-unknown-elf-gcc": "gcc-riscv64-unknown-elf",
     "/usr/lib/picolibc/riscv64-unknown-elf/picolibc.specs": "picolibc-riscv64-unknown-elf",
     "/usr/bin/qemu-system-riscv32": "qemu-system-misc",
 }
